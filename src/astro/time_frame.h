@@ -1,0 +1,44 @@
+#pragma once
+// From the birth data to the chart's frame of time and sky.
+
+#include <string>
+
+#include "chart/natal_data.h"
+
+namespace tolvanis {
+
+// Everything the rest of a chart needs of the moment and the place.
+struct TimeFrame {
+    double UtDayFraction = 0.0;     // Universal Time in days of the civil date; may exceed 1 or be negative
+    double JulianDayNumber = 0.0;   // of the civil date, at noon
+    double JulianDay = 0.0;         // of the instant
+    double Centuries = 0.0;         // Julian centuries of 36525 days from 1900 January 0.5
+    double LatitudeRad = 0.0;       // north positive
+    double LongitudeDegrees = 0.0;  // west positive
+    double RAMC = 0.0;              // radians, right ascension of the Midheaven
+    double ObliquityDegrees = 0.0;  // mean obliquity of date
+    double Obliquity = 0.0;         // radians
+    double Midheaven = 0.0;         // degrees
+    double Ascendant = 0.0;         // degrees
+    double ZenithEclipticLatitude = 0.0;  // radians
+    int SiderealHours = 0;                // for display; 12 hours on where the latitude is south
+    int SiderealMinutes = 0;
+    int SiderealSeconds = 0;
+};
+
+// The Julian day number (at noon) of a date: Gregorian from 15 October 1582 on, Julian before. Days beyond
+// the month's end run on into the next month. Source of the formula: the day count by months of 1461 / 48
+// days, with the century correction of the Gregorian rule. Months 1 to 12, years 100 to 2099.
+double JulianDayNumberOf(int year, int month, int day);
+
+// Mean obliquity of the ecliptic of date in degrees, from centuries since 1900 January 0.5 (Newcomb 1895).
+double MeanObliquity(double centuries);
+
+// The frame of a birth. Sidereal time is Newcomb's, with the time of day inside the centuries; the Ascendant
+// is the zenith's ecliptic longitude plus 90 degrees.
+TimeFrame ComputeTimeFrame(const NatalData& natal);
+
+// "05H  07M  09S "
+std::string SiderealTimeText(const TimeFrame& frame);
+
+}  // namespace tolvanis

@@ -1,0 +1,105 @@
+#include "birthdata/name_record.h"
+
+#include <cmath>
+
+#include "text/columns.h"
+#include "text/fields.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::size_t kFieldCount = 7;
+
+Fault FieldFault(int number, std::string_view label, std::string_view text, std::string_view problem) {
+    return {"field " + std::to_string(number) + " (" + std::string(label) + "): \"" + std::string(text) +
+            "\" " + std::string(problem)};
+}
+
+struct PackedParts {
+    std::string whole;
+    std::string sixtieths;
+};
+
+PackedParts SplitPacked(double value) {
+    const double whole = std::trunc(value);
+    const double sixtieths = std::abs(value - whole) * 100.0;
+    return {NumberText(std::abs(whole)), FormatMask(sixtieths, "#0")};
+}
+
+double PackedNumber(const std::string& whole, const std::string& sixtieths, bool negative) {
+    const double value = RoundToInt16(LeadingNumber(whole)) + RoundToInt16(LeadingNumber(sixtieths)) / 100.0;
+    return negative ? -value : value;
+}
+
+}  // namespace
+
+Result<NameRecord> ParseNameRecord(std::string_view line) {
+    std::vector<std::string> fields = SplitFields(line);
+    if (fields.front().empty()) return NameRecord{};
+    if (fields.size() != kFieldCount) {
+        return Fault{"the record has " + std::to_string(fields.size()) +
+                     (fields.size() == 1 ? " field" : " fields") + " instead of 7" +
+                     (fields.size() > kFieldCount ? " (a name cannot hold a comma)" : "")};
+    }
+    return NameRecord{fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]};
+}
+
+std::string FormatNameRecord(const NameRecord& record) {
+    std::string line = record.name;
+    for (const std::string* field : {&record.date, &record.time, &record.halfDay, &record.timeZone,
+                                     &record.longitude, &record.latitude}) {
+        line.append(",").append(*field);
+    }
+    return line;
+}
+
+Result<NatalEntry> EntryFromRecord(const NameRecord& record) {
+    const auto date = ParseDate(record.date);
+    if (!date) return FieldFault(2, "birth date", record.date, "is no date of the form dd mmm yyyy");
+    const auto time = WholeNumber(record.time);
+    if (!time) return FieldFault(3, "clock time", record.time, "is no number");
+    if (*time < 0 || *time >= 13)
+        return FieldFault(3, "clock time", record.time, "is no time on the 12-hour dial");
+    const auto zone = WholeNumber(record.timeZone);
+    if (!zone) return FieldFault(5, "time zone", record.timeZone, "is no number");
+    const auto longitude = WholeNumber(record.longitude);
+    if (!longitude) return FieldFault(6, "longitude", record.longitude, "is no number");
+    const auto latitude = WholeNumber(record.latitude);
+    if (!latitude) return FieldFault(7, "latitude", record.latitude, "is no number");
+
+    NatalEntry entry;
+    entry.name = record.name;
+    entry.day = std::to_string(date->day);
+    entry.month = std::to_string(date->month);
+    entry.year = std::to_string(date->year);
+    const PackedParts clock = SplitPacked(*time);
+    entry.birthHour = ApplyHourRule(clock.whole).text;
+    entry.birthMinute = clock.sixtieths;
+    entry.pm = !EqualIgnoringCase(record.halfDay, "A");
+    entry.timeZone = NumberText(*zone);
+    const PackedParts east = SplitPacked(*longitude);
+    entry.longDeg = east.whole;
+    entry.longMin = east.sixtieths;
+    entry.east = *longitude < 0;
+    const PackedParts north = SplitPacked(*latitude);
+    entry.latDeg = north.whole;
+    entry.latMin = north.sixtieths;
+    entry.south = *latitude < 0;
+    return entry;
+}
+
+NameRecord RecordFromEntry(const NatalEntry& entry) {
+    const auto number = [](const std::string& text) { return int{RoundToInt16(LeadingNumber(text))}; };
+    NameRecord record;
+    record.name = entry.name;
+    record.date = FormatDate({number(entry.year), number(entry.month), number(entry.day)});
+    record.time = FormatMask(PackedNumber(entry.birthHour, entry.birthMinute, false), "##.#0");
+    record.halfDay = entry.pm ? "P" : "A";
+    record.timeZone = entry.timeZone;
+    record.longitude = FormatMask(PackedNumber(entry.longDeg, entry.longMin, entry.east), "#00#.#0");
+    record.latitude = FormatMask(PackedNumber(entry.latDeg, entry.latMin, entry.south), "#0#.#0");
+    return record;
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,196 @@
+#include "birthdata/natal_entry.h"
+
+#include <cmath>
+
+#include "text/columns.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string_view kInputErrorText = "Error in natal input data section. Please correct.";
+constexpr std::string_view kPolarLatitudeText =
+    "Your latitude is too high. Lower to 66 degrees, 00 minutes or below OR change house systems.";
+
+struct Box {
+    EntryField field;
+    std::string NatalEntry::*text;
+    std::string_view label;
+};
+
+constexpr Box kMonth = {EntryField::Month, &NatalEntry::month, "birth month"};
+constexpr Box kDay = {EntryField::Day, &NatalEntry::day, "birth day"};
+constexpr Box kYear = {EntryField::Year, &NatalEntry::year, "birth year"};
+constexpr Box kHour = {EntryField::BirthHour, &NatalEntry::birthHour, "birth hour"};
+constexpr Box kMinute = {EntryField::BirthMinute, &NatalEntry::birthMinute, "birth minute"};
+constexpr Box kZone = {EntryField::TimeZone, &NatalEntry::timeZone, "time zone"};
+constexpr Box kLongDeg = {EntryField::LongDeg, &NatalEntry::longDeg, "longitude degrees"};
+constexpr Box kLongMin = {EntryField::LongMin, &NatalEntry::longMin, "longitude minutes"};
+constexpr Box kLatDeg = {EntryField::LatDeg, &NatalEntry::latDeg, "latitude degrees"};
+constexpr Box kLatMin = {EntryField::LatMin, &NatalEntry::latMin, "latitude minutes"};
+
+// Boxes whose faults are reported together as one.
+using Group = std::vector<Box>;
+const std::vector<Group> kGroupsThatMustBeFilled = {
+    {kMonth, kDay, kYear}, {kHour, kMinute, kZone}, {kLongDeg, kLongMin}, {kLatDeg, kLatMin}};
+
+struct Bound {
+    Box box;
+    double limit;
+    bool above;  // a value above the limit is a fault, else one below it
+};
+
+const std::vector<std::vector<Bound>> kBounds = {
+    {{kYear, 2099, true}, {kMonth, 12, true}, {kDay, 31, true}},
+    {{kHour, 12, true}, {kMinute, 59, true}},
+    {{kZone, 12, true}, {kZone, -13, false}},
+    {{kLongDeg, 180, true}, {kLongMin, 59, true}},
+    {{kLatMin, 59, true}},
+    {{kYear, 100, false}},
+};
+
+double Value(const NatalEntry& entry, const Box& box) {
+    return LeadingNumber(entry.*box.text);
+}
+
+std::string Quoted(const NatalEntry& entry, const Box& box) {
+    return std::string(box.label) + " " + std::string(TrimBlanks(entry.*box.text));
+}
+
+// Collects the boxes that fail into one fault.
+class FaultOf {
+  public:
+    void Add(EntryField field, const std::string& detail) {
+        if (fault_.detail.empty()) fault_.field = field;
+        fault_.detail += (fault_.detail.empty() ? "" : ", ") + detail;
+    }
+    void Report(std::vector<InputFault>& faults) const {
+        if (!fault_.detail.empty()) faults.push_back(fault_);
+    }
+
+  private:
+    InputFault fault_{EntryField::Name, "", false};
+};
+
+std::int16_t Whole(const std::string& text) {
+    return RoundToInt16(LeadingNumber(text));
+}
+
+float Packed(const std::string& degrees, const std::string& minutes, bool negative) {
+    const double packed = Whole(degrees) + Whole(minutes) / 100.0;
+    return static_cast<float>(negative ? -packed : packed);
+}
+
+}  // namespace
+
+std::string_view InputFault::Message() const {
+    return polarLatitude ? kPolarLatitudeText : kInputErrorText;
+}
+
+NatalEntry FillNow(const LocalTime& now, const Options& options) {
+    NatalEntry entry;
+    entry.name = kNowName;
+    entry.month = std::to_string(now.date.month);
+    entry.day = std::to_string(now.date.day);
+    entry.year = std::to_string(now.date.year);
+    entry.birthHour = ApplyHourRule(std::to_string(now.hour)).text;
+    entry.birthMinute = std::to_string(now.minute);
+    entry.pm = now.hour >= 12;
+    entry.timeZone = NumberText(options[18]);
+    entry.longDeg = NumberText(options[19]);
+    entry.longMin = NumberText(options[20]);
+    entry.east = options[21] != 0.0F;
+    entry.latDeg = NumberText(options[22]);
+    entry.latMin = NumberText(options[23]);
+    entry.south = options[24] != 0.0F;
+    return entry;
+}
+
+HourRule ApplyHourRule(std::string_view text) {
+    if (TrimBlanks(text).empty()) return {HourRule::Outcome::AskForValue, std::string(text), false};
+    const auto hour = WholeNumber(text);
+    if (!hour) return {HourRule::Outcome::TooFast, std::string(text), false};
+    if (*hour == 0) return {HourRule::Outcome::Keep, "12", false};
+    if (*hour > 12) return {HourRule::Outcome::Keep, NumberText(*hour - 12), true};
+    return {HourRule::Outcome::Keep, std::string(text), false};
+}
+
+std::string ZoneForSide(std::string_view timeZone, bool east) {
+    const double zone = std::abs(LeadingNumber(timeZone));
+    return NumberText(east ? -zone : zone);
+}
+
+std::vector<InputFault> CheckPresence(const NatalEntry& entry) {
+    std::vector<InputFault> faults;
+    FaultOf zero;
+    for (const Box& box : {kMonth, kDay, kYear}) {
+        if (Value(entry, box) == 0) zero.Add(box.field, std::string(box.label) + " is 0");
+    }
+    zero.Report(faults);
+    for (const Group& group : kGroupsThatMustBeFilled) {
+        FaultOf empty;
+        for (const Box& box : group) {
+            if (TrimBlanks(entry.*box.text).empty())
+                empty.Add(box.field, std::string(box.label) + " is empty");
+        }
+        empty.Report(faults);
+    }
+    if (!entry.east && Value(entry, kZone) < -2) {
+        FaultOf side;
+        side.Add(EntryField::TimeZone, Quoted(entry, kZone) + " lies too far east for a western longitude");
+        side.Report(faults);
+    }
+    return faults;
+}
+
+std::vector<InputFault> CheckPolarLatitude(const NatalEntry& entry, HouseSystem system) {
+    const double latitude = Value(entry, kLatDeg) + Value(entry, kLatMin) / 100.0;
+    if (!NeedsModerateLatitude(system) || latitude <= 66.0) return {};
+    const std::string detail = "latitude " + FormatMask(latitude, "#0.00") +
+                               " is above 66.00, where only Meridian and Morinus houses are computed";
+    return {{EntryField::LatDeg, detail, true}};
+}
+
+std::vector<InputFault> CheckRanges(const NatalEntry& entry) {
+    std::vector<InputFault> faults;
+    for (const std::vector<Bound>& line : kBounds) {
+        FaultOf fault;
+        for (const Bound& bound : line) {
+            const double value = Value(entry, bound.box);
+            if (bound.above ? value <= bound.limit : value >= bound.limit) continue;
+            fault.Add(bound.box.field, Quoted(entry, bound.box) +
+                                           (bound.above ? " is above " : " is below ") +
+                                           NumberText(bound.limit));
+        }
+        fault.Report(faults);
+    }
+    return faults;
+}
+
+std::vector<InputFault> CheckEntry(const NatalEntry& entry, HouseSystem system) {
+    std::vector<InputFault> faults = CheckPresence(entry);
+    for (const auto& more : {CheckPolarLatitude(entry, system), CheckRanges(entry)}) {
+        faults.insert(faults.end(), more.begin(), more.end());
+    }
+    return faults;
+}
+
+NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate) {
+    NatalData data;
+    data.Name = entry.name;
+    data.Day = Whole(entry.day);
+    data.Month = Whole(entry.month);
+    data.Year = Whole(entry.year);
+    data.DateText = JoinDate(entry.year, entry.month, entry.day, iDate);
+    data.ClockTime = Whole(entry.birthHour) + Whole(entry.birthMinute) / 100.0;
+    data.AmPm = entry.pm ? "P.M." : "A.M.";
+    data.TimeZone = LeadingNumber(entry.timeZone);
+    data.Longitude = Packed(entry.longDeg, entry.longMin, entry.east);
+    data.LongitudeSide = data.Longitude < 0 ? "EAST" : "WEST";
+    data.Latitude = Packed(entry.latDeg, entry.latMin, entry.south);
+    data.LatitudeSide = data.Latitude < 0 ? "SOUTH" : "NORTH";
+    data.HouseSystem = system;
+    return data;
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,38 @@
+#pragma once
+// A computed chart.
+
+#include <string>
+
+#include "chart/chart_point.h"
+#include "chart/house_system.h"
+
+namespace tolvanis {
+
+// Longitudes lie in 0 <= x < 360; all angles are degrees unless a comment says radians.
+struct ChartPositions {
+    double JulianDay = 0.0;  // of the birth's Universal Time
+    double Centuries = 0.0;  // Julian centuries from 1900 January 0.5
+    double Obliquity = 0.0;  // radians
+    double ObliquityDegrees = 0.0;
+    double RAMC = 0.0;  // radians
+    std::string SiderealTimeText;
+    double Midheaven = 0.0;
+    double Ascendant = 0.0;
+    double Vertex = 0.0;
+    double EquatorialAscendant = 0.0;
+    double CoAscendant = 0.0;
+    double PolarAscendant = 0.0;
+    tolvanis::HouseCusps HouseCusps;
+    PerPoint<double> PointLongitude;
+    PerPoint<double> PointLatitude;
+    PerPoint<double> PointDeclination;
+    PerPoint<int> PointHouse;           // 1 to 12
+    PerPoint<double> NextDayLongitude;  // one day later; for the retrograde flags only
+    std::string RetrogradeFlags = std::string(kChartPointCount, ' ');  // "R" at a retrograde point's place
+    double TrueNodeLongitude = -100.0;
+    double TrueNodeDeclination = 0.0;
+
+    bool IsRetrograde(int point) const { return RetrogradeFlags[static_cast<std::size_t>(point - 1)] == 'R'; }
+};
+
+}  // namespace tolvanis

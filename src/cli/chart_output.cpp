@@ -1,0 +1,155 @@
+#include "cli/chart_output.h"
+
+#include <charconv>
+
+#include "astro/angles.h"
+
+namespace tolvanis {
+namespace {
+
+// Composes one JSON value; the caller keeps the brackets in balance.
+class JsonWriter {
+  public:
+    void Open(char bracket) {
+        Separate();
+        text_ += bracket;
+        first_ = true;
+    }
+    void Close(char bracket) {
+        text_ += bracket;
+        first_ = false;
+    }
+    void Key(std::string_view key) {
+        Separate();
+        Quote(key);
+        text_ += ':';
+        first_ = true;
+    }
+    void String(std::string_view value) {
+        Separate();
+        Quote(value);
+    }
+    void Number(double value) {
+        Separate();
+        char buffer[32];
+        const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+        text_.append(buffer, end);
+    }
+    void Bool(bool value) {
+        Separate();
+        text_ += value ? "true" : "false";
+    }
+    void Member(std::string_view key, double value) {
+        Key(key);
+        Number(value);
+    }
+    void Member(std::string_view key, std::string_view value) {
+        Key(key);
+        String(value);
+    }
+    std::string Take() { return std::move(text_); }
+
+  private:
+    void Separate() {
+        if (!first_) text_ += ',';
+        first_ = false;
+    }
+    void Quote(std::string_view value) {
+        text_ += '"';
+        for (const char c : value) {
+            if (c == '"' || c == '\\') {
+                text_.append(1, '\\').append(1, c);
+            } else if (static_cast<unsigned char>(c) < 0x20) {
+                constexpr std::string_view kHex = "0123456789abcdef";
+                text_.append("\\u00").append(1, kHex[static_cast<std::size_t>(c) >> 4]);
+                text_ += kHex[static_cast<std::size_t>(c) & 15];
+            } else {
+                text_ += c;
+            }
+        }
+        text_ += '"';
+    }
+
+    std::string text_;
+    bool first_ = true;
+};
+
+void WritePoints(JsonWriter& json, const ChartPositions& chart) {
+    json.Key("points");
+    json.Open('[');
+    for (int point = 1; point <= kChartPointCount; ++point) {
+        json.Open('{');
+        json.Member("name", PointName(point));
+        json.Member("longitude", chart.PointLongitude[point]);
+        json.Member("latitude", chart.PointLatitude[point]);
+        json.Member("declination", chart.PointDeclination[point]);
+        json.Member("house", chart.PointHouse[point]);
+        json.Key("retrograde");
+        json.Bool(chart.IsRetrograde(point));
+        json.Close('}');
+    }
+    json.Close(']');
+}
+
+void WriteAspects(JsonWriter& json, const FoundAspects& aspects) {
+    json.Key("aspects");
+    json.Open('[');
+    for (const FoundAspect& aspect : aspects.list()) {
+        json.Open('{');
+        json.Member("first", kGridNames[static_cast<std::size_t>(aspect.row - 1)]);
+        json.Member("second", kGridNames[static_cast<std::size_t>(aspect.column - 1)]);
+        json.Member("code", aspect.code);
+        json.Member("angle", DefinitionOf(aspect.code).angle);
+        json.Member("separation", aspect.separation);
+        json.Member("fromExact", aspect.fromExact);
+        json.Close('}');
+    }
+    json.Close(']');
+}
+
+}  // namespace
+
+std::string ChartAsText(const CurrentChart& chart, const Options& options) {
+    DataBuffer buffer;
+    WriteChart(buffer, chart, options);
+    buffer.AppendBlankLine();  // as every showing in the window does
+    return buffer.ListingText("\n");
+}
+
+std::string ChartAsJson(const CurrentChart& chart) {
+    const NatalData& natal = chart.natal;
+    const ChartPositions& positions = chart.positions;
+    JsonWriter json;
+    json.Open('{');
+    json.Member("name", natal.Name);
+    json.Member("year", natal.Year);
+    json.Member("month", natal.Month);
+    json.Member("day", natal.Day);
+    json.Member("houseSystem", HouseSystemCode(natal.HouseSystem));
+    json.Member("julianDay", positions.JulianDay);
+    json.Member("centuries", positions.Centuries);
+    json.Member("obliquity", positions.ObliquityDegrees);
+    json.Member("ramc", RadToDeg(positions.RAMC));
+    json.Member("siderealTime", positions.SiderealTimeText);
+    json.Member("midheaven", positions.Midheaven);
+    json.Member("ascendant", positions.Ascendant);
+    json.Member("vertex", positions.Vertex);
+    json.Member("equatorialAscendant", positions.EquatorialAscendant);
+    json.Member("coAscendant", positions.CoAscendant);
+    json.Member("polarAscendant", positions.PolarAscendant);
+    json.Key("houseCusps");
+    json.Open('[');
+    for (int position = 1; position <= 12; ++position) json.Number(positions.HouseCusps[position]);
+    json.Close(']');
+    WritePoints(json, positions);
+    json.Key("trueNode");
+    json.Open('{');
+    json.Member("longitude", positions.TrueNodeLongitude);
+    json.Member("declination", positions.TrueNodeDeclination);
+    json.Close('}');
+    WriteAspects(json, chart.aspects);
+    json.Close('}');
+    return json.Take() + "\n";
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,55 @@
+#include <cstdio>
+#include <iostream>
+#include <vector>
+
+#include "cli/chart_command.h"
+
+using namespace tolvanis;
+
+namespace {
+
+bool WriteToStandardOutput(std::string_view text) {
+    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+}
+
+ExitStatus RunToStandardOutput(const ChartRequest& request) {
+    ExitStatus status = RunChartCommand(request, WriteToStandardOutput, std::cerr);
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        std::cerr << "tolvanis-chart: cannot write to standard output\n";
+        status = kSomethingRefused;
+    }
+    return status;
+}
+
+ExitStatus RunToFile(const ChartRequest& request) {
+    ExitStatus status = kAllComputed;
+    const Result<void> written = ReplaceFile(PathFromText(*request.output), [&](const Sink& sink) {
+        bool whole = true;
+        const Sink noting = [&](std::string_view text) { return whole = whole && sink(text); };
+        status = RunChartCommand(request, noting, std::cerr);
+        return whole;
+    });
+    if (written) return status;
+    std::cerr << "tolvanis-chart: " << written.message() << "\n";
+    return kSomethingRefused;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    const Result<ChartRequest> request = ParseCommandLine(arguments);
+    if (!request) {
+        std::cerr << "tolvanis-chart: " << request.message() << "\n\n" << kUsage;
+        return kWrongUsage;
+    }
+    if (request->help) {
+        std::cout << kUsage;
+        return kAllComputed;
+    }
+    if (request->version) {
+        std::cout << "tolvanis-chart " << TOLVANIS_VERSION << "\n";
+        return kAllComputed;
+    }
+    return request->output ? RunToFile(*request) : RunToStandardOutput(*request);
+}

@@ -1,0 +1,93 @@
+#include "output/natal_listing.h"
+
+#include <array>
+#include <cmath>
+
+#include "output/zodiac_text.h"
+#include "text/dates.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+// The South Node stands opposite the North Node and has no row.
+constexpr std::array kRows = {kSun,       kMoon,          kMercury,   kVenus,    kMars,
+                              kJupiter,   kSaturn,        kUranus,    kNeptune,  kPluto,
+                              kNorthNode, kPartOfFortune, kAscendant, kMidheaven};
+
+void WriteHeader(DataBuffer& buffer, const NatalData& natal) {
+    buffer.AppendBlankLine();
+    buffer.AppendLine("  " + natal.Name);
+    buffer.AppendLine(BirthDataLine(natal));
+}
+
+void WriteCusps(DataBuffer& buffer, const NatalData& natal, const HouseCusps& cusps) {
+    buffer.AppendBlankLine();
+    buffer.AppendLine(std::string("  HOUSE CUSPS - ").append(HouseSystemName(natal.HouseSystem)));
+    for (int first = 1; first <= 12; first += 3) {
+        std::string& line = buffer.CurrentLine;
+        line.clear();
+        for (int position = first; position < first + 3; ++position) {
+            line.append(position == first ? "  " : " ").append(HouseOrdinal(position));
+            line.append(" house = ").append(FormatDegMin(cusps[position]));
+        }
+        buffer.AppendLine();
+    }
+}
+
+void WriteAngles(DataBuffer& buffer, const ChartPositions& chart) {
+    const auto line = [&](std::string_view left, double leftAngle, std::string_view right,
+                          double rightAngle) {
+        buffer.CurrentLine = "  ";
+        buffer.CurrentLine.append(left).append(" =  ").append(FormatDegMin(leftAngle));
+        buffer.CurrentLine.append(10, ' ').append(right).append(" =  ").append(FormatDegMin(rightAngle));
+        buffer.AppendLine();
+    };
+    buffer.AppendBlankLine();
+    line("Vertex      ", chart.Vertex, "Equatorial Ascendant", chart.EquatorialAscendant);
+    line("Co-Ascendant", chart.CoAscendant, "Polar Ascendant     ", chart.PolarAscendant);
+}
+
+void WritePoints(DataBuffer& buffer, const ChartPositions& chart) {
+    buffer.AppendBlankLine();
+    for (const int point : kRows) {
+        std::string& line = buffer.CurrentLine;
+        line = "  ";
+        line.append(FormatDegMinSec(chart.PointLongitude[point]))
+            .append("   ")
+            .append(ListingPointName(point));
+        line.append(1, chart.RetrogradeFlags[static_cast<std::size_t>(point - 1)]).append("    (");
+        line.append(HouseOrdinal(HouseCusps::PositionOfHouse(chart.PointHouse[point]))).append(" HOUSE)    ");
+        line.append(FormatDeclination(chart.PointDeclination[point]));
+        buffer.AppendLine();
+    }
+    buffer.AppendLine(std::string(51, ' ') + "Decl.");
+}
+
+void WriteTrueNode(DataBuffer& buffer, const ChartPositions& chart) {
+    buffer.AppendBlankLine();
+    buffer.AppendLine("  " + FormatDegMinSec(chart.TrueNodeLongitude) + "   TRUE NORTH NODE" +
+                      std::string(16, ' ') + FormatDeclination(chart.TrueNodeDeclination));
+}
+
+}  // namespace
+
+std::string BirthDataLine(const NatalData& natal) {
+    std::string line = "  " + FormatDate({natal.Year, natal.Month, natal.Day});
+    line.append("    TZ = ").append(FormatMask(natal.TimeZone, "##0.0"));
+    line.append("      ").append(FormatMask(natal.ClockTime, "#0.00")).append(" ").append(natal.AmPm);
+    line.append("   ").append(FormatMask(std::abs(natal.Latitude), "##0.00")).append(" ");
+    line.append(natal.LatitudeSide);
+    line.append("    ").append(FormatMask(std::abs(natal.Longitude), "##0.00")).append(" ");
+    return line.append(natal.LongitudeSide);
+}
+
+void WriteNatalListing(DataBuffer& buffer, const NatalData& natal, const ChartPositions& chart) {
+    WriteHeader(buffer, natal);
+    WriteCusps(buffer, natal, chart.HouseCusps);
+    WriteAngles(buffer, chart);
+    WritePoints(buffer, chart);
+    WriteTrueNode(buffer, chart);
+}
+
+}  // namespace tolvanis

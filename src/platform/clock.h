@@ -1,0 +1,25 @@
+#pragma once
+// The host's clock and its customs of writing dates and times.
+
+#include "text/dates.h"
+
+namespace tolvanis {
+
+struct LocalTime {
+    CalendarDate date;
+    int hour = 0;  // 0 to 23
+    int minute = 0;
+    int second = 0;
+};
+
+// The present moment on the host's clock, in the host's time zone.
+LocalTime PresentMoment();
+
+// Order and clock as in the POSIX date and time formats of a locale ("%d.%m.%Y", "%H:%M:%S"); a format
+// without the day, month and year, or without an hour, leaves that value at 1.
+DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat);
+
+// The order that the user's locale (LC_ALL, LC_TIME, LANG) asks for.
+DateTimeOrder HostDateTimeOrder();
+
+}  // namespace tolvanis
