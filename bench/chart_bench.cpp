@@ -1,0 +1,56 @@
+// Charts a second on one core.
+
+#include <benchmark/benchmark.h>
+
+#include "app/options_file.h"
+#include "cli/chart_output.h"
+
+namespace tolvanis {
+namespace {
+
+NatalData Birth(std::int64_t i) {
+    NatalData natal;
+    natal.Name = "Ann Smith";
+    natal.Year = static_cast<std::int16_t>(1900 + i % 150);
+    natal.Month = static_cast<std::int16_t>(1 + i % 12);
+    natal.Day = static_cast<std::int16_t>(1 + i % 28);
+    natal.ClockTime = 9.05;
+    natal.TimeZone = 5;
+    natal.Longitude = 73.59F;
+    natal.Latitude = 40.45F;
+    return natal;
+}
+
+void PositionsOnly(benchmark::State& state) {
+    std::int64_t i = 0;
+    for (auto _ : state) benchmark::DoNotOptimize(ComputePositions(Birth(i++)));
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(PositionsOnly);
+
+template <typename Print>
+void Printed(benchmark::State& state, Print print) {
+    Options options;
+    if (!ReadOptions(DELIVERED_DATA_DIR, options)) state.SkipWithError("no options");
+    std::int64_t i = 0;
+    for (auto _ : state) {
+        const NatalData natal = Birth(i++);
+        const auto positions = ComputePositions(natal);
+        const CurrentChart chart{natal, *positions, FindAspects(*positions, options), true};
+        benchmark::DoNotOptimize(print(chart, options));
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+void ListingAndGrid(benchmark::State& state) {
+    Printed(state, ChartAsText);
+}
+BENCHMARK(ListingAndGrid);
+
+void Json(benchmark::State& state) {
+    Printed(state, [](const CurrentChart& chart, const Options&) { return ChartAsJson(chart); });
+}
+BENCHMARK(Json);
+
+}  // namespace
+}  // namespace tolvanis

@@ -1,0 +1,122 @@
+#include "astro/time_frame.h"
+
+#include "astro/angles.h"
+#include "support.h"
+
+namespace tolvanis {
+namespace {
+
+// Meeus, Astronomical Algorithms, 2nd edition, chapter 7, and the calendar reform.
+TEST(TimeFrame, JulianDayNumbers) {
+    const struct {
+        int year, month, day;
+        double atNoon;
+    } cases[] = {{2000, 1, 1, 2451545},   {1999, 1, 1, 2451180},   {1987, 1, 27, 2446823},
+                 {1987, 6, 19, 2446966},  {1988, 1, 27, 2447188},  {1988, 6, 19, 2447332},
+                 {1900, 1, 1, 2415021},   {1600, 1, 1, 2305448},   {1600, 12, 31, 2305813},
+                 {837, 4, 10, 2026872},   {333, 1, 27, 1842713},   {1957, 10, 4, 2436116},
+                 {1582, 10, 4, 2299160},  {1582, 10, 15, 2299161}, {1582, 10, 14, 2299170},
+                 {1582, 12, 31, 2299238}, {1900, 2, 29, 2415080},  {1955, 4, 31, 2435229},
+                 {1955, 5, 1, 2435229},   {100, 1, 1, 1757583},    {2099, 12, 31, 2488069}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(JulianDayNumberOf(c.year, c.month, c.day), c.atNoon)
+            << c.year << '-' << c.month << '-' << c.day;
+    }
+}
+
+TEST(TimeFrame, EveryDayFollowsTheOneBefore) {
+    double last = JulianDayNumberOf(1583, 1, 1) - 1;
+    for (int year = 1583; year < 2100; ++year) {
+        for (int month = 1; month <= 12; ++month) {
+            const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+            const int days = month == 2                                                ? (leap ? 29 : 28)
+                             : (month == 4 || month == 6 || month == 9 || month == 11) ? 30
+                                                                                       : 31;
+            for (int day = 1; day <= days; ++day)
+                ASSERT_EQ(JulianDayNumberOf(year, month, day), ++last) << year;
+        }
+    }
+}
+
+TEST(TimeFrame, ClockTimeToUniversalTime) {
+    const struct {
+        const char* record;
+        double dayFraction;
+    } cases[] = {{"a,1 Jan 2000,12.00,P,0,0,0", 0.5},
+                 {"a,1 Jan 2000,12.00,A,0,0,0", 0.0},
+                 {"a,1 Jan 2000,12.30,A,0,0,0", 0.5 / 24},
+                 {"a,1 Jan 2000,1.00,P,0,0,0", 13.0 / 24},
+                 {"a,1 Jan 2000,11.59,P,5,0,0", 28.9833333333 / 24},
+                 {"a,1 Jan 2000,2.15,A,-5.75,-85,27", -3.5 / 24}};
+    for (const auto& c : cases) {
+        EXPECT_NEAR(ComputeTimeFrame(NatalOf(c.record)).UtDayFraction, c.dayFraction, 1e-11) << c.record;
+    }
+    const TimeFrame j2000 = ComputeTimeFrame(NatalOf("a,1 Jan 2000,12.00,P,0,0,0"));
+    EXPECT_EQ(j2000.Centuries, 1.0);
+    EXPECT_EQ(j2000.JulianDay, 2451545.0);
+}
+
+// Meeus, examples 12.a and 22.a: 1987 April 10, 0h UT; mean sidereal time at Greenwich 13h 10m 46.3668s and
+// mean obliquity 23 deg 26' 27.407". Newcomb's values differ by hundredths of a second from the newer ones.
+TEST(TimeFrame, SiderealTimeAndObliquity) {
+    const TimeFrame frame = ComputeTimeFrame(NatalOf("a,10 Apr 1987,12.00,A,0,0,51.30"));
+    const double hours = 13 + 10 / 60.0 + 46.3668 / 3600.0;
+    EXPECT_NEAR(RadToDeg(frame.RAMC) / 15.0, hours, 0.1 / 3600);
+    EXPECT_NEAR(frame.ObliquityDegrees, 23 + 26 / 60.0 + 27.407 / 3600, 0.5 / 3600);
+    EXPECT_EQ(SiderealTimeText(frame), "13H  10M  46S ");
+    const TimeFrame south = ComputeTimeFrame(NatalOf("a,10 Apr 1987,12.00,A,0,0,-51.30"));
+    EXPECT_EQ(south.RAMC, frame.RAMC);
+    EXPECT_EQ(SiderealTimeText(south), "01H  10M  46S ");
+}
+
+// Both angles again from spherical trigonometry: the Midheaven's right ascension is the RAMC, and the
+// Ascendant lies on the eastern horizon.
+TEST(TimeFrame, MidheavenCulminatesAndAscendantRises) {
+    for (int i = 0; i < 400; ++i) {
+        NatalData natal = NatalOf("a,1 Jan 1900,1.00,A,0,0,0");
+        natal.Year = static_cast<std::int16_t>(100 + 5 * i);
+        natal.ClockTime = 1 + i % 12 + (i % 60) / 100.0;
+        natal.Latitude = static_cast<float>(i % 133 - 66);
+        const TimeFrame frame = ComputeTimeFrame(natal);
+        const double tilt = frame.Obliquity;
+        const auto rightAscension = [&](double longitude) {
+            return DirectionDeg(CosDeg(longitude), SinDeg(longitude) * std::cos(tilt));
+        };
+        EXPECT_NEAR(ArcBetween(rightAscension(frame.Midheaven), RadToDeg(frame.RAMC)), 0, 1e-6);
+
+        const double hourAngle = RadToDeg(frame.RAMC) - rightAscension(frame.Ascendant);
+        const double sinDeclination = SinDeg(frame.Ascendant) * std::sin(tilt);
+        const double cosDeclination = std::sqrt(1 - sinDeclination * sinDeclination);
+        const double altitude = sinDeclination * std::sin(frame.LatitudeRad) +
+                                cosDeclination * std::cos(frame.LatitudeRad) * CosDeg(hourAngle);
+        EXPECT_NEAR(altitude, 0, 1e-8) << natal.Year;
+        EXPECT_LT(SinDeg(hourAngle), 0) << "rising, not setting: " << natal.Year;
+    }
+}
+
+TEST(TimeFrame, AtTheEquatorWithTheEquinoxCulminating) {
+    NatalData natal = NatalOf("a,1 Jan 2000,12.00,P,0,0,0");
+    const double sidereal = RadToDeg(ComputeTimeFrame(natal).RAMC);
+    TimeFrame frame;
+    for (int i = 0; i < 3; ++i) {  // turn the Earth until the RAMC is as near 0 as single precision lets it
+        const double degrees = std::floor(sidereal);
+        natal.Longitude = static_cast<float>(degrees + (sidereal - degrees) * 0.6);
+        frame = ComputeTimeFrame(natal);
+    }
+    EXPECT_NEAR(ArcBetween(frame.Midheaven, 0), 0, 1e-4);
+    EXPECT_NEAR(frame.Ascendant, 90, 1e-4);
+}
+
+TEST(Angles, NormalisedAnglesStayBelow360) {
+    const struct {
+        double angle, normalised;
+    } cases[] = {{0, 0}, {360, 0}, {-1e-17, 0}, {-90, 270}, {725, 5}, {-725, 355}, {359.999, 359.999}};
+    for (const auto& c : cases) EXPECT_DOUBLE_EQ(Norm360(c.angle), c.normalised) << c.angle;
+    EXPECT_DOUBLE_EQ(PackedToDecimal(40.45), 40.75);
+    EXPECT_DOUBLE_EQ(SignedPackedToDecimal(-73.59), -(73 + 59 / 60.0));
+    EXPECT_NEAR(ArcCos(0), kPi / 2, 1e-12);
+    EXPECT_NEAR(ArcSin(1), kPi / 2, 1e-9);
+}
+
+}  // namespace
+}  // namespace tolvanis

@@ -1,0 +1,170 @@
+#include "cli/chart_command.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+#include "app/app_directory.h"
+#include "app/options_file.h"
+#include "support.h"
+
+namespace tolvanis {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome {
+    ExitStatus status = kAllComputed;
+    std::string output;
+    std::string errors;
+};
+
+Outcome RunWith(std::vector<std::string_view> arguments) {
+    arguments.insert(arguments.end(), {"--app-dir", DELIVERED_DATA_DIR});
+    const auto request = ParseCommandLine(arguments);
+    EXPECT_TRUE(request) << request.message();
+    Outcome outcome;
+    std::ostringstream errors;
+    const Sink sink = [&](std::string_view text) {
+        outcome.output += text;
+        return true;
+    };
+    outcome.status = RunChartCommand(*request, sink, errors);
+    outcome.errors = errors.str();
+    return outcome;
+}
+
+// Whole listings approved by comparison with an independent implementation of the same theory: a northern
+// chart, a southern one, one before the calendar reform and one at the equator on 0 longitude.
+TEST(ChartCommand, ApprovedListings) {
+    const struct {
+        std::string_view file, record, houses;
+    } cases[] = {
+        {"new_york_placidus.txt", "Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45", "P"},
+        {"sydney_koch.txt", "Zoë Ångström,31 Dec 1999,11.59,P,-11,-151.13,-33.52", "K"},
+        {"julian_regiomontanus.txt", "Before the reform,4 Oct 1582,12.30,A,-0.25,-004.00,52.05", "R"},
+        {"equator_campanus.txt", "Nought,1 Jan 2000,12.00,P,0,000.00,00.00", "C"}};
+    for (const auto& c : cases) {
+        const Outcome outcome = RunWith({"--birth", c.record, "--houses", c.houses});
+        EXPECT_EQ(outcome.output, FileContent(std::string(TEST_DATA_DIR "/listings/").append(c.file)))
+            << c.file;
+    }
+}
+
+TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
+    const ScratchDirectory directory;
+    const auto file = directory.Write("A.FIL",
+                                      "Good,22 Sep 1949,9.05,A,5,073.59,40.45\r\n"
+                                      "Short,22 Sep 1949,9.05\r\n"
+                                      "Zone,22 Sep 1949,9.05,A,EST,073.59,40.45\r\n"
+                                      "Month,22 Sep 2149,9.75,A,5,073.59,40.45\r\n"
+                                      "Pole,22 Sep 1949,9.05,A,5,073.59,66.01\r\n"
+                                      "Last,22 Sep 1949,9.05,A,5,073.59,40.45\r\n"
+                                      ",\r\n"
+                                      "Never read\r\n");
+    const Outcome outcome = RunWith({"--names", file.native(), "--format", "json"});
+    EXPECT_EQ(outcome.status, kSomethingRefused);
+    EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 2);
+    EXPECT_THAT(outcome.output, StartsWith("{\"name\":\"Good\",\"year\":1949,\"month\":9,\"day\":22,"));
+    EXPECT_THAT(outcome.output, HasSubstr("{\"name\":\"Last\""));
+    const std::string name = file.string();
+    EXPECT_EQ(outcome.errors,
+              name + ":2: the record has 3 fields instead of 7\n" + name +
+                  ":3: field 5 (time zone): \"EST\" is no number\n" + name +
+                  ":4: birth year 2149 is above 2099\n" + name + ":4: birth minute 75 is above 59\n" + name +
+                  ":5: latitude 66.01 is above 66.00, where only Meridian and Morinus houses are computed\n");
+    EXPECT_EQ(RunWith({"--names", file.native(), "--houses", "M", "--name", "Pole"}).status, kAllComputed);
+    EXPECT_THAT(RunWith({"--names", file.native(), "--name", "good"}).errors,
+                HasSubstr("no record with the name \"good\""));
+    EXPECT_THAT(RunWith({"--names", (directory / "NONE.FIL").native()}).errors, HasSubstr("No such file"));
+    EXPECT_THAT(RunWith({"--names", directory.path().native()}).errors, HasSubstr("Is a directory"));
+}
+
+TEST(ChartCommand, JsonHoldsEveryMember) {
+    const std::string json =
+        RunWith({"--birth", "A \"B\" \\,1 Jan 2000,12.00,P,0,000.00,51.30", "--format", "json"}).output;
+    EXPECT_THAT(json, StartsWith("{\"name\":\"A \\\"B\\\" \\\\\",\"year\":2000,"));
+    for (const auto* member :
+         {"\"houseSystem\":\"P\"", "\"julianDay\":2451545,", "\"centuries\":1,", "\"obliquity\":23.439",
+          "\"ramc\":", "\"siderealTime\":\"18H  41M  50S \"", "\"midheaven\":", "\"ascendant\":",
+          "\"vertex\":", "\"equatorialAscendant\":", "\"coAscendant\":", "\"polarAscendant\":",
+          "\"houseCusps\":[", "\"points\":[{\"name\":\"Sun\",\"longitude\":280.3", "\"retrograde\":true",
+          "\"trueNode\":{\"longitude\":", "\"aspects\":[{\"first\":\"Sun\",\"second\":\"",
+          "\"fromExact\":-"}) {
+        EXPECT_THAT(json, HasSubstr(member));
+    }
+}
+
+TEST(ChartCommand, WrongUsageIsExplained) {
+    const struct {
+        std::vector<std::string_view> arguments;
+        std::string_view fault;
+    } cases[] = {
+        {{"--bogus"}, "unknown argument \"--bogus\""},   {{"file"}, "unknown argument \"file\""},
+        {{"--birth"}, "--birth needs a value"},          {{"--houses", "X"}, "unknown house system \"X\""},
+        {{"--format", "xml"}, "unknown format \"xml\""}, {{"--now", "--birth", "x"}, "only one of"},
+        {{"--name", "Ann"}, "--name needs --names"}};
+    for (const auto& c : cases) {
+        EXPECT_THAT(ParseCommandLine(c.arguments).message(), HasSubstr(std::string(c.fault)));
+    }
+    EXPECT_EQ(ParseCommandLine(std::vector<std::string_view>{"--houses=ea"})->houses, HouseSystem::EqualAsc);
+}
+
+TEST(AppDirectory, ChosenInOrder) {
+    const ScratchDirectory scratch;
+    for (const auto* name :
+         {"given", "environment", "prefix", "prefix/bin", "prefix/share", "prefix/share/tolvanis"}) {
+        std::filesystem::create_directory(scratch / name);
+    }
+    scratch.Write("prefix/share/tolvanis/OPTIONS.OPT", "8 orb\r\n");
+    scratch.Write("prefix/share/tolvanis/NAMES.FIL", "delivered\r\n");
+    DirectoryHints hints{std::nullopt, std::nullopt, scratch / "prefix/bin", scratch / "home/tolvanis"};
+
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::LeaveAsIs), scratch / "prefix/share/tolvanis");
+    EXPECT_FALSE(std::filesystem::exists(scratch / "home"));
+
+    std::filesystem::create_directories(scratch / "home/tolvanis");
+    scratch.Write("home/tolvanis/names.fil", "mine\r\n");
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), hints.userDirectory);
+    EXPECT_EQ(FileContent(scratch / "home/tolvanis/names.fil"), "mine\r\n");
+    EXPECT_FALSE(std::filesystem::exists(scratch / "home/tolvanis/NAMES.FIL"));
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::LeaveAsIs), hints.userDirectory);
+
+    scratch.Write("prefix/bin/options.opt", "portable\r\n");
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), hints.programDirectory);
+    hints.fromEnvironment = (scratch / "environment").string();
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), scratch / "environment");
+    hints.fromCommandLine = (scratch / "GIVEN").string();
+    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), scratch / "given");
+    hints.fromCommandLine = "/no/such/place";
+    EXPECT_THAT(ApplicationDirectory(hints, FirstStart::LeaveAsIs).message(), HasSubstr("/no/such/place"));
+}
+
+TEST(DeliveredOptions, AreCompleteAndSensible) {
+    EXPECT_EQ(FileContent(DELIVERED_DATA_DIR "/OPTIONS.OPT"), FileContent(DELIVERED_DATA_DIR "/OPTIONS.MAS"));
+    const auto lines = ReadLines(DELIVERED_DATA_DIR "/OPTIONS.OPT");
+    ASSERT_TRUE(lines);
+    ASSERT_EQ(lines->size(), 196U);
+    for (std::size_t i = 0; i < lines->size(); ++i) {
+        const std::string& line = (*lines)[i];
+        EXPECT_NE(line.find(' '), 0U);
+        EXPECT_EQ(line.substr(8, 3), (i < 9 ? "  " : i < 99 ? " " : "") + std::to_string(i + 1));
+        EXPECT_GT(line.size(), 15U);
+    }
+    Options options;
+    ASSERT_TRUE(ReadOptions(DELIVERED_DATA_DIR, options));
+    EXPECT_EQ(options[31] - options[29], 61);
+    const NatalEntry now = FillNow({{2026, 1, 1}, 9, 0, 0}, options);
+    EXPECT_TRUE(CheckEntry(now, HouseSystemOfOption(options[27])).empty());
+    EXPECT_EQ(now.longDeg + "W" + now.longMin + " " + now.latDeg + "N" + now.latMin, "73W59 40N45");
+}
+
+TEST(DeliveredNames, AreAllComputed) {
+    const Outcome outcome = RunWith({"--names", DELIVERED_DATA_DIR "/NAMES.FIL", "--format", "json"});
+    EXPECT_EQ(outcome.status, kAllComputed) << outcome.errors;
+    EXPECT_GE(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 20);
+}
+
+}  // namespace
+}  // namespace tolvanis

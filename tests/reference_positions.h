@@ -1,0 +1,60 @@
+#pragma once
+// The table of positions from a modern theory, and this program's positions for the same instants.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "astro/planetary_positions.h"
+#include "chart/chart_positions.h"
+#include "platform/files.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+
+struct ReferencePositions {
+    double julianDay = 0.0;
+    int year = 0;
+    PerPoint<std::optional<double>> longitude;  // degrees; absent where the theory does not reach
+};
+
+// The rows of the table: Julian day, calendar date, then the longitudes of Sun, Moon, Mercury ... Pluto.
+inline std::vector<ReferencePositions> ReadReferencePositions(const Path& path) {
+    constexpr int kColumns[] = {kSun,     kMoon,   kMercury, kVenus,   kMars,
+                                kJupiter, kSaturn, kUranus,  kNeptune, kPluto};
+    std::vector<ReferencePositions> rows;
+    LineReader reader(path);
+    for (std::string line; reader.Next(line);) {
+        if (line.empty() || line[0] < '0' || line[0] > '9') continue;
+        std::vector<std::string> cells(1);
+        for (const char c : line) {
+            if (c == '\t') {
+                cells.emplace_back();
+            } else {
+                cells.back() += c;
+            }
+        }
+        ReferencePositions row;
+        row.julianDay = LeadingNumber(cells[0]);
+        row.year = static_cast<int>(LeadingNumber(cells[1]));
+        for (std::size_t i = 0; i < std::size(kColumns) && i + 2 < cells.size(); ++i) {
+            row.longitude[kColumns[i]] = WholeNumber(cells[i + 2]);
+        }
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+// The longitudes of the ten bodies at an instant.
+inline PerPoint<double> GeocentricLongitudesAt(double julianDay) {
+    TimeFrame frame;
+    frame.JulianDayNumber = std::floor(julianDay);
+    frame.UtDayFraction = julianDay - frame.JulianDayNumber + 0.5;
+    frame.Centuries = (julianDay - 2415020.0) / 36525.0;
+    frame.ObliquityDegrees = MeanObliquity(frame.Centuries);
+    ChartPositions chart;
+    const auto placed = ComputePlanetaryPositions(frame, chart);
+    return placed ? chart.PointLongitude : PerPoint<double>{};
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,134 @@
+#include "text/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace tolvanis {
+namespace {
+
+TEST(Numbers, LeadingNumberTakesTheLongestPrefix) {
+    const struct {
+        std::string_view text;
+        double value;
+    } cases[] = {
+        {"", 0},
+        {"abc", 0},
+        {"  12.5 label", 12.5},
+        {"-3", -3},
+        {"+4", 4},
+        {".5", 0.5},
+        {"5.", 5},
+        {"-.25x", -0.25},
+        {".", 0},
+        {"-", 0},
+        {"1.2.3", 1.2},
+        {"12-3", 12},
+        {"1e2", 100},
+        {"1D-2", 0.01},
+        {"1e", 1},
+        {"1e+", 1},
+        {"2x10", 2},
+        {"\t7", 7},
+        {"1,5", 1},
+        {"1234567890", 1234567890},
+        {"--5", 0},
+        {"0x10", 0},
+        {"007", 7},
+        {"nan", 0},
+        {"inf", 0},
+    };
+    for (const auto& c : cases) EXPECT_EQ(LeadingNumber(c.text), c.value) << '"' << c.text << '"';
+    EXPECT_EQ(LeadingNumber("1e999"), std::numeric_limits<double>::max());
+    EXPECT_EQ(LeadingNumber("-1e999"), std::numeric_limits<double>::lowest());
+    EXPECT_EQ(LeadingNumber("1e-999"), 0);
+}
+
+TEST(Numbers, WholeNumberRefusesAnythingElse) {
+    EXPECT_EQ(WholeNumber(" -5.75 "), -5.75);
+    for (const auto* text : {"", " ", "5h", "5 5", "-", "1,5", "x5"}) {
+        EXPECT_FALSE(WholeNumber(text)) << '"' << text << '"';
+    }
+}
+
+TEST(Numbers, RoundingTo16BitsIsHalfToEvenAndBounded) {
+    const struct {
+        double value;
+        int rounded;
+    } cases[] = {{0.5, 0},         {1.5, 2},       {2.5, 2},         {-0.5, 0},
+                 {-1.5, -2},       {2.4999, 2},    {32766.5, 32766}, {40000, 32767},
+                 {-40000, -32768}, {1e300, 32767}, {std::nan(""), 0}};
+    for (const auto& c : cases) EXPECT_EQ(RoundToInt16(c.value), c.rounded) << c.value;
+}
+
+TEST(Numbers, PlainAndClassicText) {
+    EXPECT_EQ(NumberText(5.0), "5");
+    EXPECT_EQ(NumberText(-0.0), "0");
+    EXPECT_EQ(NumberText(0.1F), "0.1");
+    EXPECT_EQ(NumberText(1e21), "1000000000000000000000");
+    EXPECT_EQ(ClassicNumberText(8.5), " 8.5");
+    EXPECT_EQ(ClassicNumberText(-1.0), "-1");
+    EXPECT_EQ(ClassicNumberText(0.0), " 0");
+}
+
+TEST(Numbers, DigitMasks) {
+    const struct {
+        double value;
+        std::string_view mask;
+        std::string_view text;
+    } cases[] = {
+        {5, "00", "05"},
+        {12, "00", "12"},
+        {123, "00", "123"},
+        {0, "00", "00"},
+        {0, "#0", "0"},
+        {59.6, "#0", "60"},
+        {30.000000001, "#0", "30"},
+        {5, "##0.0", "5.0"},
+        {-5.75, "##0.0", "-5.8"},
+        {5.25, "##0.0", "5.3"},
+        {-0.04, "##0.0", "0.0"},
+        {40.45, "##0.00", "40.45"},
+        {0.3, "##0.00", "0.30"},
+        {9.05, "#0.00", "9.05"},
+        {0.005, "#0.00", "0.01"},
+        {9.05, "##.#0", "9.05"},
+        {10.3, "##.#0", "10.30"},
+        {0.3, "##.#0", ".30"},
+        {12, "##.#0", "12.00"},
+        {73.59, "#00#.#0", "073.59"},
+        {-2.21, "#00#.#0", "-002.21"},
+        {0.3, "#00#.#0", "000.30"},
+        {122.25, "#00#.#0", "122.25"},
+        {-33.52, "#0#.#0", "-33.52"},
+        {5.07, "#0#.#0", "05.07"},
+        {99.999, "#0.00", "100.00"},
+        {1e15, "##0.0", "1000000000000000.0"},
+        {2.675, "##0.00", "2.68"},
+        {1.5, "##0.0#", "1.5"},
+        {1.25, "##0.0#", "1.25"},
+        {7, "##", "7"},
+        {0, "##", ""},
+    };
+    for (const auto& c : cases) EXPECT_EQ(FormatMask(c.value, c.mask), c.text) << c.value << ' ' << c.mask;
+    EXPECT_EQ(FormatMask(73.59F, "##0.00"), "73.59");
+    EXPECT_EQ(FormatMask(0.145F, "##0.00"), "0.15") << "judged on the shortest text of the single value";
+}
+
+TEST(Numbers, Padding) {
+    const struct {
+        std::string_view text;
+        std::string_view three;
+        std::string_view four;
+    } cases[] = {{"5", "  5", "   5"},   {"10", " 10", "  10"},        {"180", "180", " 180"},
+                 {"-5", "  -5", "  -5"}, {"-10", "  -10", " -10"},     {"-100", "  -100", "-100"},
+                 {"0", "  0", "   0"},   {"-0,5", "  -0,5", "  -0,5"}, {"5.5", "  5.5", "   5.5"}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(PadToThree(c.text), c.three) << c.text;
+        EXPECT_EQ(PadSignedToFour(c.text), c.four) << c.text;
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis

@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include "text/columns.h"
+#include "text/dates.h"
+#include "text/fields.h"
+
+namespace tolvanis {
+namespace {
+
+TEST(Columns, CountCharactersNotBytes) {
+    EXPECT_EQ(CharacterCount("Zoë Ångström"), 12U);
+    EXPECT_EQ(FirstCharacters("Zoë Ångström", 5), "Zoë Å");
+    EXPECT_EQ(FirstCharacters("abc", 7), "abc");
+    EXPECT_EQ(FirstCharacters("é", 0), "");
+    EXPECT_EQ(PadRight("Zoë", 5), "Zoë  ");
+    EXPECT_EQ(PadLeft("Zoë", 5), "  Zoë");
+    EXPECT_EQ(PadRight("Zoë", 2), "Zoë");
+    EXPECT_EQ(TrimBlanks(" \t a b\t "), "a b");
+    EXPECT_EQ(TrimBlanks("  "), "");
+}
+
+TEST(Columns, UpperCaseOfThreeAlphabets) {
+    const struct {
+        std::string_view text;
+        std::string_view upper;
+    } cases[] = {{"Names.fil", "NAMES.FIL"},
+                 {"zoë ñandú", "ZOË ÑANDÚ"},
+                 {"žluťoučký", "ŽLUŤOUČKÝ"},
+                 {"łódź ıß÷ÿ", "ŁÓDŹ ıß÷Ÿ"},
+                 {"άλφα ώς", "ΆΛΦΑ ΏΣ"},
+                 {"жанна ёж", "ЖАННА ЁЖ"},
+                 {"đỗ", "ĐỖ"},
+                 {"日本 😀", "日本 😀"},
+                 {"\xE9t\xE9", "\xE9T\xE9"}};
+    for (const auto& c : cases) EXPECT_EQ(UpperCase(c.text), c.upper) << c.text;
+    EXPECT_TRUE(EqualIgnoringCase("José", "JOSÉ"));
+    EXPECT_FALSE(EqualIgnoringCase("Jose", "José"));
+    EXPECT_TRUE(StartsWithIgnoringAsciiCase("SUN IN ARIES", "Sun in"));
+    EXPECT_FALSE(StartsWithIgnoringAsciiCase("SUN", "Sun in"));
+}
+
+TEST(Columns, BytesBecomeUtf8) {
+    EXPECT_EQ(ToUtf8("\xEF\xBB\xBFZo\xC3\xAB"), "Zoë");
+    EXPECT_EQ(ToUtf8("Zo\xEB \x80 \x9E"), "Zoë € ž");
+    EXPECT_EQ(ToUtf8("\xC0\xAF"), "À¯") << "an overlong sequence is not UTF-8";
+    EXPECT_EQ(ToUtf8("\xED\xA0\x80").substr(0, 2), "í") << "a surrogate is not UTF-8";
+    EXPECT_EQ(ToUtf8("a\xC3"), "aÃ") << "a sequence cut short";
+}
+
+TEST(Dates, FormAndReading) {
+    EXPECT_EQ(FormatDate({277, 1, 5}), "05 Jan 0277");
+    EXPECT_EQ(FormatDate({1955, 4, 31}), "31 Apr 1955");
+    const struct {
+        std::string_view text;
+        CalendarDate date;
+    } cases[] = {{"22 Sep 1949", {1949, 9, 22}}, {"1 JAN 0277", {277, 1, 1}},
+                 {"31 Apr 1955", {1955, 4, 31}}, {"5-december-1800", {1800, 12, 5}},
+                 {"1949 Sep 22", {1949, 9, 22}}, {" 22/Sept/1949 ", {1949, 9, 22}}};
+    for (const auto& c : cases) EXPECT_EQ(ParseDate(c.text), c.date) << c.text;
+    for (const auto* text : {"", "22 Sep", "22 Xyz 1949", "32 Sep 1949", "0 Sep 1949", "22 Se 1949",
+                             "22 9 1949", "22 Sep 19499", "22 Sep 1949 x", "Sep 22 1949", "-22 Sep x"}) {
+        EXPECT_FALSE(ParseDate(text)) << text;
+    }
+    EXPECT_EQ(JoinDate("1949", "9", "22", 0), "9/22/1949");
+    EXPECT_EQ(JoinDate("1949", "9", "22", 1), "22/9/1949");
+    EXPECT_EQ(JoinDate("1949", "9", "22", 2), "1949/9/22");
+}
+
+TEST(Fields, QuotesProtectAndNicknamesSurvive) {
+    using Fields = std::vector<std::string>;
+    const struct {
+        std::string_view line;
+        Fields fields;
+    } cases[] = {
+        {"a, b ,c", {"a", "b", "c"}},
+        {"", {""}},
+        {"a,", {"a", ""}},
+        {"\"Smith, Ann\" , 5", {"Smith, Ann", "5"}},
+        {"\" a \",b", {" a ", "b"}},
+        {"\"say \"\"hi\"\"\",b", {"say \"hi\"", "b"}},
+        {"\"Bob\" Smith,b", {"\"Bob\" Smith", "b"}},
+        {"\"open,b", {"\"open", "b"}},
+        {"Ann \"Nan\" Lee,b", {"Ann \"Nan\" Lee", "b"}},
+        {",,", {"", "", ""}},
+    };
+    for (const auto& c : cases) EXPECT_EQ(SplitFields(c.line), c.fields) << c.line;
+}
+
+}  // namespace
+}  // namespace tolvanis
