@@ -7,6 +7,7 @@
 #include "birthdata/name_record.h"
 #include "cli/chart_output.h"
 #include "platform/clock.h"
+#include "text/columns.h"
 
 namespace tolvanis {
 namespace {
@@ -92,7 +93,7 @@ void PrintNamesFile(const ChartRequest& request, ChartPrinter& printer) {
 
 void PrintBirth(const std::string& birth, ChartPrinter& printer) {
     const std::string source = "--birth";
-    const Result<NameRecord> record = ParseNameRecord(birth);
+    const Result<NameRecord> record = ParseNameRecord(ToUtf8(birth));
     if (!record) return printer.Refuse(source, record.message());
     if (record->name.empty()) return printer.Refuse(source, "the name is empty");
     printer.Print(*record, source);
