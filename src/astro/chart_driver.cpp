@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "astro/derived_points.h"
 #include "astro/houses.h"
 #include "astro/planetary_positions.h"
-#include "astro/special_points.h"
 #include "astro/time_frame.h"
 #include "output/natal_listing.h"
 

@@ -5,12 +5,12 @@
 #include <optional>
 
 #include "astro/angles.h"
+#include "astro/derived_points.h"
 #include "astro/elements.h"
 #include "astro/moon_series.h"
 #include "astro/orbit.h"
 #include "astro/perturbations.h"
 #include "astro/pluto_series.h"
-#include "astro/special_points.h"
 #include "astro/sun_series.h"
 
 namespace tolvanis {

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "astro/angles.h"
-#include "astro/special_points.h"
+#include "astro/derived_points.h"
 #include "support.h"
 
 namespace tolvanis {

@@ -1,4 +1,4 @@
-#include "astro/special_points.h"
+#include "astro/derived_points.h"
 
 #include "astro/angles.h"
 
