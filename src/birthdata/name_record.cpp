@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "text/columns.h"
+#include "text/dates.h"
 #include "text/fields.h"
 #include "text/numbers.h"
 
@@ -32,6 +33,30 @@ double PackedNumber(const std::string& whole, const std::string& sixtieths, bool
     return negative ? -value : value;
 }
 
+struct BirthNumbers {
+    CalendarDate date;
+    double time = 0.0;
+    double timeZone = 0.0;
+    double longitude = 0.0;
+    double latitude = 0.0;
+};
+
+Result<BirthNumbers> NumbersOf(const NameRecord& record) {
+    const auto date = ParseDate(record.date);
+    if (!date) return FieldFault(2, "birth date", record.date, "is no date of the form dd mmm yyyy");
+    const auto time = WholeNumber(record.time);
+    if (!time) return FieldFault(3, "clock time", record.time, "is no number");
+    if (*time < 0 || *time >= 13)
+        return FieldFault(3, "clock time", record.time, "is no time on the 12-hour dial");
+    const auto zone = WholeNumber(record.timeZone);
+    if (!zone) return FieldFault(5, "time zone", record.timeZone, "is no number");
+    const auto longitude = WholeNumber(record.longitude);
+    if (!longitude) return FieldFault(6, "longitude", record.longitude, "is no number");
+    const auto latitude = WholeNumber(record.latitude);
+    if (!latitude) return FieldFault(7, "latitude", record.latitude, "is no number");
+    return BirthNumbers{*date, *time, *zone, *longitude, *latitude};
+}
+
 }  // namespace
 
 Result<NameRecord> ParseNameRecord(std::string_view line) {
@@ -46,7 +71,7 @@ Result<NameRecord> ParseNameRecord(std::string_view line) {
 }
 
 std::string FormatNameRecord(const NameRecord& record) {
-    std::string line = record.name;
+    std::string line = QuotedWhereNeeded(record.name);
     for (const std::string* field : {&record.date, &record.time, &record.halfDay, &record.timeZone,
                                      &record.longitude, &record.latitude}) {
         line.append(",").append(*field);
@@ -54,45 +79,41 @@ std::string FormatNameRecord(const NameRecord& record) {
     return line;
 }
 
+Result<void> CheckNameRecord(const NameRecord& record) {
+    const Result<BirthNumbers> numbers = NumbersOf(record);
+    if (!numbers) return Fault{numbers.message()};
+    return {};
+}
+
 Result<NatalEntry> EntryFromRecord(const NameRecord& record) {
-    const auto date = ParseDate(record.date);
-    if (!date) return FieldFault(2, "birth date", record.date, "is no date of the form dd mmm yyyy");
-    const auto time = WholeNumber(record.time);
-    if (!time) return FieldFault(3, "clock time", record.time, "is no number");
-    if (*time < 0 || *time >= 13)
-        return FieldFault(3, "clock time", record.time, "is no time on the 12-hour dial");
-    const auto zone = WholeNumber(record.timeZone);
-    if (!zone) return FieldFault(5, "time zone", record.timeZone, "is no number");
-    const auto longitude = WholeNumber(record.longitude);
-    if (!longitude) return FieldFault(6, "longitude", record.longitude, "is no number");
-    const auto latitude = WholeNumber(record.latitude);
-    if (!latitude) return FieldFault(7, "latitude", record.latitude, "is no number");
+    const Result<BirthNumbers> numbers = NumbersOf(record);
+    if (!numbers) return Fault{numbers.message()};
 
     NatalEntry entry;
     entry.name = record.name;
-    entry.day = std::to_string(date->day);
-    entry.month = std::to_string(date->month);
-    entry.year = std::to_string(date->year);
-    const PackedParts clock = SplitPacked(*time);
+    entry.day = std::to_string(numbers->date.day);
+    entry.month = std::to_string(numbers->date.month);
+    entry.year = std::to_string(numbers->date.year);
+    const PackedParts clock = SplitPacked(numbers->time);
     entry.birthHour = ApplyHourRule(clock.whole).text;
     entry.birthMinute = clock.sixtieths;
     entry.pm = !EqualIgnoringCase(record.halfDay, "A");
-    entry.timeZone = NumberText(*zone);
-    const PackedParts east = SplitPacked(*longitude);
+    entry.timeZone = NumberText(numbers->timeZone);
+    const PackedParts east = SplitPacked(numbers->longitude);
     entry.longDeg = east.whole;
     entry.longMin = east.sixtieths;
-    entry.east = *longitude < 0;
-    const PackedParts north = SplitPacked(*latitude);
+    entry.east = numbers->longitude < 0;
+    const PackedParts north = SplitPacked(numbers->latitude);
     entry.latDeg = north.whole;
     entry.latMin = north.sixtieths;
-    entry.south = *latitude < 0;
+    entry.south = numbers->latitude < 0;
     return entry;
 }
 
 NameRecord RecordFromEntry(const NatalEntry& entry) {
     const auto number = [](const std::string& text) { return int{RoundToInt16(LeadingNumber(text))}; };
     NameRecord record;
-    record.name = entry.name;
+    record.name = TrimBlanks(entry.name);
     record.date = FormatDate({number(entry.year), number(entry.month), number(entry.day)});
     record.time = FormatMask(PackedNumber(entry.birthHour, entry.birthMinute, false), "##.#0");
     record.halfDay = entry.pm ? "P" : "A";

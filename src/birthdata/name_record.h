@@ -26,15 +26,19 @@ struct NameRecord {
 // which ends a file, is returned with all fields empty whatever follows.
 Result<NameRecord> ParseNameRecord(std::string_view line);
 
-// The seven fields joined by commas, without a line end.
+// The seven fields joined by commas, without a line end. A name that would not read back as it stands (one in
+// quotes, say) is put in quotes.
 std::string FormatNameRecord(const NameRecord& record);
+
+// Whether all fields convert; a fault names the one that does not.
+Result<void> CheckNameRecord(const NameRecord& record);
 
 // The entry that a record describes. A fault names the field that is no date or no number. Packed values are
 // split by truncation towards zero, their minutes rounded to whole numbers, and the sign of the time zone is
 // kept whatever the hemisphere.
 Result<NatalEntry> EntryFromRecord(const NameRecord& record);
 
-// The record of an entry, the fields formatted as a names file holds them.
+// The record of an entry, the fields formatted as a names file holds them, the name without blanks around it.
 NameRecord RecordFromEntry(const NatalEntry& entry);
 
 }  // namespace tolvanis

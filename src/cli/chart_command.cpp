@@ -4,10 +4,13 @@
 
 #include "app/app_directory.h"
 #include "app/options_file.h"
+#include "birthdata/cities_file.h"
 #include "birthdata/name_record.h"
 #include "cli/chart_output.h"
 #include "platform/clock.h"
 #include "text/columns.h"
+#include "text/fields.h"
+#include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
@@ -91,12 +94,42 @@ void PrintNamesFile(const ChartRequest& request, ChartPrinter& printer) {
     }
 }
 
-void PrintBirth(const std::string& birth, ChartPrinter& printer) {
+// The place that was asked for; the file is looked up as given, then in the application directory.
+Result<std::optional<Place>> RequestedPlace(const ChartRequest& request, const Path& appDirectory) {
+    if (!request.place) return std::optional<Place>();
+    const Path asGiven = PathFromText(request.place->file);
+    const Path file = IsReadableFile(asGiven) ? asGiven : FindFile(appDirectory, request.place->file);
+    const Result<CityRecord> city = FindCity(file, ToUtf8(request.place->city));
+    if (!city) return Fault{request.place->file + ": " + city.message()};
+    return std::optional<Place>(PlaceOfCity(*city));
+}
+
+// The entry of a birth given as a record. With a place the record's own one is not read and may be missing.
+Result<NatalEntry> EntryOfBirth(const std::string& birth, const std::optional<Place>& place) {
+    constexpr std::size_t kFieldsBeforePlace = 4;
+    std::string line = ToUtf8(birth);
+    if (place && SplitFields(line).size() == kFieldsBeforePlace) line += ",,,";
+    Result<NameRecord> record = ParseNameRecord(line);
+    if (!record) return Fault{record.message()};
+    if (record->name.empty()) return Fault{"the name is empty"};
+    if (place) record->timeZone = record->longitude = record->latitude = "0";
+    Result<NatalEntry> entry = EntryFromRecord(*record);
+    if (entry && place) FillPlace(*entry, *place);
+    return entry;
+}
+
+void PrintBirth(const std::string& birth, const std::optional<Place>& place, ChartPrinter& printer) {
     const std::string source = "--birth";
-    const Result<NameRecord> record = ParseNameRecord(ToUtf8(birth));
-    if (!record) return printer.Refuse(source, record.message());
-    if (record->name.empty()) return printer.Refuse(source, "the name is empty");
-    printer.Print(*record, source);
+    const Result<NatalEntry> entry = EntryOfBirth(birth, place);
+    if (!entry) return printer.Refuse(source, entry.message());
+    printer.Print(*entry, source);
+}
+
+void PrintNow(const Options& options, const std::optional<Place>& place, ChartPrinter& printer) {
+    const LocalTime now = place ? PresentMomentInZone(LeadingNumber(place->timeZone)) : PresentMoment();
+    NatalEntry entry = FillNow(now, options);
+    if (place) FillPlace(entry, *place);
+    printer.Print(entry, "--now");
 }
 
 }  // namespace
@@ -113,13 +146,18 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
         errors << read.message() << "\n";
         return kSomethingRefused;
     }
+    const Result<std::optional<Place>> place = RequestedPlace(request, *directory);
+    if (!place) {
+        errors << "--place: " << place.message() << "\n";
+        return kSomethingRefused;
+    }
     ChartPrinter printer(request, options, output, errors);
     if (request.birth) {
-        PrintBirth(*request.birth, printer);
+        PrintBirth(*request.birth, *place, printer);
     } else if (request.namesFile) {
         PrintNamesFile(request, printer);
     } else {
-        printer.Print(FillNow(PresentMoment(), options), "--now");
+        PrintNow(options, *place, printer);
     }
     return printer.status();
 }

@@ -7,7 +7,8 @@ namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--houses CODE] [--format text|json] [--app-dir DIR] [--output FILE]\n"
+    "                      [--place FILE:CITY] [--houses CODE] [--format text|json]\n"
+    "                      [--app-dir DIR] [--output FILE]\n"
     "\n"
     "Computes natal charts and prints them.\n"
     "\n"
@@ -18,6 +19,13 @@ const std::string_view kUsage =
     "                   \"Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45\"\n"
     "  --names FILE     every record of a names file\n"
     "  --name NAME      only the first record with this name\n"
+    "  --place FILE:CITY\n"
+    "                   longitude, latitude and zone (standard time, never daylight\n"
+    "                   saving) of a place in a cities file, looked up as given and then\n"
+    "                   in the directory of the data; CITY is \"city\" or \"city,region\".\n"
+    "                   For --now, and for a --birth, where the place replaces the last\n"
+    "                   three fields, which may be missing:\n"
+    "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
     "  --format FORMAT  text (the listing) or json (one object a line)\n"
@@ -48,6 +56,15 @@ Result<void> SetFormat(ChartRequest& request, const std::string& format) {
     return {};
 }
 
+Result<void> SetPlace(ChartRequest& request, const std::string& place) {
+    const std::size_t colon = place.rfind(':');
+    if (colon == std::string::npos || colon == 0 || colon + 1 == place.size()) {
+        return Fault{"--place needs FILE:CITY, not \"" + place + "\""};
+    }
+    request.place = PlaceRequest{place.substr(0, colon), place.substr(colon + 1)};
+    return {};
+}
+
 struct Option {
     std::string_view name;
     Result<void> (*set)(ChartRequest&, const std::string&);
@@ -63,6 +80,7 @@ constexpr std::array kOptions = {
     Option{"--birth", Set<&ChartRequest::birth>},
     Option{"--names", Set<&ChartRequest::namesFile>},
     Option{"--name", Set<&ChartRequest::name>},
+    Option{"--place", SetPlace},
     Option{"--houses", SetHouses},
     Option{"--format", SetFormat},
     Option{"--app-dir", Set<&ChartRequest::appDirectory>},
@@ -80,6 +98,7 @@ Result<void> CheckTogether(const ChartRequest& request, bool now) {
     const int sources = int{now} + int{request.birth.has_value()} + int{request.namesFile.has_value()};
     if (sources > 1) return Fault{"only one of --now, --birth and --names can be given"};
     if (request.name && !request.namesFile) return Fault{"--name needs --names"};
+    if (request.place && request.namesFile) return Fault{"--place goes with --birth or --now only"};
     return {};
 }
 

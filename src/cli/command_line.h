@@ -13,10 +13,17 @@ namespace tolvanis {
 
 enum class OutputFormat { Text, Json };
 
+// A place of a cities file.
+struct PlaceRequest {
+    std::string file;
+    std::string city;  // or "city,region"
+};
+
 struct ChartRequest {
     std::optional<std::string> birth;  // one record in the names-file form
     std::optional<std::string> namesFile;
-    std::optional<std::string> name;    // of one record of the names file
+    std::optional<std::string> name;  // of one record of the names file
+    std::optional<PlaceRequest> place;
     std::optional<HouseSystem> houses;  // else the one that option 27 names
     OutputFormat format = OutputFormat::Text;
     std::optional<std::string> appDirectory;

@@ -3,16 +3,33 @@
 #include <langinfo.h>
 #include <locale.h>
 
+#include <cmath>
 #include <ctime>
 
 namespace tolvanis {
+
+namespace {
+
+LocalTime FromParts(const std::tm& parts) {
+    return {
+        {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday}, parts.tm_hour, parts.tm_min, parts.tm_sec};
+}
+
+}  // namespace
 
 LocalTime PresentMoment() {
     const std::time_t now = std::time(nullptr);
     std::tm parts{};
     ::localtime_r(&now, &parts);
-    return {
-        {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday}, parts.tm_hour, parts.tm_min, parts.tm_sec};
+    return FromParts(parts);
+}
+
+LocalTime PresentMomentInZone(double hoursWest) {
+    constexpr double kSecondsPerHour = 3600.0;
+    const std::time_t now = std::time(nullptr) - std::lround(hoursWest * kSecondsPerHour);
+    std::tm parts{};
+    ::gmtime_r(&now, &parts);
+    return FromParts(parts);
 }
 
 DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat) {

@@ -15,6 +15,9 @@ struct LocalTime {
 // The present moment on the host's clock, in the host's time zone.
 LocalTime PresentMoment();
 
+// The present moment on a clock that runs `hoursWest` hours behind Greenwich.
+LocalTime PresentMomentInZone(double hoursWest);
+
 // Order and clock as in the POSIX date and time formats of a locale ("%d.%m.%Y", "%H:%M:%S"); a format
 // without the day, month and year, or without an hour, leaves that value at 1.
 DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat);

@@ -1,13 +1,16 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <system_error>
+#include <thread>
 
 #include "text/columns.h"
 #include "text/numbers.h"
@@ -45,14 +48,26 @@ Path FindEntryIgnoringCase(const Path& directory, const Path& name) {
 // A file being written beside its target; the destructor removes it unless it has been moved into place.
 class NewFile {
   public:
-    explicit NewFile(const Path& target) : target_(target) {
-        name_ = (target.parent_path() / ("." + target.filename().string() + ".XXXXXX")).string();
-        descriptor_ = ::mkostemp(name_.data(), O_CLOEXEC);
-        if (descriptor_ < 0) error_ = errno;
+    // With NameUse::Alone the caller sees to it that nobody else writes beside this target; then what a
+    // killed program has left there is used again and never piles up.
+    enum class NameUse { Shared, Alone };
+
+    NewFile(const Path& target, NameUse use) : target_(target) {
+        const bool alone = use == NameUse::Alone;
+        const std::string suffix = alone ? ".new" : ".XXXXXX";
+        name_ = (target.parent_path() / ("." + target.filename().string() + suffix)).string();
+        if (alone) {
+            ::unlink(name_.c_str());
+            descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        } else {
+            descriptor_ = ::mkostemp(name_.data(), O_CLOEXEC);
+        }
+        made_ = descriptor_ >= 0;
+        if (!made_) error_ = errno;
     }
     ~NewFile() {
         if (descriptor_ >= 0) ::close(descriptor_);
-        if (!name_.empty() && !placed_) ::unlink(name_.c_str());
+        if (made_ && !placed_) ::unlink(name_.c_str());
     }
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
@@ -113,6 +128,7 @@ class NewFile {
     std::string buffer_;
     int descriptor_ = -1;
     int error_ = 0;
+    bool made_ = false;
     bool placed_ = false;
 };
 
@@ -123,6 +139,33 @@ void FlushDirectory(const Path& directory) {
     ::close(descriptor);
 }
 
+// Keeps other programs of this kind from replacing files in the directory. Where the file system has no
+// locks, or another program holds one for too long, the work goes on without.
+class DirectoryLock {
+  public:
+    explicit DirectoryLock(const Path& directory)
+        : descriptor_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        constexpr auto kPause = std::chrono::milliseconds(5);
+        constexpr int kAttempts = 1000;
+        for (int attempt = 0; descriptor_ >= 0 && !held_ && attempt < kAttempts; ++attempt) {
+            if (attempt > 0) std::this_thread::sleep_for(kPause);
+            held_ = ::flock(descriptor_, LOCK_EX | LOCK_NB) == 0;
+            if (!held_ && errno != EWOULDBLOCK && errno != EINTR) return;
+        }
+    }
+    ~DirectoryLock() {
+        if (descriptor_ >= 0) ::close(descriptor_);
+    }
+    DirectoryLock(const DirectoryLock&) = delete;
+    DirectoryLock& operator=(const DirectoryLock&) = delete;
+
+    bool held() const { return held_; }
+
+  private:
+    int descriptor_;
+    bool held_ = false;
+};
+
 // The file that is really to be replaced: links followed, letter case as on the disk, an absolute directory.
 Path RealTarget(const Path& path) {
     std::error_code error;
@@ -131,48 +174,49 @@ Path RealTarget(const Path& path) {
     return error ? found : real;
 }
 
+bool FlushFile(const std::string& name) {
+    const int descriptor = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
+    const bool flushed = descriptor >= 0 && ::fsync(descriptor) == 0;
+    if (descriptor >= 0) ::close(descriptor);
+    return flushed;
+}
+
+// Gives the file a second name; file systems without hard links get a copy instead.
+bool LinkOrCopy(const Path& target, const std::string& name) {
+    if (::link(target.c_str(), name.c_str()) == 0) return true;
+    std::error_code error;
+    if (fs::copy_file(target, name, fs::copy_options::overwrite_existing, error)) return FlushFile(name);
+    errno = error ? error.value() : EIO;
+    return false;
+}
+
 // Puts the old content under the backup's name without a moment in which the file itself is missing.
 bool MakeBackup(const Path& target, const Path& backup) {
     const std::string spare = backup.string() + "~";
     ::unlink(spare.c_str());
-    if (::link(target.c_str(), spare.c_str()) != 0) {
-        // File systems without hard links: a copy does as well.
-        std::error_code error;
-        if (!fs::copy_file(target, spare, fs::copy_options::overwrite_existing, error)) {
-            errno = error ? error.value() : EIO;
-            return false;
-        }
-    }
-    if (::rename(spare.c_str(), backup.c_str()) == 0) {
-        // Two names of one file are left as they are by rename; then the spare name must go.
-        ::unlink(spare.c_str());
-        return true;
-    }
+    const bool kept = LinkOrCopy(target, spare) && ::rename(spare.c_str(), backup.c_str()) == 0;
     const int error = errno;
+    // What a fault has left must go, and so must a second name of one file, which rename leaves.
     ::unlink(spare.c_str());
     errno = error;
-    return false;
+    return kept;
 }
 
-Result<void> Replace(const Path& path, const Path& backup, const std::function<bool(const Sink&)>& write) {
-    const Path target = RealTarget(path);
+// Why the target cannot be replaced, or 0.
+int WhyNotReplaceable(const Path& target) {
     std::error_code error;
-    if (fs::is_directory(target, error)) return CannotWrite(path, Reason(EISDIR));
-    const bool exists = fs::exists(target, error);
-    if (exists && ::access(target.c_str(), W_OK) != 0) return CannotWrite(path, Reason(errno));
+    if (fs::is_directory(target, error)) return EISDIR;
+    return fs::exists(target, error) && ::access(target.c_str(), W_OK) != 0 ? errno : 0;
+}
 
-    NewFile file(target);
+using Writer = std::function<bool(const Sink&)>;
+
+// Writes the new content beside its target and flushes it to the disk.
+Result<void> Prepare(NewFile& file, const Path& path, const Writer& write) {
     if (file.error() != 0) return CannotWrite(path, Reason(file.error()));
     const bool written = write([&](std::string_view bytes) { return file.Write(bytes); });
-    if (!written || !file.Finish()) {
-        return CannotWrite(path, file.error() != 0 ? Reason(file.error()) : "the content is incomplete");
-    }
-    if (exists && !backup.empty() && !MakeBackup(target, backup)) {
-        return CannotWrite(backup, Reason(errno));
-    }
-    if (!file.Place()) return CannotWrite(path, Reason(file.error()));
-    FlushDirectory(target.parent_path());
-    return {};
+    if (written && file.Finish()) return {};
+    return CannotWrite(path, file.error() != 0 ? Reason(file.error()) : "the content is incomplete");
 }
 
 }  // namespace
@@ -255,7 +299,11 @@ Result<std::string> ReadBytes(const Path& path) {
     errno = 0;
     std::ifstream file(found, std::ios::binary);
     if (!file) return CannotRead(path, Reason(errno != 0 ? errno : EIO));
-    std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    const std::uintmax_t size = fs::file_size(found, error);
+    std::string bytes(error ? 0 : size, '\0');  // a first guess: a pipe has no size, a file may grow
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    if (file) bytes.append(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     if (file.bad()) return CannotRead(path, Reason(EIO));
     return bytes;
 }
@@ -275,16 +323,41 @@ Result<int> ReadNumberLines(const Path& path, std::span<float> values) {
 }
 
 Result<void> ReplaceFile(const Path& path, std::string_view content) {
-    return Replace(path, {}, [&](const Sink& sink) { return sink(content); });
+    return ReplaceFile(path, [&](const Sink& sink) { return sink(content); });
 }
 
-Result<void> ReplaceFile(const Path& path, const std::function<bool(const Sink&)>& write) {
-    return Replace(path, {}, write);
+Result<void> ReplaceFile(const Path& path, const Writer& write) {
+    const Path target = RealTarget(path);
+    if (const int error = WhyNotReplaceable(target)) return CannotWrite(path, Reason(error));
+    NewFile file(target, NewFile::NameUse::Shared);
+    if (const Result<void> prepared = Prepare(file, path, write); !prepared) return prepared;
+    if (!file.Place()) return CannotWrite(path, Reason(file.error()));
+    FlushDirectory(target.parent_path());
+    return {};
 }
 
-Result<void> ReplaceFileKeepingBackup(const Path& path, const Path& backup,
-                                      const std::function<bool(const Sink&)>& write) {
-    return Replace(path, backup, write);
+Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
+                                std::string_view content) {
+    const Path target = RealTarget(path);
+    if (const int error = WhyNotReplaceable(target)) return CannotWrite(path, Reason(error));
+    const DirectoryLock lock(target.parent_path());
+    NewFile file(target, lock.held() ? NewFile::NameUse::Alone : NewFile::NameUse::Shared);
+    const Result<void> prepared = Prepare(file, path, [&](const Sink& sink) { return sink(content); });
+    if (!prepared) return Fault{prepared.message()};
+
+    std::error_code error;
+    const bool exists = fs::exists(target, error);
+    if (exists) {
+        const Result<std::string> present = ReadBytes(target);
+        if (!present) return Fault{present.message()};
+        if (*present != expected) return false;
+        if (!MakeBackup(target, FindPath(backup))) return CannotWrite(backup, Reason(errno));
+    } else if (!expected.empty()) {
+        return false;
+    }
+    if (!file.Place()) return CannotWrite(path, Reason(file.error()));
+    FlushDirectory(target.parent_path());
+    return true;
 }
 
 std::string JoinLines(std::span<const std::string> lines) {

@@ -73,10 +73,13 @@ using Sink = std::function<bool(std::string_view)>;
 Result<void> ReplaceFile(const Path& path, std::string_view content);
 Result<void> ReplaceFile(const Path& path, const std::function<bool(const Sink&)>& write);
 
-// As ReplaceFile, and the file's previous content becomes `backup`; an earlier backup is replaced. The file
-// is never missing in between.
-Result<void> ReplaceFileKeepingBackup(const Path& path, const Path& backup,
-                                      const std::function<bool(const Sink&)>& write);
+// Replaces the file only while its content is still `expected` (a file that does not exist counts as empty),
+// and keeps that content under the name `backup`; an earlier backup is replaced. False, with nothing touched,
+// when another program has changed the file meanwhile. Two programs that call this for files of one directory
+// take turns. At any moment the file holds the old or the new content in full and is never missing; the
+// backup holds the content that was there before, or for an instant the present one.
+Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
+                                std::string_view content);
 
 // Lines joined with CR LF after each.
 std::string JoinLines(std::span<const std::string> lines);

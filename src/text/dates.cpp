@@ -16,6 +16,7 @@ constexpr std::array<std::string_view, 12> kMonths = {"January",   "February", "
 std::vector<std::string_view> SplitParts(std::string_view text) {
     constexpr std::string_view kSeparators = " \t-/.";
     std::vector<std::string_view> parts;
+    parts.reserve(4);
     while (true) {
         const std::size_t start = text.find_first_not_of(kSeparators);
         if (start == std::string_view::npos) return parts;

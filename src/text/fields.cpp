@@ -28,22 +28,40 @@ bool TakeQuoted(std::string_view& text, std::string& field) {
     return true;
 }
 
+// Reads the field at the start of `text`; afterwards `text` begins at the comma after it, or is empty.
+std::string TakeField(std::string_view& text) {
+    std::string field;
+    text = TrimLeadingBlanks(text);
+    if (TakeQuoted(text, field)) return field;
+    const std::size_t comma = std::min(text.find(','), text.size());
+    field = TrimTrailingBlanks(text.substr(0, comma));
+    text.remove_prefix(comma);
+    return field;
+}
+
 }  // namespace
 
 std::vector<std::string> SplitFields(std::string_view line) {
+    constexpr std::size_t kUsualCount = 8;
     std::vector<std::string> fields;
+    fields.reserve(kUsualCount);
     while (true) {
-        std::string field;
-        std::string_view rest = TrimLeadingBlanks(line);
-        if (!TakeQuoted(rest, field)) {
-            const std::size_t comma = std::min(rest.find(','), rest.size());
-            field = TrimTrailingBlanks(rest.substr(0, comma));
-            rest.remove_prefix(comma);
-        }
-        fields.push_back(std::move(field));
-        if (rest.empty()) return fields;
-        line = rest.substr(1);
+        fields.push_back(TakeField(line));
+        if (line.empty()) return fields;
+        line.remove_prefix(1);
     }
+}
+
+std::string FirstField(std::string_view line) {
+    return TakeField(line);
+}
+
+std::string QuotedWhereNeeded(const std::string& field) {
+    const std::vector<std::string> readBack = SplitFields(field);
+    if (readBack.size() == 1 && readBack.front() == field) return field;
+    std::string quoted = "\"";
+    for (const char c : field) quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + "\"";
 }
 
 }  // namespace tolvanis

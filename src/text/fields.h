@@ -13,4 +13,10 @@ namespace tolvanis {
 // comma, so that a nickname in quotes inside a name survives. An empty line is one empty field.
 std::vector<std::string> SplitFields(std::string_view line);
 
+// The first of them.
+std::string FirstField(std::string_view line);
+
+// The field, put in quotes when it would not read back as it stands.
+std::string QuotedWhereNeeded(const std::string& field);
+
 }  // namespace tolvanis

@@ -73,11 +73,13 @@ TEST(Files, ReplacingKeepsModeFollowsLinksAndLeavesNothingBehind) {
 TEST(Files, BackupHoldsTheContentBefore) {
     const ScratchDirectory directory;
     const auto path = directory.Write("N.FIL", "first");
-    const auto write = [](std::string_view text) { return [text](const Sink& sink) { return sink(text); }; };
-    ASSERT_TRUE(ReplaceFileKeepingBackup(path, directory / "N.OLD", write("second")));
-    EXPECT_EQ(FileContent(directory / "N.OLD"), "first");
-    ASSERT_TRUE(ReplaceFileKeepingBackup(path, directory / "N.OLD", write("third")));
-    EXPECT_EQ(FileContent(directory / "N.OLD"), "second");
+    const auto backup = directory / "N.OLD";
+    EXPECT_TRUE(*ReplaceIfUnchanged(path, backup, "first", "second"));
+    EXPECT_EQ(FileContent(backup), "first");
+    EXPECT_TRUE(*ReplaceIfUnchanged(path, backup, "second", "third"));
+    EXPECT_EQ(FileContent(backup), "second");
+    EXPECT_FALSE(*ReplaceIfUnchanged(path, backup, "second", "fourth")) << "somebody else wrote the third";
+    EXPECT_EQ(FileContent(backup), "second");
     EXPECT_EQ(FileContent(path), "third");
     EXPECT_EQ(std::distance(fs::directory_iterator(directory.path()), {}), 2);
 }

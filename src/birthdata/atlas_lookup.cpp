@@ -1,0 +1,101 @@
+#include "birthdata/atlas_lookup.h"
+
+#include <vector>
+
+#include "text/columns.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string_view kProgram = "ATLAS.EXE";
+constexpr std::string_view kPathFile = "PCATPATH.TXT";
+constexpr std::string_view kExchangeFile = "TSRTEMP.TXT";
+
+// Far more than any coordinate needs; what a damaged file holds must not fill the screen.
+constexpr std::size_t kLongestCoordinate = 40;
+
+// Directories come from the user and from the atlas, with either separator at their ends or none.
+Path FileIn(const std::string& directory, std::string_view name) {
+    return FindFile(PathFromText(directory), name);
+}
+
+// The first `count` lines of a file; nothing when it has fewer or cannot be read.
+std::optional<std::vector<std::string>> FirstLines(const Path& path, std::size_t count) {
+    LineReader reader(path);
+    std::vector<std::string> lines;
+    for (std::string line; lines.size() < count && reader.Next(line);) lines.push_back(line);
+    if (!reader.IsOpen() || lines.size() < count) return std::nullopt;
+    return lines;
+}
+
+std::optional<Coordinate> Split(std::string_view text, char positiveLetter, char negativeLetter) {
+    const std::size_t positive = text.find(positiveLetter);
+    const std::size_t negative = text.find(negativeLetter);
+    const bool isNegative = positive == std::string_view::npos;
+    if (isNegative == (negative == std::string_view::npos)) return std::nullopt;
+    const std::size_t letter = isNegative ? negative : positive;
+    return CoordinateOf(text.substr(0, letter), text.substr(letter + 1), isNegative);
+}
+
+std::string CoordinateText(const std::string& line) {
+    return std::string(FirstCharacters(TrimBlanks(line), kLongestCoordinate));
+}
+
+}  // namespace
+
+Place PlaceOfAtlas(const AtlasResult& result) {
+    return {Split(result.longitude, 'W', 'E'), Split(result.latitude, 'N', 'S'), NumberText(result.timeZone)};
+}
+
+std::optional<Place> AtlasLookup::LookUp(std::string& atlasDir) {
+    if (running_) return std::nullopt;
+    running_ = true;
+    std::optional<Place> place;
+    if (RunAtlas(atlasDir)) {
+        const std::optional<AtlasResult> result = ReadResult(atlasDir);
+        if (result && IsAccepted(*result)) place = PlaceOfAtlas(*result);
+    }
+    running_ = false;
+    return place;
+}
+
+bool AtlasLookup::RunAtlas(std::string& atlasDir) {
+    while (true) {
+        const ProgramRun run = atlasDir.empty() ? ProgramRun::NotStarted : run_(FileIn(atlasDir, kProgram));
+        if (run != ProgramRun::NotStarted) return run == ProgramRun::Ended;
+        std::string answer =
+            messages_.AskText("Where do I find ATLAS.EXE?",
+                              "Enter the complete path for where ATLAS.EXE resides: \r\n\r\n"
+                              "(Example: c:\\atlas OR c:\\charts\\atlas OR d:\\windows\\atlas\\)");
+        if (answer.empty()) return false;
+        if (!answer.ends_with('\\') && !answer.ends_with('/')) answer += '\\';
+        atlasDir = std::move(answer);
+    }
+}
+
+std::optional<AtlasResult> AtlasLookup::ReadResult(const std::string& atlasDir) {
+    const auto warn = [&](const std::string& text) { messages_.Tell("Warning!", text, MessageIcon::Stop); };
+    const auto path = FirstLines(FileIn(atlasDir, kPathFile), 1);
+    if (!path) {
+        warn("Cannot find the file called PCATPATH in the " + atlasDir + " directory.");
+        return std::nullopt;
+    }
+    const std::string& workingDirectory = path->front();
+    const auto lines = FirstLines(FileIn(workingDirectory, kExchangeFile), 5);
+    if (!lines) {
+        warn("Cannot find the file called TSRTEMP.TXT in the " + workingDirectory + " directory.");
+        return std::nullopt;
+    }
+    return AtlasResult{CoordinateText((*lines)[2]), CoordinateText((*lines)[1]),
+                       static_cast<float>(LeadingNumber((*lines)[4]))};
+}
+
+bool AtlasLookup::IsAccepted(const AtlasResult& result) {
+    const std::string text = "Accept following data? \r\n\r\nLongitude = " + result.longitude +
+                             "\r\nLatitude  = " + result.latitude +
+                             "\r\nTime zone = " + ClassicNumberText(result.timeZone);
+    return messages_.AskYesNo("Accept or Reject data", text) == Answer::Yes;
+}
+
+}  // namespace tolvanis

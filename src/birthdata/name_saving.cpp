@@ -1,0 +1,224 @@
+// Saving of a record into a names file.
+
+#include <algorithm>
+
+#include "birthdata/names_file.h"
+#include "text/columns.h"
+#include "text/fields.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// Takes the first line off the text, its end included.
+std::string_view TakeLine(std::string_view& text) {
+    const std::size_t end = text.find('\n');
+    const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
+    text.remove_prefix(line.size());
+    return line;
+}
+
+std::string_view WithoutLineEnd(std::string_view line) {
+    if (line.ends_with('\n')) line.remove_suffix(1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
+}
+
+std::string ReplaceQuestion(const NameRecord& record) {
+    return "There is already a name on file matching your current name with the following associated data: "
+           "\r\n\r\nDate =  " +
+           record.date + "\r\nTime =  " + record.time + " " + record.halfDay +
+           "\r\nTime zone =  " + record.timeZone + "\r\nLongitude =  " + record.longitude +
+           "\r\nLatitude =  " + record.latitude +
+           "\r\n\r\nDo you want to replace it?\r\n\r\nAnswering 'NO' will append the current name and data "
+           "to "
+           "file, not replace the existing entry.";
+}
+
+// Asks which records the new one replaces. What the user has answered holds when the saving is done again.
+class ReplaceQuestions {
+  public:
+    explicit ReplaceQuestions(Messages& messages) : messages_(messages) {}
+
+    void StartAgain() {
+        for (Asked& asked : asked_) asked.used = false;
+    }
+
+    bool Replaces(const NameRecord& record) {
+        for (Asked& asked : asked_) {
+            if (asked.used || asked.record != record) continue;
+            asked.used = true;
+            return asked.replaces;
+        }
+        const Answer answer = messages_.AskYesNo(record.name + " already exists", ReplaceQuestion(record));
+        asked_.push_back({record, answer == Answer::Yes, true});
+        return asked_.back().replaces;
+    }
+
+  private:
+    struct Asked {
+        NameRecord record;
+        bool replaces;
+        bool used;
+    };
+    Messages& messages_;
+    std::vector<Asked> asked_;
+};
+
+// The new content of a names file.
+class Composer {
+  public:
+    Composer(const NameRecord& record, ReplaceQuestions& questions)
+        : line_(FormatNameRecord(record)), upperName_(UpperCase(record.name)), questions_(questions) {}
+
+    std::string Compose(std::string_view content) {
+        content_.reserve(content.size() + line_.size() + 2 * kLineEnd.size());
+        while (!content.empty()) Take(TakeLine(content));
+        if (!placed_) PlaceNewRecord();
+        return std::move(content_);
+    }
+
+  private:
+    void Take(std::string_view bytes) {
+        const bool ascii = IsAscii(bytes);
+        const std::string converted = ascii ? std::string() : Converted(bytes);
+        const std::string_view line = ascii ? bytes : converted;
+        if (!placed_) {
+            const std::string_view text = WithoutByteOrderMark(WithoutLineEnd(line));
+            const std::string name = FirstField(text);
+            if (name.empty()) {
+                PlaceNewRecord();
+            } else if (IsReplaced(name, text)) {
+                return;
+            }
+        }
+        content_ += line;
+    }
+
+    // ToUtf8, but with the byte order mark kept.
+    static std::string Converted(std::string_view bytes) {
+        const bool marked = bytes.starts_with(kByteOrderMark);
+        return (marked ? std::string(kByteOrderMark) : std::string()) + ToUtf8(bytes);
+    }
+
+    std::string_view WithoutByteOrderMark(std::string_view text) const {
+        const bool marked = content_.empty() && text.starts_with(kByteOrderMark);
+        return marked ? text.substr(kByteOrderMark.size()) : text;
+    }
+
+    bool IsReplaced(const std::string& name, std::string_view text) {
+        if (UpperCase(name) != upperName_) return false;
+        const Result<NameRecord> record = ParseNameRecord(text);
+        return record && questions_.Replaces(*record);
+    }
+
+    void PlaceNewRecord() {
+        if (!content_.empty() && !content_.ends_with('\n')) content_ += kLineEnd;
+        content_.append(line_).append(kLineEnd);
+        placed_ = true;
+    }
+
+    std::string line_;
+    std::string upperName_;
+    ReplaceQuestions& questions_;
+    std::string content_;
+    bool placed_ = false;
+};
+
+// Whether a reader of the record gets what the entry says.
+bool ReadsBack(const NameRecord& record, const NatalEntry& entry) {
+    const Result<NameRecord> parsed = ParseNameRecord(FormatNameRecord(record));
+    if (!parsed || parsed->name.empty() || *parsed != record) return false;
+    const Result<NatalEntry> read = EntryFromRecord(*parsed);
+    if (!read) return false;
+    using Box = std::string NatalEntry::*;
+    constexpr Box kBoxes[] = {&NatalEntry::month,     &NatalEntry::day,      &NatalEntry::year,
+                              &NatalEntry::birthHour, &NatalEntry::timeZone, &NatalEntry::birthMinute,
+                              &NatalEntry::longDeg,   &NatalEntry::longMin,  &NatalEntry::latDeg,
+                              &NatalEntry::latMin};
+    return std::all_of(std::begin(kBoxes), std::end(kBoxes),
+                       [&](Box box) { return LeadingNumber(entry.*box) == LeadingNumber((*read).*box); });
+}
+
+// The record of an entry, or nothing after telling the user what is wrong with it.
+std::optional<NameRecord> RecordToSave(const NatalEntry& entry, Messages& messages) {
+    if (entry.name.find(',') != std::string::npos) {
+        messages.Tell("Warning!",
+                      "You cannot have a comma in the name. Please remove the comma and try again.",
+                      MessageIcon::Stop);
+        return std::nullopt;
+    }
+    NameRecord record = RecordFromEntry(entry);
+    for (char& c : record.name) {
+        if (static_cast<unsigned char>(c) < 0x20) c = ' ';
+    }
+    if (!ReadsBack(record, entry)) {
+        const InputFault fault{EntryField::Name, "the entry does not read back", false};
+        messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
+        return std::nullopt;
+    }
+    return record;
+}
+
+// The content of the chosen file; one that does not exist yet is empty.
+Result<std::string> PresentContent(const Path& file) {
+    std::error_code error;
+    if (!std::filesystem::exists(FindPath(file), error)) return std::string();
+    Result<std::string> content = ReadBytes(file);
+    if (content && content->find('\0') != std::string::npos) {
+        return Fault{"The file " + file.string() + " is not a names file: it holds bytes that no text has."};
+    }
+    return content;
+}
+
+// True when the file was replaced, false when it changed meanwhile.
+Result<bool> TryToSave(const Path& file, const NameRecord& record, ReplaceQuestions& questions) {
+    const Result<std::string> present = PresentContent(file);
+    if (!present) return Fault{present.message()};
+    questions.StartAgain();
+    const std::string content = Composer(record, questions).Compose(*present);
+    return ReplaceIfUnchanged(file, NamesBackupPath(FindPath(file)), *present, content);
+}
+
+}  // namespace
+
+Path NamesBackupPath(const Path& file) {
+    constexpr std::size_t kExtension = 3;
+    const std::string name = file.filename().string();
+    if (CharacterCount(name) <= kExtension) return file.string() + ".OLD";
+    const std::string kept(FirstCharacters(name, CharacterCount(name) - kExtension));
+    if (EqualIgnoringCase(kept + "OLD", name)) return file.string() + ".OLD";
+    return file.parent_path() / (kept + "OLD");
+}
+
+bool SaveRecord(const NatalEntry& entry, const std::function<std::string()>& chooseFile, Messages& messages) {
+    const std::optional<NameRecord> record = RecordToSave(entry, messages);
+    if (!record) return false;
+    const std::string chosen = chooseFile();
+    if (chosen.empty()) return false;
+
+    const Path file = PathFromText(chosen);
+    ReplaceQuestions questions(messages);
+    constexpr int kAttempts = 20;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        const Result<bool> saved = TryToSave(file, *record, questions);
+        if (!saved) {
+            messages.Tell("Error!", saved.message(), MessageIcon::Stop);
+            return false;
+        }
+        if (*saved) return true;
+    }
+    messages.Tell("Error!",
+                  "Another program keeps changing the file " + file.string() + ". Nothing was saved.",
+                  MessageIcon::Stop);
+    return false;
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,57 @@
+#include "birthdata/names_file.h"
+
+#include <algorithm>
+
+#include "text/fields.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string_view kRecordFaultText =
+    "You have an error in the current names file. You need to check and see if "
+    "you have entered the data correctly and in the proper amount. Please correct the data by "
+    "clicking on the Edit this List command button in the Names window and edit the incorrect data.";
+
+constexpr int kEntriesAboveRemembered = 12;
+
+std::string FaultOfLine(std::string_view line) {
+    const Result<NameRecord> record = ParseNameRecord(line);
+    if (!record) return record.message();
+    const Result<void> checked = CheckNameRecord(*record);
+    return checked ? std::string() : checked.message();
+}
+
+}  // namespace
+
+RecordList ReadNamesFile(const Path& path) {
+    return RecordList(path, FaultOfLine);
+}
+
+void TellNamesFault(const RecordFault& fault, Messages& messages) {
+    const std::string text = fault.line == 0 ? fault.detail : std::string(kRecordFaultText);
+    messages.Tell("Error!", text, MessageIcon::Stop);
+}
+
+std::string NameAt(const RecordList& names, std::size_t index) {
+    return FirstField(names.Line(index));
+}
+
+NameRecord NameRecordAt(const RecordList& names, std::size_t index) {
+    const Result<NameRecord> record = ParseNameRecord(names.Line(index));
+    return record ? *record : NameRecord{};
+}
+
+std::optional<std::size_t> FindName(const RecordList& names, std::string_view name) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (FirstField(names.Line(i)) == name) return i;
+    }
+    return std::nullopt;
+}
+
+std::optional<ListPosition> RestoredPosition(const NamesState& state, std::size_t count) {
+    if (!state.locked || state.justSaved || count == 0) return std::nullopt;
+    const int selected = std::clamp(state.rememberedIndex, 0, static_cast<int>(count) - 1);
+    return ListPosition{std::max(0, selected - kEntriesAboveRemembered), selected};
+}
+
+}  // namespace tolvanis

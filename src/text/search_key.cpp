@@ -1,0 +1,109 @@
+#include "text/search_key.h"
+
+#include "text/columns.h"
+
+namespace tolvanis {
+namespace {
+
+// The letter without its accent for the characters of a block, "." where there is none.
+struct Block {
+    char32_t first;
+    std::string_view letters;
+};
+
+constexpr Block kBlocks[] = {
+    {0xC0,
+     "AAAAAA.CEEEEIIIIDNOOOOO.OUUUUY..AAAAAA.CEEEEIIIIDNOOOOO.OUUUUY.Y"
+     "AAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII..JJKKKLLLLLL."
+     ".LLNNNNNNNNNOOOOOO..RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZS"
+     ".B....O..DD....EE.......KK......OO.............UU..............."
+     ".............AAIIOOUUUUUUUUUU.AAAA....GGKKOOOO..J...GG..NNAA...."
+     "AAAAEEEEIIIIOOOORRRRUUUUSSTT..HH......AAEEOOOOOOOOYY............"},
+    {0x1E00,
+     "AABBBBBBCCDDDDDDDDDDEEEEEEEEEEFFGGHHHHHHHHHHIIIIKKKKKKLLLLLLLLMM"
+     "MMMMNNNNNNNNOOOOOOOOPPPPRRRRRRRRSSSSSSSSSSTTTTTTTTUUUUUUUUUUVVVV"
+     "WWWWWWWWWWXXXXYYZZZZZZHTWY......AAAAAAAAAAAAAAAAAAAAAAAAEEEEEEEE"
+     "EEEEEEEEIIIIOOOOOOOOOOOOOOOOOOOOOOOOUUUUUUUUUUUUUUYYYYYYYY......"},
+};
+
+struct Spelling {
+    char32_t letter;
+    std::string_view text;
+};
+
+constexpr Spelling kSpellings[] = {
+    {U'Æ', "AE"}, {U'æ', "AE"}, {U'Œ', "OE"}, {U'œ', "OE"}, {U'ß', "SS"}, {U'ẞ', "SS"},
+    {U'Þ', "TH"}, {U'þ', "TH"}, {U'ə', "E"},  {U'Ĳ', "IJ"}, {U'ĳ', "IJ"},
+};
+
+bool IsDropped(char32_t code) {
+    const bool combiningMark = code >= 0x300 && code <= 0x36F;
+    const bool apostrophe =
+        code == '\'' || code == '`' || (code >= 0x2018 && code <= 0x201B) || (code >= 0x2B9 && code <= 0x2BF);
+    return combiningMark || apostrophe || code == '.';
+}
+
+bool IsSeparator(char32_t code) {
+    if (code < 0x80) {
+        return !((code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z') ||
+                 (code >= 'a' && code <= 'z'));
+    }
+    return code < 0xC0 || code == 0xD7 || code == 0xF7 || (code >= 0x2000 && code <= 0x206F);
+}
+
+// Takes one character off the text; a byte that begins none is taken alone.
+std::string_view TakeCharacter(std::string_view& text, char32_t& code) {
+    const auto lead = static_cast<unsigned char>(text.front());
+    const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    const std::string_view character = text.substr(0, length);
+    code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+    for (const char byte : character.substr(1))
+        code = (code << 6) | (static_cast<unsigned char>(byte) & 0x3FU);
+    text.remove_prefix(character.size());
+    return character;
+}
+
+void AppendPlain(std::string& key, char32_t code, std::string_view character) {
+    if (code < 0x80) {
+        key += code >= 'a' ? static_cast<char>(code - 32) : static_cast<char>(code);
+        return;
+    }
+    for (const Block& block : kBlocks) {
+        if (code < block.first || code - block.first >= block.letters.size()) continue;
+        const char letter = block.letters[code - block.first];
+        if (letter != '.') {
+            key += letter;
+            return;
+        }
+    }
+    for (const Spelling& spelling : kSpellings) {
+        if (spelling.letter == code) {
+            key += spelling.text;
+            return;
+        }
+    }
+    key += UpperCase(character);
+}
+
+}  // namespace
+
+std::string SearchKey(std::string_view text) {
+    std::string key;
+    key.reserve(text.size());
+    bool separated = false;
+    while (!text.empty()) {
+        char32_t code = 0;
+        const std::string_view character = TakeCharacter(text, code);
+        if (IsDropped(code)) continue;
+        if (IsSeparator(code)) {
+            separated = true;
+            continue;
+        }
+        if (separated && !key.empty()) key += ' ';
+        separated = false;
+        AppendPlain(key, code, character);
+    }
+    return key;
+}
+
+}  // namespace tolvanis
