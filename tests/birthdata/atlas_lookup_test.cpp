@@ -1,0 +1,145 @@
+// The atlas: what it leaves, forgets to leave or damages.
+#include "birthdata/atlas_lookup.h"
+
+#include <gtest/gtest.h>
+
+#include "birthdata/birthdata_support.h"
+
+namespace tolvanis {
+namespace {
+
+struct AtlasTest : ::testing::Test {
+    ScratchDirectory directory;
+    RecordedMessages messages;
+    std::string atlasDir = directory.path().string() + "\\";
+    std::vector<Path> started;
+    ProgramRun outcome = ProgramRun::Ended;
+    RunProgram run = [this](const Path& program) {
+        started.push_back(program);
+        return std::filesystem::exists(program) ? outcome : ProgramRun::NotStarted;
+    };
+
+    void SetUp() override {
+        directory.Write("ATLAS.EXE", "");
+        directory.Write("PCATPATH.TXT", atlasDir + "\r\nignored\r\n");
+    }
+    void Leave(const std::string& content) { directory.Write("TSRTEMP.TXT", content); }
+};
+
+TEST_F(AtlasTest, FillsWhatTheUserAccepts) {
+    Leave("Seattle\r\n47N36\r\n122W20\r\n\r\n8\r\nmore\r\n");
+    messages.answers = {Answer::Yes};
+    const auto place = AtlasLookup(run, messages).LookUp(atlasDir);
+    ASSERT_TRUE(place);
+    EXPECT_EQ(*place, (Place{Coordinate{"122", "20", false}, Coordinate{"47", "36", false}, "8"}));
+    EXPECT_EQ(messages.asked.at(0).title, "Accept or Reject data");
+    EXPECT_EQ(messages.asked[0].text,
+              "Accept following data? \r\n\r\nLongitude = 122W20\r\nLatitude  = 47N36\r\nTime zone =  8");
+    EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir)) << "the user answers No";
+}
+
+TEST(AtlasResultTest, SplitsAtTheLetter) {
+    struct Case {
+        const char* text;
+        bool latitude;
+        std::optional<Coordinate> coordinate;
+    };
+    const Case cases[] = {
+        {"73W59", false, Coordinate{"73", "59", false}},
+        {"2E21", false, Coordinate{"2", "21", true}},
+        {"33S52", true, Coordinate{"33", "52", true}},
+        {"47N", true, Coordinate{"47", "0", false}},
+        {"7359", false, std::nullopt},
+        {"", true, std::nullopt},
+        {"1W2E3", false, std::nullopt},
+        {"33S52", false, std::nullopt},
+    };
+    for (const Case& test : cases) {
+        const Place place = PlaceOfAtlas({test.text, test.text, -1.0F});
+        EXPECT_EQ(test.latitude ? place.latitude : place.longitude, test.coordinate) << test.text;
+    }
+    NatalEntry entry;
+    entry.longDeg = "10";
+    FillPlace(entry, PlaceOfAtlas({"rubbish", "33S52", -1.0F}));
+    EXPECT_EQ(entry.longDeg, "10") << "a coordinate without its letter stays";
+    EXPECT_EQ(entry.latMin + entry.timeZone, "52-1");
+}
+
+TEST_F(AtlasTest, AsksForTheDirectoryUntilTheProgramStarts) {
+    Leave("\n1N2\n3E4\n\n-1\n");
+    std::string remembered;
+    messages.texts = {"c:\\atlas", directory.path().string()};
+    AtlasLookup(run, messages).LookUp(remembered);
+    EXPECT_EQ(messages.asked.at(0).title, "Where do I find ATLAS.EXE?");
+    EXPECT_EQ(messages.asked[0].text,
+              "Enter the complete path for where ATLAS.EXE resides: \r\n\r\n(Example: c:\\atlas OR "
+              "c:\\charts\\atlas OR d:\\windows\\atlas\\)");
+    EXPECT_EQ(started.at(0), Path("c:/atlas/ATLAS.EXE"));
+    EXPECT_EQ(remembered, directory.path().string() + "\\");
+    EXPECT_NE(messages.asked.back().text.find("Time zone = -1"), std::string::npos);
+
+    std::string kept = "c:\\gone\\";
+    EXPECT_FALSE(AtlasLookup(run, messages).LookUp(kept)) << "an empty answer ends the lookup";
+    EXPECT_EQ(kept, "c:\\gone\\");
+}
+
+TEST_F(AtlasTest, TellsWhichFileIsMissing) {
+    struct Case {
+        const char* what;
+        std::function<void()> prepare;
+        std::string text;
+    };
+    const Case cases[] = {
+        {"too few lines", [&] { Leave("a\nb\n\xFF\xFE"); },
+         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
+        {"no exchange file", [&] { std::filesystem::remove(directory.File("TSRTEMP.TXT")); },
+         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
+        {"a directory in its place",
+         [&] { std::filesystem::create_directory(directory.File("TSRTEMP.TXT")); },
+         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
+        {"an empty path file", [&] { directory.Write("PCATPATH.TXT", ""); },
+         "Cannot find the file called PCATPATH in the " + atlasDir + " directory."},
+        {"no path file", [&] { std::filesystem::remove(directory.File("PCATPATH.TXT")); },
+         "Cannot find the file called PCATPATH in the " + atlasDir + " directory."},
+    };
+    for (const Case& test : cases) {
+        test.prepare();
+        messages.told.clear();
+        EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir)) << test.what;
+        ASSERT_EQ(messages.told.size(), 1U) << test.what;
+        EXPECT_EQ(messages.told[0].text, test.text) << test.what;
+        EXPECT_EQ(messages.told[0].title, "Warning!");
+        EXPECT_TRUE(messages.asked.empty());
+    }
+}
+
+TEST_F(AtlasTest, ShowsOnlyTheStartOfRubbish) {
+    Leave("x\n" + std::string(100'000, '7') + "\n\x01\x02\n\n1e999\n");
+    messages.answers = {Answer::Yes};
+    const auto place = AtlasLookup(run, messages).LookUp(atlasDir);
+    ASSERT_TRUE(place);
+    EXPECT_FALSE(place->longitude || place->latitude);
+    EXPECT_LT(messages.asked.at(0).text.size(), 200U);
+}
+
+TEST_F(AtlasTest, RunsOnceAtATime) {
+    Leave("\n1N2\n3E4\n\n-1\n");
+    AtlasLookup* running = nullptr;
+    int inner = 0;
+    AtlasLookup lookup(
+        [&](const Path&) {
+            EXPECT_TRUE(running->IsRunning());
+            std::string dir = atlasDir;
+            inner += running->LookUp(dir) ? 1 : 0;
+            return ProgramRun::Abandoned;
+        },
+        messages);
+    running = &lookup;
+    EXPECT_FALSE(lookup.LookUp(atlasDir));
+    EXPECT_EQ(inner, 0);
+    EXPECT_TRUE(messages.asked.empty() && messages.told.empty()) << "an abandoned lookup says nothing";
+    EXPECT_FALSE(lookup.IsRunning());
+}
+
+}  // namespace
+}  // namespace tolvanis

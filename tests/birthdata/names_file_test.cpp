@@ -1,0 +1,122 @@
+// Reading of names files: whatever a file holds, the good records in front of the first fault are there.
+#include "birthdata/names_file.h"
+
+#include <gtest/gtest.h>
+
+#include "birthdata/birthdata_support.h"
+
+namespace tolvanis {
+namespace {
+
+const std::string kAnn = "Ann,22 Sep 1949,9.05,A,5,073.59,40.45";
+const std::string kBob = "Bob,01 Jan 2000,12.00,P,-5.5,-072.50,-19.05";
+
+struct FileCase {
+    const char* what;
+    std::string content;
+    std::vector<std::string> names;
+    int faultLine;  // 0 without a fault
+};
+
+TEST(NamesFileTest, ReadsGoodRecordsInFrontOfTheFirstFault) {
+    const std::vector<FileCase> cases = {
+        {"empty file", "", {}, 0},
+        {"CR LF", kAnn + "\r\n" + kBob + "\r\n", {"Ann", "Bob"}, 0},
+        {"LF, no final line end", kAnn + "\n" + kBob, {"Ann", "Bob"}, 0},
+        {"byte order mark", "\xEF\xBB\xBF" + kAnn + "\r\n", {"Ann"}, 0},
+        {"Windows-1252", "Ren\xE9 \x96,22 Sep 1949,9.05,A,5,073.59,40.45\r\n", {"René –"}, 0},
+        {"quotes and blanks",
+         " \"Smith, Ann\" ,22 Sep 1949 , 9.05,\"A\",5, 073.59 ,40.45\r\n",
+         {"Smith, Ann"},
+         0},
+        {"nickname in quotes",
+         "Ernesto \"Che\" Guevara,14 Jun 1928,3.05,A,4,060.40,-32.57",
+         {"Ernesto \"Che\" Guevara"},
+         0},
+        {"empty line ends the list", kAnn + "\r\n\r\n" + kBob + "\r\n", {"Ann"}, 0},
+        {"empty name ends the list", kAnn + "\r\n,1,2\r\nrubbish\r\n", {"Ann"}, 0},
+        {"five fields", kAnn + "\r\nBob,01 Jan 2000,12.00,P,-5.5\r\n" + kBob, {"Ann"}, 2},
+        {"a comma in the name", "Smith, Ann,22 Sep 1949,9.05,A,5,073.59,40.45", {}, 1},
+        {"no date", "Ann,22 Xyz 1949,9.05,A,5,073.59,40.45", {}, 1},
+        {"no time", kBob + "\nAnn,22 Sep 1949,nine,A,5,073.59,40.45", {"Bob"}, 2},
+        {"no zone", "Ann,22 Sep 1949,9.05,A,,073.59,40.45", {}, 1},
+        {"decimal comma in quotes", "Ann,22 Sep 1949,9.05,A,5,\"073,59\",40.45", {}, 1},
+        {"year first", "Ann,1949 Sep 22,9.05,A,5,073.59,40.45", {"Ann"}, 0},
+        {"the same name twice", kAnn + "\n" + kAnn, {"Ann", "Ann"}, 0},
+    };
+    const ScratchDirectory directory;
+    for (const FileCase& test : cases) {
+        const RecordList list = ReadNamesFile(directory.Write("A.FIL", test.content));
+        std::vector<std::string> names;
+        for (std::size_t i = 0; i < list.size(); ++i) names.push_back(NameAt(list, i));
+        EXPECT_EQ(names, test.names) << test.what;
+        EXPECT_EQ(list.fault() ? list.fault()->line : 0, test.faultLine) << test.what;
+    }
+}
+
+TEST(NamesFileTest, SaysWhenThereIsNoReadableFile) {
+    const ScratchDirectory directory;
+    for (const Path& path : {directory.File("NONE.FIL"), directory.path()}) {
+        const RecordList list = ReadNamesFile(path);
+        ASSERT_TRUE(list.fault());
+        EXPECT_EQ(list.size(), 0U);
+        EXPECT_EQ(list.fault()->line, 0);
+        RecordedMessages messages;
+        TellNamesFault(*list.fault(), messages);
+        EXPECT_NE(messages.told.at(0).text.find(path.string()), std::string::npos);
+    }
+}
+
+TEST(NamesFileTest, TellsADamagedRecordInItsOwnWords) {
+    RecordedMessages messages;
+    TellNamesFault({2, "the record has 5 fields instead of 7"}, messages);
+    EXPECT_EQ(messages.told.at(0).title, "Error!");
+    EXPECT_EQ(messages.told[0].icon, MessageIcon::Stop);
+    EXPECT_EQ(
+        messages.told[0].text,
+        "You have an error in the current names file. You need to check and see if you have entered the "
+        "data correctly and in the proper amount. Please correct the data by clicking on the Edit this "
+        "List command button in the Names window and edit the incorrect data.");
+}
+
+TEST(NamesFileTest, FindsTheFirstRecordWithExactlyTheName) {
+    const ScratchDirectory directory;
+    const RecordList list =
+        ReadNamesFile(directory.Write("A.FIL", "ann" + kAnn.substr(3) + "\n" + kAnn + "\n" + kAnn));
+    EXPECT_EQ(FindName(list, "Ann"), 1U);
+    EXPECT_EQ(FindName(list, "An"), std::nullopt);
+}
+
+TEST(NamesFileTest, RestoresALockedPosition) {
+    struct Case {
+        bool locked, justSaved;
+        int remembered;
+        std::size_t count;
+        int top, selected;  // -1 when not restored
+    };
+    constexpr Case kCases[] = {
+        {true, false, 20, 30, 8, 20}, {true, false, 40, 30, 17, 29}, {true, false, 11, 30, 0, 11},
+        {true, false, -1, 30, 0, 0},  {true, false, 0, 0, -1, -1},   {false, false, 20, 30, -1, -1},
+        {true, true, 20, 30, -1, -1},
+    };
+    for (const Case& test : kCases) {
+        const auto position =
+            RestoredPosition({test.locked, test.remembered, test.justSaved, -1}, test.count);
+        EXPECT_EQ(position ? position->top : -1, test.top) << test.remembered;
+        EXPECT_EQ(position ? position->selected : -1, test.selected) << test.remembered;
+    }
+}
+
+TEST(NamesFileTest, HoldsAMillionRecords) {
+    const ScratchDirectory directory;
+    std::string content;
+    constexpr int kCount = 1'000'000;
+    for (int i = 0; i < kCount; ++i) content += "Person " + std::to_string(i) + kAnn.substr(3) + "\r\n";
+    const RecordList list = ReadNamesFile(directory.Write("BIG.FIL", content));
+    ASSERT_EQ(list.size(), std::size_t{kCount});
+    EXPECT_EQ(NameAt(list, kCount - 1), "Person 999999");
+    EXPECT_EQ(NameRecordAt(list, 0).latitude, "40.45");
+}
+
+}  // namespace
+}  // namespace tolvanis
