@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <utility>
@@ -39,6 +41,16 @@ class ScratchDirectory {
         return path_ / name;
     }
 
+    // The names of its entries, in order.
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
   private:
     std::filesystem::path path_;
 };
@@ -54,16 +66,19 @@ class RecordingMessages : public Messages {
     struct Told {
         std::string title;
         std::string text;
+        MessageIcon icon = MessageIcon::Question;
     };
     std::vector<Told> told;
     std::vector<Answer> answers = {Answer::Yes};
     std::vector<std::string> texts = {""};
+    std::function<void()> whileAsking;  // what happens while a question is open
 
-    void Tell(const std::string& title, const std::string& text, MessageIcon) override {
-        told.push_back({title, text});
+    void Tell(const std::string& title, const std::string& text, MessageIcon icon) override {
+        told.push_back({title, text, icon});
     }
     Answer AskYesNo(const std::string& title, const std::string& text) override {
         told.push_back({title, text});
+        if (whileAsking) whileAsking();
         return Next(answers);
     }
     Answer AskYesNoCancel(const std::string& title, const std::string& text) override {

@@ -6,16 +6,11 @@
 #include <string>
 
 #include "birthdata/place.h"
+#include "platform/external_program.h"
 #include "platform/files.h"
 #include "platform/messages.h"
 
 namespace tolvanis {
-
-enum class ProgramRun {
-    NotStarted,  // the program cannot be started
-    Ended,       // it was started and has ended, in whatever way
-    Abandoned,   // this program is closing and does not wait any longer
-};
 
 // Starts a program and waits until it has ended, with the user interface alive.
 using RunProgram = std::function<ProgramRun(const Path& program)>;

@@ -24,6 +24,12 @@ std::string_view RecordList::Line(std::size_t index) const {
     return std::string_view(text_).substr(start, ends_[index] - start);
 }
 
+std::string ProblemText(const std::optional<RecordFault>& fault) {
+    if (!fault) return {};
+    if (fault->line == 0) return fault->detail;
+    return "Line " + std::to_string(fault->line) + ": " + fault->detail + ". The list ends before it.";
+}
+
 std::string WrongFieldCount(std::size_t count, std::size_t expected) {
     return std::to_string(count) + (count == 1 ? " field" : " fields") + " instead of " +
            std::to_string(expected);

@@ -37,6 +37,9 @@ class RecordList {
     std::optional<RecordFault> fault_;
 };
 
+// The fault as a sentence below a list; an empty text without one.
+std::string ProblemText(const std::optional<RecordFault>& fault);
+
 // "3 fields instead of 5", for faults.
 std::string WrongFieldCount(std::size_t count, std::size_t expected);
 

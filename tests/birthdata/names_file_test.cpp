@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "birthdata/birthdata_support.h"
+#include "support.h"
 
 namespace tolvanis {
 namespace {
@@ -56,19 +56,19 @@ TEST(NamesFileTest, ReadsGoodRecordsInFrontOfTheFirstFault) {
 
 TEST(NamesFileTest, SaysWhenThereIsNoReadableFile) {
     const ScratchDirectory directory;
-    for (const Path& path : {directory.File("NONE.FIL"), directory.path()}) {
+    for (const Path& path : {(directory / "NONE.FIL"), directory.path()}) {
         const RecordList list = ReadNamesFile(path);
         ASSERT_TRUE(list.fault());
         EXPECT_EQ(list.size(), 0U);
         EXPECT_EQ(list.fault()->line, 0);
-        RecordedMessages messages;
+        RecordingMessages messages;
         TellNamesFault(*list.fault(), messages);
         EXPECT_NE(messages.told.at(0).text.find(path.string()), std::string::npos);
     }
 }
 
 TEST(NamesFileTest, TellsADamagedRecordInItsOwnWords) {
-    RecordedMessages messages;
+    RecordingMessages messages;
     TellNamesFault({2, "the record has 5 fields instead of 7"}, messages);
     EXPECT_EQ(messages.told.at(0).title, "Error!");
     EXPECT_EQ(messages.told[0].icon, MessageIcon::Stop);

@@ -1,0 +1,28 @@
+#include "platform/qt/external_program.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QProcess>
+#include <memory>
+
+#include "platform/qt/text.h"
+
+namespace tolvanis {
+
+ProgramRun RunAndWait(const Path& program) {
+    auto process = std::make_unique<QProcess>();
+    QEventLoop loop;
+    QObject::connect(process.get(), &QProcess::finished, &loop, &QEventLoop::quit);
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &loop, &QEventLoop::quit);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->setWorkingDirectory(ToQt(program.parent_path().string()));
+    process->start(ToQt(program.string()), QStringList());
+    if (!process->waitForStarted()) return ProgramRun::NotStarted;
+    if (process->state() != QProcess::NotRunning) loop.exec();
+    if (process->state() == QProcess::NotRunning) return ProgramRun::Ended;
+    // The other program belongs to the user: the destructor, which would kill it, must not run.
+    static_cast<void>(process.release());
+    return ProgramRun::Abandoned;
+}
+
+}  // namespace tolvanis

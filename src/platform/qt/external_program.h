@@ -1,0 +1,14 @@
+#pragma once
+// Another program, started and waited for.
+
+#include "platform/external_program.h"
+#include "platform/files.h"
+
+namespace tolvanis {
+
+// Starts a program in its own directory and waits until it has ended, handling the windows' events meanwhile.
+// A file that is missing or not executable is not started. When this program ends first, the other one goes
+// on by itself.
+ProgramRun RunAndWait(const Path& program);
+
+}  // namespace tolvanis

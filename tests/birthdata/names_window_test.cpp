@@ -1,0 +1,177 @@
+// The names window as a user acts on it: clicks, keys and reopening.
+#include "birthdata/names_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+#include <memory>
+
+#include "support.h"
+
+namespace tolvanis {
+namespace {
+
+const std::string kRest = ",22 Sep 1949,9.05,A,5,073.59,40.45\r\n";
+
+struct NamesWindowTest : ::testing::Test {
+    ScratchDirectory directory;
+    NamesState state;
+    RecordingMessages messages;
+    std::unique_ptr<Names> window;
+    std::vector<NatalEntry> picked, computed;
+
+    void Open(const std::string& content) {
+        window = std::make_unique<Names>(directory.Write("my.fil", content).string(), state, messages);
+        QObject::connect(window.get(), &Names::picked, [this](const NatalEntry& e) { picked.push_back(e); });
+        QObject::connect(window.get(), &Names::computeRequested,
+                         [this](const NatalEntry& e) { computed.push_back(e); });
+        window->show();
+        window->Load();
+        QCoreApplication::processEvents();
+    }
+    template <typename Widget>
+    Widget* Find(const char* name) const {
+        return window->findChild<Widget*>(QLatin1String(name));
+    }
+    QListView* list() const { return Find<QListView>("NamesOnFile"); }
+    void Click(int row, bool twice = false) const {
+        const QPoint at = list()->visualRect(list()->model()->index(row, 0)).center();
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
+        if (twice) QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, at);
+    }
+    static std::string Persons(int count) {
+        std::string content;
+        for (int i = 0; i < count; ++i) content += "Person " + std::to_string(i) + kRest;
+        return content;
+    }
+};
+
+TEST_F(NamesWindowTest, ShowsTheFileInFileOrder) {
+    Open("Zoë" + kRest + "Ann" + kRest);
+    EXPECT_EQ(window->windowTitle(), "Names");
+    EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text(), "MY.FIL");
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "2 names");
+    EXPECT_EQ(list()->model()->index(0, 0).data().toString(), QString::fromUtf8("Zoë"));
+    EXPECT_TRUE(picked.empty());
+}
+
+TEST_F(NamesWindowTest, ClickPicksTheFirstOfTheNameAndDoubleClickComputes) {
+    Open("Bob,01 Jan 2000,10.30,P,-1,-002.21,-33.52\r\nAnn" + kRest + "Bob" + kRest);
+    state.justSaved = true;
+    Click(2);
+    ASSERT_EQ(picked.size(), 1U);
+    EXPECT_EQ(picked[0], (NatalEntry{"Bob", "1", "1", "2000", "10", "30", true, "-1", "2", "21", true, "33",
+                                     "52", true}));
+    EXPECT_FALSE(state.justSaved);
+    EXPECT_EQ(state.currentRecord, 0);
+    EXPECT_TRUE(computed.empty());
+    Click(1, true);
+    ASSERT_EQ(computed.size(), 1U);
+    EXPECT_EQ(computed[0].name, "Ann");
+}
+
+TEST_F(NamesWindowTest, KeysPickComputeAndJump) {
+    Open("Bob" + kRest + "Ann" + kRest + "Bea" + kRest + "Élise" + kRest);
+    QTest::keyClicks(list(), "be");
+    EXPECT_EQ(list()->currentIndex().row(), 2);
+    EXPECT_TRUE(picked.empty()) << "moving about overwrites nothing that was typed";
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClick(list(), Qt::Key_Space);
+    EXPECT_EQ(picked.at(0).name, "Bea");
+    QTest::keyClicks(list(), "bb");
+    EXPECT_EQ(list()->currentIndex().row(), 2) << "one letter typed twice goes round";
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(list(), "e");
+    QTest::keyClick(list(), Qt::Key_Return);
+    EXPECT_EQ(computed.at(0).name, "Élise");
+}
+
+TEST_F(NamesWindowTest, FindBoxGoesThroughWhatFits) {
+    Open("Anna Lee" + kRest + "Bruce Lee" + kRest + "Leonie" + kRest + "Max" + kRest);
+    auto* find = Find<QLineEdit>("txtFind");
+    QTest::keyClicks(find, "lee");
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "1 of 2");
+    EXPECT_EQ(list()->currentIndex().row(), 0);
+    QTest::keyClick(find, Qt::Key_Down);
+    EXPECT_EQ(list()->currentIndex().row(), 1);
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(picked.at(0).name, "Bruce Lee");
+    QTest::keyClicks(find, "x");
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "nothing found");
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(picked.size(), 1U);
+    QTest::keyClick(find, Qt::Key_Escape);
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "4 names");
+}
+
+TEST_F(NamesWindowTest, ALockedListOpensWhereItWas) {
+    Open(Persons(30));
+    list()->setCurrentIndex(list()->model()->index(20, 0));
+    Find<QCheckBox>("Check1")->click();
+    ASSERT_TRUE(state.locked);
+    EXPECT_EQ(state.rememberedIndex, 20);
+    window->resize(300, 300);
+    Open(Persons(60));
+    EXPECT_TRUE(Find<QCheckBox>("Check1")->isChecked());
+    EXPECT_EQ(list()->currentIndex().row(), 20);
+    EXPECT_EQ(list()->indexAt(QPoint(5, 5)).row(), 8);
+    state.rememberedIndex = 70;
+    Open(Persons(60));
+    EXPECT_EQ(list()->currentIndex().row(), 59);
+    state.justSaved = true;
+    Open(Persons(60));
+    EXPECT_FALSE(list()->selectionModel()->hasSelection());
+    Find<QCheckBox>("Check1")->click();
+    EXPECT_FALSE(state.locked);
+}
+
+TEST_F(NamesWindowTest, TellsAFaultWithTheGoodRecordsShown) {
+    Open("Ann" + kRest + "Bob,01 Jan 2000,12.00,P,-5.5\r\n");
+    EXPECT_EQ(messages.told.size(), 1U);
+    EXPECT_EQ(list()->model()->rowCount(), 1);
+    EXPECT_EQ(Find<QLabel>("lblProblem")->text(),
+              "Line 2: the record has 5 fields instead of 7. The list ends before it.");
+    Click(0);
+    EXPECT_EQ(picked.size(), 1U) << "the window stays usable";
+    state.rememberedIndex = 5;
+    window->ChangeFile(directory.Write("good.fil", "Ann" + kRest).string());
+    EXPECT_FALSE(Find<QLabel>("lblProblem")->isVisible());
+    EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text(), "GOOD.FIL");
+    EXPECT_EQ(state.rememberedIndex, 0);
+}
+
+TEST_F(NamesWindowTest, ButtonsSayWhatTheUserWants) {
+    Open("");
+    std::string wanted;
+    QObject::connect(window.get(), &Names::citiesRequested, [&] { wanted += "cities "; });
+    QObject::connect(window.get(), &Names::editListRequested, [&] { wanted += "edit "; });
+    QObject::connect(window.get(), &Names::changeListRequested, [&] { wanted += "change"; });
+    for (const char* name : {"Command1", "cmdEditList", "cmdNewFileList"}) {
+        QTest::mouseClick(Find<QPushButton>(name), Qt::LeftButton);
+    }
+    EXPECT_EQ(wanted, "cities edit change");
+}
+
+// The figure is printed; the bound only catches work that grows faster than the list.
+TEST_F(NamesWindowTest, OpensAHundredThousandNamesAtOnce) {
+    const std::string content = Persons(100'000);
+    QElapsedTimer timer;
+    timer.start();
+    Open(content);
+    window->grab();
+    const auto opened = timer.restart();
+    QTest::keyClicks(list(), "person 99999");
+    std::printf("100,000 names: opened and painted in %lld ms, 12 letters typed in %lld ms\n",
+                static_cast<long long>(opened), static_cast<long long>(timer.elapsed()));
+    EXPECT_EQ(list()->currentIndex().row(), 99'999);
+    EXPECT_LT(opened, 3000);
+}
+
+}  // namespace
+}  // namespace tolvanis
