@@ -69,7 +69,10 @@ int RecordListView::CurrentRow() const {
 }
 
 void RecordListView::SelectRow(int row) {
-    setCurrentIndex(model_.index(row, 0));
+    const QModelIndex index = model_.index(row, 0);
+    const bool inView = viewport()->rect().contains(visualRect(index));
+    setCurrentIndex(index);
+    if (!inView) scrollTo(index, PositionAtCenter);
 }
 
 void RecordListView::SetPosition(int top, int row) {

@@ -52,7 +52,7 @@ class RecordListView : public QListView {
     const RecordListModel& records() const { return model_; }
 
     int CurrentRow() const;              // -1 without one
-    void SelectRow(int row);             // and brings it into view
+    void SelectRow(int row);             // with its neighbours in view
     void SetPosition(int top, int row);  // selects a row with `top` as the first visible one
 
     void keyboardSearch(const QString& typed) override;
