@@ -46,8 +46,12 @@ Result<BirthNumbers> NumbersOf(const NameRecord& record) {
     if (!date) return FieldFault(2, "birth date", record.date, "is no date of the form dd mmm yyyy");
     const auto time = WholeNumber(record.time);
     if (!time) return FieldFault(3, "clock time", record.time, "is no number");
-    if (*time < 0 || *time >= 13)
+    // Hours of the 24-hour clock are folded onto the dial, unless the record contradicts itself.
+    const bool onDial = *time >= 0 && *time < 13;
+    const bool foldable = *time >= 13 && *time < 24 && !EqualIgnoringCase(record.halfDay, "A");
+    if (!onDial && !foldable) {
         return FieldFault(3, "clock time", record.time, "is no time on the 12-hour dial");
+    }
     const auto zone = WholeNumber(record.timeZone);
     if (!zone) return FieldFault(5, "time zone", record.timeZone, "is no number");
     const auto longitude = WholeNumber(record.longitude);

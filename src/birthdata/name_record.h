@@ -33,9 +33,10 @@ std::string FormatNameRecord(const NameRecord& record);
 // Whether all fields convert; a fault names the one that does not.
 Result<void> CheckNameRecord(const NameRecord& record);
 
-// The entry that a record describes. A fault names the field that is no date or no number. Packed values are
-// split by truncation towards zero, their minutes rounded to whole numbers, and the sign of the time zone is
-// kept whatever the hemisphere.
+// The entry that a record describes. An hour from 13 to 23 is folded onto the dial when the half day is not
+// "A". A fault names the field that is no date or no number. Packed values are split by truncation towards
+// zero, their minutes rounded to whole numbers, and the sign of the time zone is kept whatever the
+// hemisphere.
 Result<NatalEntry> EntryFromRecord(const NameRecord& record);
 
 // The record of an entry, the fields formatted as a names file holds them, the name without blanks around it.

@@ -41,6 +41,10 @@ TEST(NamesFileTest, ReadsGoodRecordsInFrontOfTheFirstFault) {
         {"no time", kBob + "\nAnn,22 Sep 1949,nine,A,5,073.59,40.45", {"Bob"}, 2},
         {"no zone", "Ann,22 Sep 1949,9.05,A,,073.59,40.45", {}, 1},
         {"decimal comma in quotes", "Ann,22 Sep 1949,9.05,A,5,\"073,59\",40.45", {}, 1},
+        {"24-hour clock",
+         "Ann,22 Sep 1949,21.05,P,5,073.59,40.45\nBob,22 Sep 1949,21.05,A,5,073.59,40.45",
+         {"Ann"},
+         2},
         {"year first", "Ann,1949 Sep 22,9.05,A,5,073.59,40.45", {"Ann"}, 0},
         {"the same name twice", kAnn + "\n" + kAnn, {"Ann", "Ann"}, 0},
     };

@@ -96,15 +96,38 @@ TEST(ChartCommand, JsonHoldsEveryMember) {
     }
 }
 
+// A chart with its place from a cities file is the one with that place typed in.
+TEST(ChartCommand, APlaceStandsForItsCoordinatesAndZone) {
+    const std::string_view born = "Ann,22 Sep 1949,9.05,A";
+    const std::string expected = RunWith({"--birth", "Ann,22 Sep 1949,9.05,A,-5.75,-085.19,27.42"}).output;
+    ASSERT_THAT(expected, HasSubstr("27.42 NORTH"));
+    const std::string path = DELIVERED_DATA_DIR "/ASIA.LL:Kathmandu";
+    for (const std::string& place : {path, std::string("asia.ll:KATHMANDU,nepal")}) {
+        for (const std::string_view rest : {"", ",,,", ",5,073.59,40.45"}) {
+            const std::string record = std::string(born).append(rest);
+            EXPECT_EQ(RunWith({"--birth", record, "--place", place}).output, expected) << place << record;
+        }
+    }
+    EXPECT_THAT(RunWith({"--place", path}).output, HasSubstr("85.19 EAST"));
+    EXPECT_THAT(RunWith({"--birth", born, "--place", "GA_MA.LL:Aberdeen"}).errors, HasSubstr("ID, IN, MD"));
+    EXPECT_THAT(RunWith({"--birth", born, "--place", "NONE.LL:Rome"}).errors, HasSubstr("No such file"));
+    EXPECT_THAT(RunWith({"--birth", "Ann,22 Sep 1949", "--place", path}).errors, HasSubstr("2 fields"));
+}
+
 TEST(ChartCommand, WrongUsageIsExplained) {
     const struct {
         std::vector<std::string_view> arguments;
         std::string_view fault;
-    } cases[] = {
-        {{"--bogus"}, "unknown argument \"--bogus\""},   {{"file"}, "unknown argument \"file\""},
-        {{"--birth"}, "--birth needs a value"},          {{"--houses", "X"}, "unknown house system \"X\""},
-        {{"--format", "xml"}, "unknown format \"xml\""}, {{"--now", "--birth", "x"}, "only one of"},
-        {{"--name", "Ann"}, "--name needs --names"}};
+    } cases[] = {{{"--bogus"}, "unknown argument \"--bogus\""},
+                 {{"file"}, "unknown argument \"file\""},
+                 {{"--birth"}, "--birth needs a value"},
+                 {{"--houses", "X"}, "unknown house system \"X\""},
+                 {{"--format", "xml"}, "unknown format \"xml\""},
+                 {{"--now", "--birth", "x"}, "only one of"},
+                 {{"--name", "Ann"}, "--name needs --names"},
+                 {{"--place", "Rome"}, "--place needs FILE:CITY"},
+                 {{"--place", "a:"}, "--place needs FILE:CITY"},
+                 {{"--names", "f", "--place", "a:b"}, "--place goes"}};
     for (const auto& c : cases) {
         EXPECT_THAT(ParseCommandLine(c.arguments).message(), HasSubstr(std::string(c.fault)));
     }
