@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QToolTip>
 #include <algorithm>
 
 #include "platform/files.h"
@@ -90,6 +92,18 @@ void RecordListView::resizeEvent(QResizeEvent* event) {
     if (isVisible()) top_ = -1;
 }
 
+// A text that is wider than the list is shown whole beside the pointer.
+bool RecordListView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = indexAt(help->pos()).data().toString();
+        const bool cut = fontMetrics().horizontalAdvance(text) > viewport()->width() - 2 * frameWidth();
+        QToolTip::showText(help->globalPos(), cut ? text.toHtmlEscaped() : QString(), this);
+        return true;
+    }
+    return QListView::viewportEvent(event);
+}
+
 bool RecordListView::IsTyping() const {
     return lastTyped_.isValid() && lastTyped_.elapsed() <= QApplication::keyboardInputInterval();
 }
@@ -128,17 +142,17 @@ QSize RecordListView::sizeHint() const {
     return {metrics.averageCharWidth() * kCharacters, (metrics.height() + 2) * kRows + 2 * frameWidth()};
 }
 
-RecordListPane::RecordListPane(const Names& names, QWidget* parent)
+RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     : QWidget(parent),
-      names_(names),
+      wording_(wording),
       fileLabel_(new QLabel(this)),
       countLabel_(new QLabel(this)),
       problemLabel_(new QLabel(this)),
       find_(new QLineEdit(this)),
       list_(new RecordListView(this)) {
-    list_->setObjectName(QLatin1String(names.list));
-    list_->setAccessibleName(tr("List of %1").arg(QLatin1String(names.many)));
-    fileLabel_->setObjectName(QLatin1String(names.label));
+    list_->setObjectName(QLatin1String(wording.list));
+    list_->setAccessibleName(tr("List of %1").arg(QLatin1String(wording.many)));
+    fileLabel_->setObjectName(QLatin1String(wording.label));
     fileLabel_->setTextFormat(Qt::PlainText);
     fileLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     countLabel_->setObjectName(QStringLiteral("lblCount"));
@@ -195,7 +209,7 @@ void RecordListPane::ShowCount() {
     const auto count = list_->records().rowCount();
     const QLocale locale;
     if (find_->text().trimmed().isEmpty()) {
-        const char* what = count == 1 ? names_.one : names_.many;
+        const char* what = count == 1 ? wording_.one : wording_.many;
         countLabel_->setText(locale.toString(count) + QLatin1Char(' ') + QLatin1String(what));
     } else if (matches_.empty()) {
         countLabel_->setText(tr("nothing found"));

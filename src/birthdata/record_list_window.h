@@ -65,6 +65,7 @@ class RecordListView : public QListView {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
   private:
     bool IsTyping() const;
@@ -81,13 +82,13 @@ class RecordListPane : public QWidget {
     Q_OBJECT
 
   public:
-    struct Names {
+    struct Wording {
         const char* list;  // object names
         const char* label;
         const char* one;  // what the records are called: "name", "names"
         const char* many;
     };
-    explicit RecordListPane(const Names& names, QWidget* parent = nullptr);
+    explicit RecordListPane(const Wording& wording, QWidget* parent = nullptr);
 
     RecordListView& list() { return *list_; }
 
@@ -102,7 +103,7 @@ class RecordListPane : public QWidget {
     void GoToMatch(int step);
     void ShowCount();
 
-    Names names_;
+    Wording wording_;
     QLabel *fileLabel_, *countLabel_, *problemLabel_;
     QLineEdit* find_;
     RecordListView* list_;
