@@ -170,8 +170,11 @@ std::optional<NameRecord> RecordToSave(const NatalEntry& entry, Messages& messag
 // The content of the chosen file; one that does not exist yet is empty.
 Result<std::string> PresentContent(const Path& file) {
     std::error_code error;
-    if (!std::filesystem::exists(FindPath(file), error)) return std::string();
-    Result<std::string> content = ReadBytes(file);
+    const Path found = FindPath(file);
+    if (!std::filesystem::exists(found, error)) return std::string();
+    const bool device = std::filesystem::is_other(found, error);
+    Result<std::string> content =
+        device ? Fault{"The file " + file.string() + " is a device."} : ReadBytes(file);
     if (content && content->find('\0') != std::string::npos) {
         return Fault{"The file " + file.string() + " is not a names file: it holds bytes that no text has."};
     }

@@ -139,7 +139,8 @@ TEST(NameSavingTest, WritesNothingOverABinaryFileOrADirectory) {
     RecordingMessages messages;
     EXPECT_FALSE(SaveTo(directory.Write("MY.FIL", binary), "Ann", messages));
     EXPECT_FALSE(SaveTo(directory.path(), "Ann", messages));
-    EXPECT_EQ(messages.told.size(), 2U);
+    EXPECT_FALSE(SaveTo("/dev/full", "Ann", messages));
+    EXPECT_EQ(messages.told.size(), 3U);
     EXPECT_EQ(FileContent(directory / "MY.FIL"), binary);
 }
 
