@@ -2,11 +2,22 @@
 
 namespace tolvanis {
 
-Result<void> ReadOptions(const Path& applicationDirectory, Options& options) {
-    const Result<int> read =
-        ReadNumberLines(FindFile(applicationDirectory, kOptionsFileName), options.table());
-    if (!read) return Fault{read.message()};
+Result<int> ReadOptions(const Path& applicationDirectory, Options& options) {
+    return ReadNumberLines(FindFile(applicationDirectory, kOptionsFileName), options.table());
+}
+
+Path OptionsMaster(const Path& applicationDirectory, const Path& installedDirectory) {
+    for (const Path& directory : {applicationDirectory, installedDirectory}) {
+        const Path master = FindFile(directory, kOptionsMasterName);
+        if (!directory.empty() && IsReadableFile(master)) return master;
+    }
     return {};
+}
+
+Result<void> RestoreOptions(const Path& applicationDirectory, const Path& master) {
+    const Result<std::string> content = ReadBytes(master);
+    if (!content) return Fault{content.message()};
+    return ReplaceFile(FindFile(applicationDirectory, kOptionsFileName), *content);
 }
 
 }  // namespace tolvanis

@@ -111,13 +111,17 @@ HourRule ApplyHourRule(std::string_view text) {
     const auto hour = WholeNumber(text);
     if (!hour) return {HourRule::Outcome::TooFast, std::string(text), false};
     if (*hour == 0) return {HourRule::Outcome::Keep, "12", false};
-    if (*hour > 12) return {HourRule::Outcome::Keep, NumberText(*hour - 12), true};
+    if (*hour > 12) {
+        // 12 is taken off until the hour lies on the dial.
+        const double folded = *hour - 12.0 * std::ceil((*hour - 12.0) / 12.0);
+        return {HourRule::Outcome::Keep, NumberText(folded), true};
+    }
     return {HourRule::Outcome::Keep, std::string(text), false};
 }
 
 std::string ZoneForSide(std::string_view timeZone, bool east) {
     const double zone = std::abs(LeadingNumber(timeZone));
-    return NumberText(east ? -zone : zone);
+    return NumberText(east && zone != 0.0 ? -zone : zone);
 }
 
 std::vector<InputFault> CheckPresence(const NatalEntry& entry) {

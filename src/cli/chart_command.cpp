@@ -142,7 +142,7 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
         errors << directory.message() << "\n";
         return kSomethingRefused;
     }
-    if (const Result<void> read = ReadOptions(*directory, options); !read) {
+    if (const Result<int> read = ReadOptions(*directory, options); !read) {
         errors << read.message() << "\n";
         return kSomethingRefused;
     }

@@ -1,0 +1,30 @@
+#pragma once
+// The desktop program's command line.
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/result.h"
+
+namespace tolvanis {
+
+inline constexpr std::string_view kDesktopUsage =
+    "Usage: tolvanis [--app-dir DIR]\n"
+    "Natal astrology: charts, wheels and reports.\n"
+    "\n"
+    "  --app-dir DIR  the directory of OPTIONS.OPT and the other data files\n"
+    "  --help         print this text and exit\n"
+    "  --version      print the version and exit\n";
+
+struct DesktopArguments {
+    std::optional<std::string> appDirectory;
+    bool help = false;
+    bool version = false;
+};
+
+// The arguments after the program's name. A fault says what is wrong with them.
+Result<DesktopArguments> ParseDesktopArguments(std::span<const std::string_view> arguments);
+
+}  // namespace tolvanis

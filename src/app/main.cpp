@@ -1,0 +1,76 @@
+#include <QApplication>
+#include <QIcon>
+#include <cstdlib>
+#include <iostream>
+#include <vector>
+
+#include "app/app_directory.h"
+#include "app/desktop_arguments.h"
+#include "app/desktop_window.h"
+#include "app/file_dialogs_window.h"
+#include "platform/clock.h"
+#include "platform/qt/message_boxes.h"
+
+using namespace tolvanis;
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+
+// Whether windows can be opened at all. Qt itself would abort without one.
+bool HasDisplay() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const char* value = std::getenv(name);
+        if (value != nullptr && *value != '\0') return true;
+    }
+    return false;
+}
+
+int Run(const DesktopArguments& arguments) {
+    MessageBoxes messages;
+    const DirectoryHints hints = HintsOfProcess(arguments.appDirectory);
+    const Result<Path> directory = ApplicationDirectory(hints, FirstStart::FillUserDirectory);
+    if (!directory) {
+        messages.Tell("Error!", directory.message(), MessageIcon::Stop);
+        return EXIT_FAILURE;
+    }
+    ProgramState state;
+    state.applicationDirectory = *directory;
+    state.order = HostDateTimeOrder();
+    DesktopFileDialogs dialogs(*directory);
+    Desktop desktop(state, {messages, dialogs, PresentMoment});
+    QObject::connect(&desktop, &Desktop::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    if (!desktop.Start(InstalledDataDirectory(hints.programDirectory))) return EXIT_FAILURE;
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string_view> given(argv + 1, argv + argc);
+    const Result<DesktopArguments> arguments = ParseDesktopArguments(given);
+    if (!arguments) {
+        std::cerr << "tolvanis: " << arguments.message() << "\n\n" << kDesktopUsage;
+        return kWrongUsage;
+    }
+    if (arguments->help) {
+        std::cout << kDesktopUsage;
+        return EXIT_SUCCESS;
+    }
+    if (arguments->version) {
+        std::cout << "tolvanis " << TOLVANIS_VERSION << "\n";
+        return EXIT_SUCCESS;
+    }
+    if (!HasDisplay()) {
+        std::cerr << "tolvanis: there is no display to open windows on; tolvanis-chart works without one\n";
+        return EXIT_FAILURE;
+    }
+    int qtArgumentCount = 1;
+    QApplication application(qtArgumentCount, argv);
+    QApplication::setApplicationName(QStringLiteral("tolvanis"));
+    QApplication::setApplicationVersion(QStringLiteral(TOLVANIS_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("tolvanis"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tolvanis.svg")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    return Run(*arguments);
+}

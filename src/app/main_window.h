@@ -1,0 +1,44 @@
+#pragma once
+// The main window: the program's menu and a clock in the caption.
+
+#include <QMainWindow>
+#include <QMap>
+
+#include "app/menu_table.h"
+
+namespace tolvanis {
+
+class TOLVANIS : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    TOLVANIS();
+
+    // The action of an item or the menu action of a menu; the name is one of the menu table's.
+    QAction* ItemOf(const std::string& control) const;
+
+    void TickHouseSystem(HouseSystem system);
+    // Shows the items that need a computed chart.
+    void ShowChartItems();
+    void ShowItem(const std::string& control);
+
+  Q_SIGNALS:
+    void textFileChosen(const std::string& fileName);
+    void houseSystemChosen(tolvanis::HouseSystem system);
+    void commandChosen(const std::string& control);
+    // The user closes the window; it is the receiver who decides whether the program ends.
+    void exitRequested();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void AddItem(const MenuItem& item);
+    void ConnectItem(const MenuItem& item, QAction* action);
+
+    std::vector<MenuItem> items_;
+    QMap<QString, QMenu*> menus_;
+    QMap<QString, QAction*> actions_;
+};
+
+}  // namespace tolvanis

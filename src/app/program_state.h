@@ -1,0 +1,29 @@
+#pragma once
+// What the program knows while it runs; one instance lives from start to exit.
+
+#include <string>
+
+#include "app/settings_file.h"
+#include "astro/chart_driver.h"
+#include "platform/screen_constants.h"
+#include "text/dates.h"
+
+namespace tolvanis {
+
+inline constexpr std::string_view kStartTitlePrefix = "Tolvanis - ";
+inline constexpr std::string_view kTitlePrefixAfterOptions = "TOLVANIS - ";  // once options have been saved
+
+struct ProgramState {
+    Path applicationDirectory;
+    Options options;
+    Settings settings;
+    DateTimeOrder order;
+    ScreenConstants screen;
+    std::string titlePrefix{kStartTitlePrefix};
+    HouseSystem houseSystem = HouseSystem::Placidus;  // the ticked one
+    CurrentChart chart;
+    DataBuffer buffer;
+    std::string SaveFileName;  // where Save writes, for listings and reports; empty until the user has chosen
+};
+
+}  // namespace tolvanis

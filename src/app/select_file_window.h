@@ -1,0 +1,51 @@
+#pragma once
+// The file chooser.
+
+#include <QDialog>
+#include <string>
+
+#include "platform/files.h"
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+
+namespace tolvanis {
+
+// A modal dialog of drives, directories and the files that fit a pattern. It starts at the application
+// directory.
+class SelectFIle : public QDialog {
+    Q_OBJECT
+
+  public:
+    SelectFIle(const Path& applicationDirectory, const std::string& pattern, const std::string& currentPath,
+               QWidget* parent = nullptr);
+
+    // The chosen path once the dialog has been accepted, empty text when it was cancelled.
+    const std::string& result() const { return result_; }
+
+  public Q_SLOTS:
+    void cmdSelect_Click();
+    void cmdCancel_Click();
+    void drvList_Change(int index);
+    void dirList_Change(QListWidgetItem* item);
+
+  private:
+    void Build();
+    void FillDrives();
+    void ShowDirectory(const Path& directory);
+    void FillDirectories();
+    void FillFiles();
+
+    Path directory_;
+    std::string pattern_;
+    std::string currentPath_;
+    std::string result_;
+    QComboBox* drvList_;
+    QListWidget* dirList_;
+    QListWidget* filList_;
+    QLabel* lblPath_;
+};
+
+}  // namespace tolvanis

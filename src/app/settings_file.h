@@ -1,0 +1,46 @@
+#pragma once
+// The settings that the program keeps from run to run, and their file.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "output/data_view.h"
+#include "platform/files.h"
+
+namespace tolvanis {
+
+inline constexpr std::string_view kSettingsFileName = "Tolvanis.ini";
+
+struct Settings {
+    DataViewSettings dataView;
+    // The main window's placement in twips.
+    double TOLVANISTop = 0.0;
+    double TOLVANISLeft = 900.0;
+    double TOLVANISHeight = 675.0;
+    double TOLVANISWidth = 10860.0;
+    std::int16_t StartScale = 287;  // wheel scale
+    std::int16_t TypeChart = 0;     // wheel style: 0 American, else European
+    std::string DataFile;           // the current names file
+    std::string GeoDataFile;        // the current cities file
+    std::string AtlasDir;           // directory of the atlas program; empty when there is none
+    std::string InterpsDir;         // directory of the interpretation texts, with its separator at the end
+
+    friend bool operator==(const Settings&, const Settings&) = default;
+};
+
+Settings DefaultSettings(const Path& applicationDirectory);
+
+// Takes over one line, "key=value". Unknown keys and values outside a key's rule change nothing.
+void ApplySettingsLine(std::string_view line, Settings& settings);
+
+// The defaults overlaid by the settings file of the directory. A missing or unreadable file gives the
+// defaults; InterpsDir gets the host's separator when it ends in neither "/" nor "\".
+Settings ReadSettings(const Path& applicationDirectory);
+
+// The file's text, lines ending in CR LF.
+std::string SettingsText(const Settings& settings);
+
+Result<void> WriteSettings(const Path& applicationDirectory, const Settings& settings);
+
+}  // namespace tolvanis

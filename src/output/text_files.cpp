@@ -1,0 +1,51 @@
+#include "output/text_files.h"
+
+#include <algorithm>
+
+#include "text/columns.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kFormFeedLine = "\f\r\n";
+constexpr std::size_t kLongestStem = 8;
+
+}  // namespace
+
+std::string SavedListing(std::span<const std::string> lines, double linesPerPage) {
+    const int pageStep = linesPerPage < 2.0 ? 0 : RoundToInt16(linesPerPage - 1.0);
+    std::string text;
+    for (std::size_t i = 0; i <= lines.size(); ++i) {
+        if (i < lines.size()) text += lines[i];
+        text += kLineEnd;
+        if (i != 0 && pageStep > 0 && i % static_cast<std::size_t>(pageStep) == 0) text += kFormFeedLine;
+    }
+    return text.append(kFormFeedLine);
+}
+
+std::string PrintFileText(std::span<const std::string> lines) {
+    return JoinLines(lines).append(kLineEnd);
+}
+
+std::string ProposedFileName(std::string_view personName, std::string_view extension) {
+    const std::string_view firstWord = personName.substr(0, personName.find(' '));
+    std::string stem(FirstCharacters(firstWord, kLongestStem));
+    std::replace_if(
+        stem.begin(), stem.end(), [](char c) { return c == '/' || c == '\\'; }, '_');
+    if (stem.empty()) stem = "CHART";
+    return stem.append(extension);
+}
+
+Result<int> ListTextFile(DataBuffer& buffer, const Path& path) {
+    const Result<std::vector<std::string>> lines = ReadLines(path);
+    if (!lines) return Fault{lines.message()};
+    if (lines->empty()) return 0;
+    buffer.StartListing();
+    for (const std::string& line : *lines) buffer.AppendLine(line);
+    buffer.AppendBlankLine();
+    return static_cast<int>(lines->size());
+}
+
+}  // namespace tolvanis

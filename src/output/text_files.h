@@ -1,0 +1,35 @@
+#pragma once
+// Listings as files: the saved listing with its page breaks, the work file of the print window, and text
+// files shown as listings.
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "output/data_buffer.h"
+#include "platform/files.h"
+
+namespace tolvanis {
+
+// The file through which the print commands hand their text to the print window.
+inline constexpr std::string_view kPrintFileName = "PRNTFILE.XXX";
+
+// What Save writes: every line and one empty line, and a line with a form feed after each line whose index
+// (from 0, the first one aside) is divisible by linesPerPage - 1, rounded half to even, and after the last
+// line. With fewer than 2 lines a page there is only the last form feed.
+std::string SavedListing(std::span<const std::string> lines, double linesPerPage);
+
+// What the print commands write: every line and one empty line.
+std::string PrintFileText(std::span<const std::string> lines);
+
+// A file name for a person's text: the name up to its first blank, at most 8 characters, and the extension
+// (".DOC"). Characters that separate directories become "_"; without a name it is "CHART".
+std::string ProposedFileName(std::string_view personName, std::string_view extension);
+
+// Makes the file's lines and one blank line the buffer's new listing; the returned number is that of the
+// lines read. A file that cannot be read gives a fault, an empty one nothing, and both leave the buffer as it
+// is.
+Result<int> ListTextFile(DataBuffer& buffer, const Path& path);
+
+}  // namespace tolvanis

@@ -1,0 +1,155 @@
+#include "platform/qt/printing.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPagedPaintDevice>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <algorithm>
+
+#include "platform/qt/listing_font.h"
+#include "platform/qt/text.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr double kMarginPoints = 36.0;
+constexpr double kLinesPerInch = 6.0;
+constexpr double kNarrowest = 0.5;  // of a letter's width
+
+QPageLayout Layout() {
+    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(kMarginPoints, kMarginPoints, kMarginPoints, kMarginPoints), QPageLayout::Point};
+}
+
+bool TellFault(const PrintServices& services, const std::string& text) {
+    services.messages.Tell("Error!", text, MessageIcon::Stop);
+    return false;
+}
+
+bool PrintToPdf(const PrintServices& services, const std::string& documentName, const PaintDocument& paint) {
+    const SaveRequest request = {services.directory, documentName + ".pdf", "PDF Files", "*.pdf", "pdf"};
+    const std::string path = services.dialogs.ChooseSaveFile(request);
+    if (path.empty()) return false;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setTitle(ToQt(documentName));
+        writer.setCreator(QStringLiteral("TOLVANIS"));
+        writer.setResolution(600);
+        writer.setPageLayout(Layout());
+        QPainter painter(&writer);
+        paint(writer, painter);
+    }
+    const QByteArray& bytes = buffer.data();
+    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    const Result<void> written = ReplaceFile(PathFromText(path), content);
+    return written || TellFault(services, written.message());
+}
+
+bool PrintToPrinter(const PrintServices& services, const std::string& documentName,
+                    const PaintDocument& paint) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(ToQt(documentName));
+    printer.setCreator(QStringLiteral("TOLVANIS"));
+    printer.setPageMargins(QMarginsF(kMarginPoints, kMarginPoints, kMarginPoints, kMarginPoints),
+                           QPageLayout::Point);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    if (dialog.exec() != QDialog::Accepted) return false;
+    QPainter painter;
+    if (!painter.begin(&printer)) return TellFault(services, "The printer cannot be used.");
+    paint(printer, painter);
+    if (!painter.end() || printer.printerState() == QPrinter::Error) {
+        return TellFault(services, "The printer reported an error. The document may be incomplete.");
+    }
+    return true;
+}
+
+// Draws text pages on the sheets of a device.
+class TextPainter {
+  public:
+    TextPainter(QPagedPaintDevice& device, QPainter& painter, const PrintText& text)
+        : device_(device), painter_(painter), text_(text) {
+        painter_.setFont(ListingFont(text.pointSize));
+        const QFontMetricsF metrics(painter_.font(), &device);
+        letterWidth_ = metrics.horizontalAdvance(QLatin1Char('M'));
+        lineHeight_ = device.logicalDpiY() / kLinesPerInch;
+        ascent_ = metrics.ascent();
+        const QRect sheet = device.pageLayout().paintRectPixels(device.logicalDpiX());
+        linesPerSheet_ = std::max(1, static_cast<int>(sheet.height() / lineHeight_));
+        longestLine_ = std::max(1, static_cast<int>(sheet.width() / (letterWidth_ * kNarrowest)));
+        narrowing_ = std::min(1.0, sheet.width() / (letterWidth_ * std::min(LongestLine(), longestLine_)));
+    }
+
+    void Paint() {
+        bool first = true;
+        for (const std::vector<std::string>& page : text_.pages) {
+            if (!first) device_.newPage();
+            first = false;
+            PaintPage(page);
+        }
+    }
+
+  private:
+    int LongestLine() const {
+        qsizetype longest = 1;
+        for (const std::vector<std::string>& page : text_.pages) {
+            for (const std::string& line : page) longest = std::max(longest, ToQt(line).size());
+        }
+        return static_cast<int>(longest);
+    }
+
+    void PaintPage(const std::vector<std::string>& page) {
+        int row = 0;
+        for (const std::string& line : page) {
+            QString rest = ToQt(line);
+            do {
+                if (row == linesPerSheet_) {
+                    device_.newPage();
+                    row = 0;
+                }
+                PaintLine(rest.left(longestLine_), row++);
+                rest = rest.mid(longestLine_);
+            } while (!rest.isEmpty());
+        }
+    }
+
+    void PaintLine(const QString& line, int row) {
+        painter_.save();
+        painter_.scale(narrowing_, 1.0);
+        painter_.drawText(QPointF(0.0, row * lineHeight_ + ascent_), line);
+        painter_.restore();
+    }
+
+    QPagedPaintDevice& device_;
+    QPainter& painter_;
+    const PrintText& text_;
+    double letterWidth_ = 1.0, lineHeight_ = 1.0, ascent_ = 0.0;
+    int linesPerSheet_ = 1;
+    int longestLine_ = 1;
+    double narrowing_ = 1.0;
+};
+
+}  // namespace
+
+bool PrintDocument(const PrintServices& services, const std::string& documentName,
+                   const PaintDocument& paint) {
+    const bool hasPrinter = !QPrinterInfo::availablePrinterNames().isEmpty();
+    return hasPrinter ? PrintToPrinter(services, documentName, paint)
+                      : PrintToPdf(services, documentName, paint);
+}
+
+bool PrintPages(const PrintServices& services, const std::string& documentName, const PrintText& text) {
+    return PrintDocument(services, documentName, [&](QPagedPaintDevice& device, QPainter& painter) {
+        TextPainter(device, painter, text).Paint();
+    });
+}
+
+}  // namespace tolvanis
