@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kHouseSystemOption = 27;
 constexpr int kTitleOption = 48;
+constexpr int kNarrowestStrip = 200;  // pixels
 constexpr std::string_view kDataHelpFile = "OUTPUTD1.HLP";
 constexpr std::string_view kHelpPrintFile = "HELPFILE";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
@@ -150,7 +151,8 @@ void Desktop::PlaceMainWindow() {
     QRect wanted = ToPixels(
         {settings.TOLVANISTop, settings.TOLVANISLeft, settings.TOLVANISHeight, settings.TOLVANISWidth},
         state_.screen.twipsPerPixel);
-    wanted.setHeight(std::max(wanted.height() - CaptionHeight(), main_->menuBar()->sizeHint().height()));
+    wanted.setHeight(wanted.height() - CaptionHeight());
+    wanted.setSize(wanted.size().expandedTo({kNarrowestStrip, main_->menuBar()->sizeHint().height()}));
     PlaceWindow(*main_, BroughtIntoView(wanted, UsableScreens()));
 }
 
@@ -192,8 +194,8 @@ void Desktop::SetBusy(bool busy) {
 
 void Desktop::ShowEntryWindows() {
     if (!input_->testAttribute(Qt::WA_Moved)) {
-        const QRect strip = main_->frameGeometry();
-        const QPoint below(strip.left(), strip.bottom() + CaptionHeight() + 8);
+        // Frames are not known before the window system has made them.
+        const QPoint below(main_->x(), main_->y() + main_->height() + 2 * CaptionHeight());
         const QRect wanted(below, input_->sizeHint());
         input_->move(BroughtIntoView(wanted, UsableScreens()).topLeft());
     }

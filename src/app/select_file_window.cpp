@@ -163,7 +163,7 @@ void SelectFIle::dirList_Change(QListWidgetItem* item) {
 
 void SelectFIle::cmdSelect_Click() {
     // Enter in the directory list opens the directory.
-    if (dirList_->hasFocus()) return dirList_Change(dirList_->currentItem());
+    if (focusWidget() == dirList_) return dirList_Change(dirList_->currentItem());
     if (filList_->currentItem() == nullptr) return;
     result_ = JoinPathText(directory_.string(), filList_->currentItem()->text().toStdString());
     accept();

@@ -1,9 +1,7 @@
 #include "birthdata/natal_input_window.h"
 
-#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -53,16 +51,15 @@ QWidget* InputD::MakeEntryFrame() {
     txtYear_ = AddBox(*grid, 1, 4, "txtYear", "Birth Year", kDigits, 4);
     txtBirthHour_ = AddBox(*grid, 2, 0, "txtBirthHour", "Birth Hour", kDigits, 2);
     txtBirthMinute_ = AddBox(*grid, 2, 2, "txtBirthMinute", "Birth Minute", kDigits, 2);
-    grid->addWidget(MakePair("Am/Pm", optAM_, "optAM", "AM", optPM_, "optPM", "PM"), 2, 4, 1, 2);
+    AddPair(*grid, 2, "Am/Pm", optAM_, "optAM", "AM", optPM_, "optPM", "PM");
     txtTZ_ = AddBox(*grid, 3, 0, "txtTZ", "Time Zone . . .", kZoneCharacters, 6);
     grid->addWidget(Label1_, 3, 2, 1, 2, Qt::AlignLeft);
     txtLongDeg_ = AddBox(*grid, 4, 0, "txtLongDeg", "Long Degrees", kDigits, 3);
     txtLongMin_ = AddBox(*grid, 4, 2, "txtLongMin", "Long Minutes", kDigits, 2);
-    grid->addWidget(MakePair("Ea/We", optEast_, "optEast", "East", optWest_, "optWest", "West"), 4, 4, 1, 2);
+    AddPair(*grid, 4, "Ea/We", optEast_, "optEast", "East", optWest_, "optWest", "West");
     txtLatDeg_ = AddBox(*grid, 5, 0, "txtLatDeg", "Lat Degrees", kDigits, 3);
     txtLatMin_ = AddBox(*grid, 5, 2, "txtLatMin", "Lat Minutes", kDigits, 2);
-    grid->addWidget(MakePair("No/So", optNorth_, "optNorth", "North", optSouth_, "optSouth", "South"), 5, 4,
-                    1, 2);
+    AddPair(*grid, 5, "No/So", optNorth_, "optNorth", "North", optSouth_, "optSouth", "South");
     grid->setColumnStretch(5, 1);
     return frame;
 }
@@ -93,22 +90,28 @@ EntryBox* InputD::AddBox(QGridLayout& grid, int row, int column, const char* nam
     return box;
 }
 
-QWidget* InputD::MakePair(const char* frame, QRadioButton*& first, const char* firstName,
-                          const char* firstCaption, QRadioButton*& second, const char* secondName,
-                          const char* secondCaption) {
-    auto* group = new QGroupBox(QLatin1String(frame));
-    auto* row = new QHBoxLayout(group);
-    row->setContentsMargins(8, 2, 8, 2);
+void InputD::AddPair(QGridLayout& grid, int row, const char* frame, QRadioButton*& first,
+                     const char* firstName, const char* firstCaption, QRadioButton*& second,
+                     const char* secondName, const char* secondCaption) {
+    auto* pair = new QWidget;
+    pair->setAccessibleName(QLatin1String(frame));
+    auto* buttons = new QHBoxLayout(pair);
+    buttons->setContentsMargins(0, 0, 0, 0);
     const auto make = [&](const char* name, const char* caption) {
         auto* button = new QRadioButton(QLatin1String(caption));
         button->setObjectName(QLatin1String(name));
         button->setAccessibleName(QLatin1String(caption));
-        row->addWidget(button);
+        buttons->addWidget(button, 1);
+        // Tab stops at the ticked one, the arrow keys tick the other.
+        button->setFocusPolicy(Qt::ClickFocus);
+        connect(button, &QRadioButton::toggled, button,
+                [button](bool ticked) { button->setFocusPolicy(ticked ? Qt::StrongFocus : Qt::ClickFocus); });
         return button;
     };
     first = make(firstName, firstCaption);
     second = make(secondName, secondCaption);
-    return group;
+    grid.addWidget(new QLabel(QLatin1String(frame)), row, 4, Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(pair, row, 5);
 }
 
 QPushButton* InputD::MakeButton(const char* name, const char* caption, void (InputD::*handler)()) {

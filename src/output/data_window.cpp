@@ -22,11 +22,14 @@ constexpr const char* kOverflowText =
     "The data buffer is full. What it already holds is kept, but the last lines could not be added. Please "
     "save the data and clear the data buffer by clicking on the 'Clear all data' menu item.";
 
+constexpr QSize kSmallestSize = {200, 100};
+
 QRect PlaceOf(const DataWindowContext& context) {
     const DataViewSettings& view = context.view;
-    const QRect wanted = ToPixels(
+    QRect wanted = ToPixels(
         {double(view.DataTop), double(view.DataLeft), double(view.DataHeight), double(view.DataWidth)},
         context.twipsPerPixel);
+    wanted.setSize(wanted.size().expandedTo(kSmallestSize));
     return BroughtIntoView(wanted, UsableScreens());
 }
 
@@ -48,7 +51,7 @@ OutputD1::OutputD1(const DataWindowContext& context) : context_(context), Text1_
     Text1_->installEventFilter(this);
     Text1_->viewport()->installEventFilter(this);
     setCentralWidget(Text1_);
-    setMinimumSize(200, 100);
+    setMinimumSize(kSmallestSize);
     ApplyFont();
     EnableFontItems();
     PlaceWindow(*this, PlaceOf(context_));

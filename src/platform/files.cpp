@@ -211,6 +211,19 @@ int WhyNotReplaceable(const Path& target) {
 
 using Writer = std::function<bool(const Sink&)>;
 
+// Devices and pipes cannot be replaced, only written to.
+Result<void> WriteInto(const Path& path, const Path& target, const Writer& write) {
+    errno = 0;
+    std::ofstream file(target, std::ios::binary);
+    const auto sink = [&](std::string_view bytes) {
+        return static_cast<bool>(file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())));
+    };
+    const bool written = file && write(sink);
+    file.close();
+    if (!written || !file) return CannotWrite(path, Reason(errno != 0 ? errno : EIO));
+    return {};
+}
+
 // Writes the new content beside its target and flushes it to the disk.
 Result<void> Prepare(NewFile& file, const Path& path, const Writer& write) {
     if (file.error() != 0) return CannotWrite(path, Reason(file.error()));
@@ -328,7 +341,11 @@ Result<void> ReplaceFile(const Path& path, std::string_view content) {
 
 Result<void> ReplaceFile(const Path& path, const Writer& write) {
     const Path target = RealTarget(path);
-    if (const int error = WhyNotReplaceable(target)) return CannotWrite(path, Reason(error));
+    if (const int refused = WhyNotReplaceable(target)) return CannotWrite(path, Reason(refused));
+    std::error_code error;
+    if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
+        return WriteInto(path, target, write);
+    }
     NewFile file(target, NewFile::NameUse::Shared);
     if (const Result<void> prepared = Prepare(file, path, write); !prepared) return prepared;
     if (!file.Place()) return CannotWrite(path, Reason(file.error()));

@@ -68,8 +68,9 @@ using Sink = std::function<bool(std::string_view)>;
 
 // Replaces the file at `path` (or makes it): the content is written to a new file beside it, flushed to the
 // disk and renamed into place, so that at any moment the old or the new content is there in full. Symbolic
-// links are followed, the mode of an existing file is kept, and a read-only file is refused. On a fault the
-// old file is untouched and the message names the file and the reason.
+// links are followed, the mode of an existing file is kept, and a read-only file is refused. A device or a
+// pipe is written to, never replaced. On a fault the old file is untouched and the message names the file and
+// the reason.
 Result<void> ReplaceFile(const Path& path, std::string_view content);
 Result<void> ReplaceFile(const Path& path, const std::function<bool(const Sink&)>& write);
 

@@ -1,0 +1,93 @@
+#pragma once
+// A user for window tests: answers messages and dialogs, and finds controls by their names.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QWidget>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/file_dialogs.h"
+#include "platform/messages.h"
+
+namespace tolvanis {
+
+// Records what it is told, and gives the answers laid out beforehand.
+class RecordedMessages : public Messages {
+  public:
+    std::vector<std::string> told;   // "title: text"
+    std::vector<std::string> asked;  // "title: text"
+    std::deque<Answer> answers;
+
+    void Tell(const std::string& title, const std::string& text, MessageIcon) override {
+        told.push_back(title + ": " + text);
+    }
+    Answer AskYesNo(const std::string& title, const std::string& text) override { return Take(title, text); }
+    Answer AskYesNoCancel(const std::string& title, const std::string& text) override {
+        return Take(title, text);
+    }
+    std::string AskText(const std::string&, const std::string&) override { return {}; }
+
+    std::vector<std::string> TakeTold() { return std::exchange(told, {}); }
+
+  private:
+    Answer Take(const std::string& title, const std::string& text) {
+        asked.push_back(title + ": " + text);
+        if (answers.empty()) {
+            ADD_FAILURE() << "nobody expected the question " << text;
+            return Answer::Cancel;
+        }
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+class RecordedDialogs : public FileDialogs {
+  public:
+    std::string answer;  // to every question; empty cancels
+    std::vector<SaveRequest> saveRequests;
+
+    std::string ChooseFile(const std::string&, const std::string&) override { return answer; }
+    std::string ChooseSaveFile(const SaveRequest& request) override {
+        saveRequests.push_back(request);
+        return answer;
+    }
+};
+
+template <typename Control>
+Control& Find(QObject& window, const char* name) {
+    auto* control = window.findChild<Control*>(QLatin1String(name));
+    if (control == nullptr) throw std::runtime_error(std::string("there is no control ") + name);
+    return *control;
+}
+
+inline void Press(QWidget& window, const char* button) {
+    QTest::mouseClick(&Find<QPushButton>(window, button), Qt::LeftButton);
+}
+
+// Types characters of any alphabet; "\b" is the Backspace key.
+inline void TypeInto(QWidget& widget, const char* text) {
+    for (const QChar c : QString::fromUtf8(text)) {
+        const int key = c == QLatin1Char('\b') ? Qt::Key_Backspace : 0;
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(&widget, &press);
+    }
+}
+
+// Goes to a box, marks its text and types.
+inline void Type(QWidget& window, const char* box, const char* text) {
+    auto& widget = Find<QWidget>(window, box);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    widget.setFocus(Qt::TabFocusReason);
+    QTest::keySequence(&widget, QKeySequence::SelectAll);
+    TypeInto(widget, text);
+}
+
+}  // namespace tolvanis
