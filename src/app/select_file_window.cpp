@@ -91,6 +91,7 @@ void SelectFIle::Build() {
     setTabOrder(drvList_, select);
     setTabOrder(select, cancel);
     const int letter = fontMetrics().averageCharWidth();
+    filList_->setMinimumWidth(letter * 26);
     resize(letter * 72, fontMetrics().lineSpacing() * 24);
 
     connect(select, &QPushButton::clicked, this, &SelectFIle::cmdSelect_Click);
