@@ -340,7 +340,6 @@ void Desktop::mnuHelpPrintHelp_Click() {
         services_.messages.Tell("Warning!", MissingFileText(path), MessageIcon::Stop);
         return;
     }
-    const Hourglass hourglass;
     PrintPages(printing_, "Tolvanis help",
                {SplitIntoPages(*lines, state_.options[kLinesPerPrintedPageOption]), PrintPointSize(false)});
 }

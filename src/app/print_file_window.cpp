@@ -7,7 +7,6 @@
 
 #include "app/editor_uses.h"
 #include "output/text_files.h"
-#include "platform/qt/hourglass.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 
@@ -37,6 +36,7 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
     layout->addLayout(row);
     const QFontMetrics metrics(txtContent_->font());
     resize(metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34);
+    print->setFocus();
     Load();
 }
 
@@ -65,15 +65,10 @@ void PrntFile::btnPrint_Click() {
         services_.messages.Tell("Error!", lines.message(), MessageIcon::Stop);
         return;
     }
-    bool printed = false;
-    {
-        const Hourglass hourglass;
-        printed = PrintPages(
-            services_, "Tolvanis data",
-            {SplitIntoPages(*lines, options_[kLinesPerPrintedPageOption]), PrintPointSize(longLines_)});
-    }
+    const PrintText text = {SplitIntoPages(*lines, options_[kLinesPerPrintedPageOption]),
+                            PrintPointSize(longLines_)};
     // A print that failed or was called off leaves the text for another try.
-    if (printed) close();
+    if (PrintPages(services_, "Tolvanis data", text)) close();
 }
 
 void PrntFile::btnCancel_Click() {

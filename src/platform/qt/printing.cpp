@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 #include <algorithm>
 
+#include "platform/qt/hourglass.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/text.h"
 
@@ -36,6 +37,7 @@ bool PrintToPdf(const PrintServices& services, const std::string& documentName, 
     const SaveRequest request = {services.directory, documentName + ".pdf", "PDF Files", "*.pdf", "pdf"};
     const std::string path = services.dialogs.ChooseSaveFile(request);
     if (path.empty()) return false;
+    const Hourglass hourglass;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
@@ -63,6 +65,7 @@ bool PrintToPrinter(const PrintServices& services, const std::string& documentNa
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
     if (dialog.exec() != QDialog::Accepted) return false;
+    const Hourglass hourglass;
     QPainter painter;
     if (!painter.begin(&printer)) return TellFault(services, "The printer cannot be used.");
     paint(printer, painter);

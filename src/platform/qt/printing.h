@@ -24,8 +24,8 @@ struct PrintServices {
 using PaintDocument = std::function<void(QPagedPaintDevice& device, QPainter& painter)>;
 
 // Asks the user for the printer, or where the system has none for a PDF file ("<documentName>.pdf" is
-// proposed), and prints. A fault is told with its reason; a PDF file is replaced whole or not at all. Returns
-// whether the document was printed.
+// proposed), and prints under the hourglass. A fault is told with its reason; a PDF file is replaced whole or
+// not at all. Returns whether the document was printed.
 bool PrintDocument(const PrintServices& services, const std::string& documentName,
                    const PaintDocument& paint);
 
