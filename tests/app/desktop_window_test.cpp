@@ -16,7 +16,7 @@
 #include "app/title_window.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/placement.h"
-#include "support/temporary_directory.h"
+#include "support.h"
 #include "support/window_user.h"
 
 #include <QApplication>
@@ -29,7 +29,7 @@ namespace {
 class DesktopWindow : public testing::Test {
   protected:
     DesktopWindow() {
-        directory_.CopyFrom(DELIVERED_DATA_DIR);
+        std::filesystem::copy(DELIVERED_DATA_DIR, directory_.path());
         state_.order = {0, 1};
         if (!Open()) throw std::runtime_error("the program does not start");
     }
@@ -94,7 +94,7 @@ class DesktopWindow : public testing::Test {
         return pages;
     }
 
-    TemporaryDirectory directory_;
+    ScratchDirectory directory_;
     RecordedMessages messages_;
     RecordedDialogs dialogs_;
     ProgramState state_;
@@ -179,8 +179,8 @@ TEST_F(DesktopWindow, SavesUnderTheProposedNameAndThenWithoutAsking) {
     ChooseInData("mnuSave");
     ASSERT_EQ(dialogs_.saveRequests.size(), 1U);
     EXPECT_EQ(dialogs_.saveRequests[0].proposedName, "Ann.DOC");
-    EXPECT_NE(directory_.Read("Ann.DOC").find("  Ann Smith\r\n"), std::string::npos);
-    EXPECT_TRUE(directory_.Read("Ann.DOC").ends_with("\r\n\f\r\n"));
+    EXPECT_NE(FileContent(directory_ / "Ann.DOC").find("  Ann Smith\r\n"), std::string::npos);
+    EXPECT_TRUE(FileContent(directory_ / "Ann.DOC").ends_with("\r\n\f\r\n"));
     ChooseInData("mnuSave");
     EXPECT_EQ(dialogs_.saveRequests.size(), 1U);
     Choose("mnuInputData");
@@ -335,16 +335,17 @@ TEST_F(DesktopWindow, EditedOptionsAreReadAfreshAndCanBeRestored) {
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->windowTitle(), QStringLiteral("Edit: OPTIONS.OPT"));
     auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
-    const std::string delivered = directory_.Read("OPTIONS.OPT");
+    const std::string delivered = FileContent(directory_ / "OPTIONS.OPT");
     Press(*editor, "btnSave");
-    EXPECT_EQ(directory_.Read("OPTIONS.OPT"), delivered) << "saving without a change changes nothing";
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), delivered)
+        << "saving without a change changes nothing";
     content.moveCursor(QTextCursor::Start);
     QTest::keyClicks(&content, QStringLiteral("1"));
     Press(*editor, "btnSave");
     EXPECT_EQ(state_.options[1], 18.0F);
     EXPECT_TRUE(desktop_->mainWindow().windowTitle().startsWith(QStringLiteral("TOLVANIS - ")));
     Press(*editor, "cmdRestoreDefault");
-    EXPECT_EQ(directory_.Read("OPTIONS.OPT"), directory_.Read("OPTIONS.MAS"));
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), FileContent(directory_ / "OPTIONS.MAS"));
     EXPECT_EQ(state_.options[1], 18.0F) << "restored options are read at the next save or start";
     std::filesystem::remove(directory_.path() / "OPTIONS.MAS");
     Press(*editor, "cmdRestoreDefault");
@@ -365,7 +366,7 @@ TEST_F(DesktopWindow, UnsavedChangesAreAskedAboutBeforeAnythingCloses) {
     EXPECT_EQ(ended.count(), 0);
     Choose("mnuFileExit");
     EXPECT_EQ(ended.count(), 1);
-    EXPECT_EQ(directory_.Read("PERSONAL.NAM"), "xAnn\u00a0Smith\r\n");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "xAnn\u00a0Smith\r\n");
 }
 
 TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
@@ -450,7 +451,7 @@ TEST(Placement, BringsLostWindowsBack) {
 }
 
 TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     std::filesystem::create_directory(directory.path() / "sub");
     for (const char* name : {"A.FIL", "names.fil", "sub/C.FIL", "X.TXT"}) directory.Write(name, "");
     {

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "support/temporary_directory.h"
+#include "support.h"
 
 namespace tolvanis {
 namespace {
@@ -69,7 +69,7 @@ TEST(SettingsFile, EveryLineHasItsRule) {
 }
 
 TEST(SettingsFile, WhatIsWrittenReadsBackInAnyOrder) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     Settings settings = DefaultSettings(directory.path());
     settings.dataView = {9.25, -1, 0, 30, -45, 6000, 7005};
     settings.TOLVANISLeft = -105;
@@ -85,7 +85,7 @@ TEST(SettingsFile, WhatIsWrittenReadsBackInAnyOrder) {
 }
 
 TEST(SettingsFile, InterpretationDirectoryEndsInOneSeparator) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     for (const char* given : {"C:\\TEXTS\\", "/texts/", "/texts"}) {
         directory.Write("Tolvanis.ini", std::string("InterpsDir=") + given + "\r\n");
         const std::string want = given == std::string("/texts") ? "/texts/" : given;
@@ -94,7 +94,7 @@ TEST(SettingsFile, InterpretationDirectoryEndsInOneSeparator) {
 }
 
 TEST(SettingsFile, RubbishAndAMissingFileGiveTheDefaults) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     EXPECT_EQ(ReadSettings(directory.path()), DefaultSettings(directory.path()));
     directory.Write("Tolvanis.ini", std::string("\0\xff\xfe====\nDataTop\n=\nDataHeight=1e999x", 30));
     const Settings settings = ReadSettings(directory.path());
@@ -103,7 +103,7 @@ TEST(SettingsFile, RubbishAndAMissingFileGiveTheDefaults) {
 }
 
 TEST(SettingsFile, ADirectoryThatCannotBeWrittenIsNamed) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     const Result<void> written = WriteSettings(directory.path() / "gone", DefaultSettings("/"));
     ASSERT_FALSE(written);
     EXPECT_NE(written.message().find("gone/Tolvanis.ini: No such file or directory"), std::string::npos);

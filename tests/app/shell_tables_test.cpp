@@ -11,7 +11,7 @@
 #include "app/menu_table.h"
 #include "app/options_file.h"
 #include "app/study_texts.h"
-#include "support/temporary_directory.h"
+#include "support.h"
 #include "text/columns.h"
 
 namespace tolvanis {
@@ -50,7 +50,7 @@ TEST(MenuTable, ShowsTwentyStudyTextsWithShortNames) {
 }
 
 TEST(Editors, WriteBackWhatTheyLoaded) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     const struct {
         const char *before, *after;
     } cases[] = {{"a\r\nb\r\n", "a\r\nb\r\n"}, {"a\nb", "a\r\nb\r\n"}, {"", ""}, {"\r\n", "\r\n"}};
@@ -65,7 +65,7 @@ TEST(Editors, WriteBackWhatTheyLoaded) {
 }
 
 TEST(OptionsFile, ReadsNumbersUpToTheFirstEmptyLine) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     directory.Write("options.opt", "  12.5 orb\r\nletters\r\n1234567890\r\n\r\n7\r\n");
     Options options;
     options[4] = 3;
@@ -77,13 +77,13 @@ TEST(OptionsFile, ReadsNumbersUpToTheFirstEmptyLine) {
 }
 
 TEST(OptionsFile, IsRestoredFromItsMaster) {
-    const TemporaryDirectory directory, installed;
+    const ScratchDirectory directory, installed;
     EXPECT_TRUE(OptionsMaster(directory.path(), {}).empty());
     installed.Write("OPTIONS.MAS", "5\r\n");
     const Path master = OptionsMaster(directory.path(), installed.path());
     EXPECT_EQ(master, installed.path() / "OPTIONS.MAS");
     ASSERT_TRUE(RestoreOptions(directory.path(), master));
-    EXPECT_EQ(directory.Read("OPTIONS.OPT"), "5\r\n");
+    EXPECT_EQ(FileContent(directory / "OPTIONS.OPT"), "5\r\n");
 }
 
 TEST(ClockCaption, FollowsTheSystemsClock) {

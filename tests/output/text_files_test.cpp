@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "output/data_view.h"
-#include "support/temporary_directory.h"
+#include "support.h"
 
 namespace tolvanis {
 namespace {
@@ -44,7 +44,7 @@ TEST(ProposedFileName, IsTheFirstWordCutToEightCharacters) {
 }
 
 TEST(ListTextFile, ReplacesTheListingOnlyWhenTheFileCanBeRead) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     directory.Write("A.TXT", "one\r\ntwo");
     directory.Write("EMPTY.TXT", "");
     DataBuffer buffer;

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/screen_constants.h"
-#include "support/temporary_directory.h"
+#include "support.h"
 
 namespace tolvanis {
 namespace {
@@ -22,7 +22,7 @@ TEST(DirectoryList, PatternsIgnoreLetterCase) {
 }
 
 TEST(DirectoryList, ListsFilesAndDirectoriesApart) {
-    const TemporaryDirectory directory;
+    const ScratchDirectory directory;
     directory.Write("b.fil", "");
     directory.Write("A.FIL", "");
     directory.Write("A.TXT", "");
