@@ -30,13 +30,6 @@ std::string MissingFileText(const Path& path) {
     return "Cannot find the file called " + path.string() + ".";
 }
 
-void BringForward(QWidget& window) {
-    if (window.isMinimized()) window.showNormal();
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
-
 // The settings hold the height of the whole window, caption included.
 int CaptionHeight() {
     return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
@@ -116,14 +109,11 @@ void Desktop::MakeWindows() {
     connect(main_.get(), &TOLVANIS::commandChosen, this,
             [this](const std::string& control) { commands_.at(control)(); });
 
-    input_ = std::make_unique<InputD>(state_.options, services_.messages, services_.clock);
-    connect(input_.get(), &InputD::computeRequested, this, &Desktop::Compute);
-    connect(input_.get(), &InputD::mainWindowRequested, this, &Desktop::FocusMainWindow);
-    connect(input_.get(), &InputD::closedByUser, this, &Desktop::InputD_closed);
-    // Buttons of windows that do not exist yet.
-    for (const char* button : {"cmdSave", "Label1", "Label2"}) {
-        input_->findChild<QPushButton*>(QLatin1String(button))->setEnabled(false);
-    }
+    births_ = std::make_unique<BirthDesk>(state_, services_.messages, services_.dialogs, services_.clock);
+    connect(births_.get(), &BirthDesk::computeRequested, this, &Desktop::Compute);
+    connect(births_.get(), &BirthDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
+    connect(births_.get(), &BirthDesk::inputClosed, this, &Desktop::InputD_closed);
+    connect(births_.get(), &BirthDesk::editorRequested, this, &Desktop::ShowEditor);
 
     clock_.setInterval(1000);
     connect(&clock_, &QTimer::timeout, this, &Desktop::UpdateClock);
@@ -193,17 +183,12 @@ void Desktop::SetBusy(bool busy) {
 }
 
 void Desktop::ShowEntryWindows() {
-    if (!input_->testAttribute(Qt::WA_Moved)) {
-        // Frames are not known before the window system has made them.
-        const QPoint below(main_->x(), main_->y() + main_->height() + 2 * CaptionHeight());
-        const QRect wanted(below, input_->sizeHint());
-        input_->move(BroughtIntoView(wanted, UsableScreens()).topLeft());
-    }
-    BringForward(*input_);
+    // Frames are not known before the window system has made them.
+    births_->Show(QRect(main_->pos(), main_->size() + QSize(0, 2 * CaptionHeight())));
 }
 
 void Desktop::HideEntryWindows() {
-    input_->hide();
+    births_->Hide();
 }
 
 void Desktop::InputD_closed() {
@@ -214,15 +199,13 @@ void Desktop::UnloadChartWindows() {
     delete data_;
 }
 
-void Desktop::UnloadTimeZoneWindow() {}
-
 void Desktop::ShowChartMenus() {
     main_->ShowChartItems();
 }
 
 void Desktop::ShowInputFault(EntryField field) {
     ShowEntryWindows();
-    input_->FocusField(field);
+    natalInput().FocusField(field);
 }
 
 void Desktop::ShowDataBuffer() {
@@ -251,9 +234,9 @@ void Desktop::ShowTextFile(const std::string& textFileName) {
 }
 
 void Desktop::Compute() {
-    UnloadTimeZoneWindow();
+    births_->CloseTimeZones();
     state_.buffer.ClearDataBuffer();
-    ComputeChart(input_->Entry(), state_.houseSystem, state_.order.iDate, state_.options, state_.chart,
+    ComputeChart(natalInput().Entry(), state_.houseSystem, state_.order.iDate, state_.options, state_.chart,
                  state_.buffer, services_.messages, *this);
 }
 
@@ -261,7 +244,7 @@ void Desktop::Compute() {
 void Desktop::PrepareInput() {
     state_.SaveFileName.clear();
     UnloadChartWindows();
-    if (input_->HoldsPresentMoment()) input_->FillNow();
+    if (natalInput().HoldsPresentMoment()) natalInput().FillNow();
 }
 
 void Desktop::mnuInputData_Click() {
@@ -274,7 +257,7 @@ void Desktop::mnuHouse_Click(HouseSystem system) {
     main_->TickHouseSystem(system);
     PrepareInput();
     // The entry windows are hidden again by a computation that succeeds; they come up only when it will not.
-    if (!CheckEntry(input_->Entry(), system).empty()) ShowEntryWindows();
+    if (!CheckEntry(natalInput().Entry(), system).empty()) ShowEntryWindows();
     Compute();
 }
 
@@ -294,6 +277,10 @@ void Desktop::mnuHeader_Click() {
 
 void Desktop::ShowEditor(EditorUse use, const Path& file) {
     QPointer<EditorWindow>& editor = editors_[use];
+    if (editor != nullptr && editor->file() != file) {
+        if (!editor->MayClose()) return;
+        delete editor;
+    }
     if (editor == nullptr) {
         editor = new EditorWindow(use, file, services_.messages);
         connect(editor, &EditorWindow::saved, this, [this, use] { EditorSaved(use); });
@@ -305,6 +292,7 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
 }
 
 void Desktop::EditorSaved(EditorUse use) {
+    births_->FileEdited(use);
     if (use != EditorUse::Options) return;
     const Result<int> read = ReadOptions(state_.applicationDirectory, state_.options);
     if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
@@ -312,7 +300,9 @@ void Desktop::EditorSaved(EditorUse use) {
     UpdateClock();
 }
 
-void Desktop::EditorClosed(EditorUse) {}
+void Desktop::EditorClosed(EditorUse use) {
+    if (births_ != nullptr) births_->EditorLeft(use);
+}
 
 void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
     const Path master = FindFile(state_.applicationDirectory, kOptionsMasterName);
@@ -354,7 +344,7 @@ void Desktop::Exit() {
         services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
     }
     clock_.stop();
-    input_->hide();
+    births_.reset();
     main_->hide();
     for (auto& [use, editor] : editors_) delete editor;
     delete print_;

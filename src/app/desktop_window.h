@@ -9,10 +9,10 @@
 #include <memory>
 #include <string>
 
+#include "app/birth_desk_window.h"
 #include "app/editor_uses.h"
 #include "app/main_window.h"
 #include "app/program_state.h"
-#include "birthdata/natal_input_window.h"
 #include "output/data_window.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
@@ -48,7 +48,8 @@ class Desktop : public QObject, public ChartDesktop {
     bool Start(const Path& installedDirectory);
 
     TOLVANIS& mainWindow() { return *main_; }
-    InputD& natalInput() { return *input_; }
+    BirthDesk& birthDesk() { return *births_; }
+    InputD& natalInput() { return births_->natalInput(); }
     OutputD1* dataWindow() { return data_; }
 
     void SetBusy(bool busy) override;
@@ -82,7 +83,6 @@ class Desktop : public QObject, public ChartDesktop {
     void ShowMainWindow();
     void ShowEntryWindows();
     void UnloadChartWindows();
-    void UnloadTimeZoneWindow();
     void FocusMainWindow();
     void UpdateClock();
     void EditorSaved(EditorUse use);
@@ -105,7 +105,7 @@ class Desktop : public QObject, public ChartDesktop {
     DesktopServices services_;
     PrintServices printing_;
     std::unique_ptr<TOLVANIS> main_;
-    std::unique_ptr<InputD> input_;
+    std::unique_ptr<BirthDesk> births_;
     QPointer<OutputD1> data_;
     QPointer<PrntFile> print_;
     std::map<EditorUse, QPointer<EditorWindow>> editors_;

@@ -19,6 +19,7 @@ class EditorWindow : public QWidget {
     EditorWindow(EditorUse use, const Path& file, Messages& messages);
 
     EditorUse use() const { return info_.use; }
+    const Path& file() const { return file_; }
 
     // Asks what to do with unsaved changes, where this use asks. Returns whether the window may close.
     bool MayClose();

@@ -5,6 +5,7 @@
 
 #include "app/settings_file.h"
 #include "astro/chart_driver.h"
+#include "birthdata/names_file.h"
 #include "platform/screen_constants.h"
 #include "text/dates.h"
 
@@ -21,6 +22,7 @@ struct ProgramState {
     ScreenConstants screen;
     std::string titlePrefix{kStartTitlePrefix};
     HouseSystem houseSystem = HouseSystem::Placidus;  // the ticked one
+    NamesState names;
     CurrentChart chart;
     DataBuffer buffer;
     std::string SaveFileName;  // where Save writes, for listings and reports; empty until the user has chosen

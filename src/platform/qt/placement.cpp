@@ -57,6 +57,13 @@ QList<QRect> UsableScreens() {
     return areas;
 }
 
+void BringForward(QWidget& window) {
+    if (window.isMinimized()) window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 void PlaceWindow(QWidget& window, const QRect& place) {
     window.resize(place.size());
     window.move(place.topLeft());

@@ -23,6 +23,9 @@ QRect BroughtIntoView(QRect wanted, const QList<QRect>& screens);
 // The usable areas of all screens, the primary one first.
 QList<QRect> UsableScreens();
 
+// Shows a window, from the task bar too, in front of the others and gives it the focus.
+void BringForward(QWidget& window);
+
 // Places a window: the position is that of its frame, the size that of its inside.
 void PlaceWindow(QWidget& window, const QRect& place);
 
