@@ -50,7 +50,8 @@ void BirthDesk::ConnectInput() {
 void BirthDesk::Show(const QRect& anchor) {
     if (!input_->testAttribute(Qt::WA_Moved)) {
         const QRect wanted(anchor.bottomLeft(), input_->sizeHint());
-        input_->move(BroughtIntoView(wanted, UsableScreens()).topLeft());
+        firstPlace_ = BroughtIntoView(wanted, UsableScreens()).topLeft();
+        PlaceWindow(*input_, QRect(firstPlace_, input_->sizeHint()));
     }
     BringForward(*input_);
     Close(cities_);
@@ -65,6 +66,12 @@ void BirthDesk::Hide() {
 
 void BirthDesk::CloseTimeZones() {
     Close(zones_);
+}
+
+// The frame of the natal input, also before the window system has told how large its borders are.
+QRect BirthDesk::InputPlace() const {
+    const bool known = input_->frameGeometry().size() != input_->size();
+    return known ? input_->frameGeometry() : QRect(firstPlace_, input_->size());
 }
 
 void BirthDesk::PlaceBeside(QWidget& window, const QRect& neighbour) const {
@@ -92,7 +99,7 @@ void BirthDesk::OpenNames() {
         Close(names_);
         OpenCities();
     });
-    PlaceBeside(*names_, input_->frameGeometry());
+    PlaceBeside(*names_, InputPlace());
     BringForward(*names_);
     names_->Load();
 }
@@ -109,7 +116,7 @@ void BirthDesk::OpenCities() {
         Close(cities_);
         OpenNames();
     });
-    PlaceBeside(*cities_, input_->frameGeometry());
+    PlaceBeside(*cities_, InputPlace());
     BringForward(*cities_);
     cities_->Load();
 }
@@ -124,7 +131,7 @@ void BirthDesk::OpenTimeZones() {
             input_->SetEntry(entry);
         });
         const QWidget* list = cities_ != nullptr ? static_cast<QWidget*>(cities_) : names_;
-        PlaceBeside(*zones_, list != nullptr ? list->frameGeometry() : input_->frameGeometry());
+        PlaceBeside(*zones_, list != nullptr ? list->frameGeometry() : InputPlace());
         BringForward(*zones_);
         zones_->Load();
     }

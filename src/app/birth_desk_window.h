@@ -3,6 +3,7 @@
 // it, and the atlas.
 
 #include <QObject>
+#include <QPoint>
 #include <QPointer>
 #include <memory>
 
@@ -58,6 +59,7 @@ class BirthDesk : public QObject {
     void FillInPlace(const Place& place);
     void ChangeNamesList();
     void ChangeCitiesList();
+    QRect InputPlace() const;
     void PlaceBeside(QWidget& window, const QRect& neighbour) const;
 
     ProgramState& state_;
@@ -65,6 +67,7 @@ class BirthDesk : public QObject {
     FileDialogs& dialogs_;
     AtlasLookup atlas_;
     std::unique_ptr<InputD> input_;
+    QPoint firstPlace_;  // where the natal input has been put first
     QPointer<Names> names_;
     QPointer<Geograph> cities_;
     QPointer<TimeZone> zones_;
