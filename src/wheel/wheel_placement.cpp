@@ -1,0 +1,157 @@
+#include "wheel/wheel_placement.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "astro/angles.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr int kSlots = 12 * kSlotsPerHouse;
+constexpr double kSlotStep = 4.0;  // degrees between slots
+constexpr double kLeastGap = 4.0;  // degrees between European glyphs
+constexpr double kOnCusp = 1.0 / 36000.0;
+
+double HouseWidth(const HouseCusps& cusps, int house) {
+    return Norm360(cusps.OfHouse(house % 12 + 1) - cusps.OfHouse(house));
+}
+
+// Degrees from the cusp of the point's house; a point just in front of the cusp is on it.
+double OffsetInHouse(const WheelSnapshot& chart, int point) {
+    const double offset =
+        Norm360(chart.PointLongitude[point] - chart.HouseCusps.OfHouse(chart.PointHouse[point]));
+    return offset >= 360.0 - kOnCusp ? 0.0 : offset;
+}
+
+// The slots of all houses in a row. Behind the last house lie the first house's again.
+class SlotRow {
+  public:
+    bool IsFree(int house, int slot) const { return !taken_[Index(house, slot)]; }
+    void Take(int house, int slot) { taken_[Index(house, slot)] = true; }
+
+  private:
+    static std::size_t Index(int house, int slot) {
+        return static_cast<std::size_t>(((house - 1) * kSlotsPerHouse + slot) % kSlots);
+    }
+    std::array<bool, kSlots> taken_{};
+};
+
+// The slot of the k-th of n points of a house.
+int ChooseSlot(const SlotRow& row, int house, double offset, double width, int k, int n) {
+    int slot =
+        width > 0.0 ? static_cast<int>(std::min(kSlotsPerHouse * offset / width, kSlotsPerHouse - 1.0)) : 0;
+    if (slot >= kSlotsPerHouse - n + k) {
+        const bool fitsBehind = slot - (n - k) >= 0 && row.IsFree(house, slot);
+        slot = fitsBehind ? kSlotsPerHouse - 1 - n + k : kSlotsPerHouse - n;
+    }
+    slot = std::max(slot, 0);
+    while (!row.IsFree(house, slot)) ++slot;
+    return slot;
+}
+
+// Glyph angles on an unrolled wheel, ascending from the first house's cusp at 180; the last may not come
+// closer to the first, one turn on, than the least gap.
+class EuropeanAngles {
+  public:
+    void Add(double angle) {
+        angles_.push_back(angles_.empty() ? angle : std::max(angle, angles_.back() + kLeastGap));
+    }
+
+    // Opens the gap between the last and the first by the chain of moves that is shorter in all.
+    const std::vector<double>& Close() {
+        if (angles_.size() < 2) return angles_;
+        const double lack = kLeastGap - (angles_.front() + 360.0 - angles_.back());
+        if (lack <= 0.0) return angles_;
+        std::vector<double> back = angles_;
+        std::vector<double> forward = angles_;
+        back.back() -= lack;
+        for (std::size_t i = back.size() - 1; i > 0; --i) {
+            back[i - 1] = std::min(back[i - 1], back[i] - kLeastGap);
+        }
+        forward.front() += lack;
+        for (std::size_t i = 1; i < forward.size(); ++i) {
+            forward[i] = std::max(forward[i], forward[i - 1] + kLeastGap);
+        }
+        angles_ = Moved(forward) < Moved(back) ? forward : back;
+        return angles_;
+    }
+
+  private:
+    double Moved(const std::vector<double>& other) const {
+        double sum = 0.0;
+        for (std::size_t i = 0; i < angles_.size(); ++i) sum += std::abs(other[i] - angles_[i]);
+        return sum;
+    }
+
+    std::vector<double> angles_;
+};
+
+void PlaceInSlots(const WheelSnapshot& chart, std::vector<PlacedGlyph>& glyphs) {
+    const std::array<int, 12> counts = PointsPerHouse(chart);
+    SlotRow row;
+    int house = 0;
+    int k = 0;
+    for (PlacedGlyph& glyph : glyphs) {
+        k = glyph.house == house ? k + 1 : 1;
+        house = glyph.house;
+        const int n = counts[static_cast<std::size_t>(house - 1)];
+        glyph.slot = ChooseSlot(row, house, OffsetInHouse(chart, glyph.point),
+                                HouseWidth(chart.HouseCusps, house), k, n);
+        row.Take(house, glyph.slot);
+        glyph.angle = Norm360(SectorStart(house) + kSlotStep * glyph.slot);
+        glyph.drawn = n <= kSlotsPerHouse || (glyph.point != kSouthNode && glyph.point != kPartOfFortune);
+    }
+}
+
+void MoveToTrueAngles(const WheelSnapshot& chart, std::vector<PlacedGlyph>& glyphs) {
+    EuropeanAngles angles;
+    for (PlacedGlyph& glyph : glyphs) {
+        const double cusp = Norm360(chart.HouseCusps.OfHouse(glyph.house) - chart.HouseCusps.OfHouse(1));
+        const double angle = 180.0 + cusp + OffsetInHouse(chart, glyph.point);
+        glyph.angle = Norm360(angle);
+        if (glyph.drawn) angles.Add(angle);
+    }
+    auto next = angles.Close().begin();
+    for (PlacedGlyph& glyph : glyphs) {
+        if (glyph.drawn) glyph.angle = Norm360(*next++);
+    }
+}
+
+}  // namespace
+
+double WheelAngle(double longitude, const HouseCusps& cusps) {
+    return Norm360(longitude - cusps.OfHouse(1) + 180.0);
+}
+
+std::array<int, 12> PointsPerHouse(const WheelSnapshot& chart, int lastPoint) {
+    std::array<int, 12> counts{};
+    for (int point = 1; point <= lastPoint; ++point) {
+        ++counts[static_cast<std::size_t>(chart.PointHouse[point] - 1)];
+    }
+    return counts;
+}
+
+std::vector<int> PlacementOrder(const WheelSnapshot& chart, int lastPoint) {
+    std::vector<int> order;
+    for (int point = 1; point <= lastPoint; ++point) order.push_back(point);
+    std::ranges::stable_sort(order, [&](int a, int b) {
+        if (chart.PointHouse[a] != chart.PointHouse[b]) return chart.PointHouse[a] < chart.PointHouse[b];
+        return OffsetInHouse(chart, a) < OffsetInHouse(chart, b);
+    });
+    return order;
+}
+
+std::vector<PlacedGlyph> PlaceGlyphs(const WheelSnapshot& chart, ChartType type) {
+    std::vector<PlacedGlyph> glyphs;
+    for (const int point : PlacementOrder(chart)) {
+        PlacedGlyph& glyph = glyphs.emplace_back();
+        glyph.point = point;
+        glyph.house = chart.PointHouse[point];
+    }
+    PlaceInSlots(chart, glyphs);
+    if (type == ChartType::European) MoveToTrueAngles(chart, glyphs);
+    return glyphs;
+}
+
+}  // namespace tolvanis
