@@ -30,11 +30,46 @@ void DrawHouses(DrawingSurface& surface, const WheelPlan& plan) {
         ++house;
     }
     // The lines begin a little inside the inner circle; its disc covers that.
-    const int background = &plan.form == &kPrinterForm ? kWhite : plan.Background();
+    const int background = plan.Background();
     const Stroke circle{ColourOf(plan.options, kCircleColourOption), kCircleWidth};
+    for (const LineSpan& tick : SignTicks(plan.chart.HouseCusps, plan.type)) {
+        surface.Line(tick.from, tick.to, {colour, kHouseLineWidth});
+    }
     surface.Disc({}, kInnerRadius, background);
     surface.Circle({}, kOuterRadius, circle);
     surface.Circle({}, kInnerRadius, circle);
+}
+
+// Whether the line passes the rectangle closer than the gap.
+bool Crosses(const LineSpan& line, const Extent& box, double gap) {
+    const Point centre{(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+    const double x = line.to.x - line.from.x;
+    const double y = line.to.y - line.from.y;
+    const double length = std::hypot(x, y);
+    const double along = ((centre.x - line.from.x) * x + (centre.y - line.from.y) * y) / length;
+    const double across = std::abs((centre.x - line.from.x) * y - (centre.y - line.from.y) * x) / length;
+    const double reach =
+        ((box.right - box.left) * std::abs(y) + (box.top - box.bottom) * std::abs(x)) / length / 2;
+    return across < reach + gap && along > -reach && along < length + reach;
+}
+
+// Discs of the background under the characters of labels that stand on a house line keep the text clear.
+void DrawPlanets(DrawingSurface& surface, const WheelPlan& plan, const std::vector<WheelText>& texts) {
+    constexpr double kClear = 0.8;
+    for (const double angle : HouseLineAngles(plan.chart.HouseCusps, plan.type)) {
+        const LineSpan line = HouseLine(angle);
+        for (const WheelText& text : texts) {
+            const Extent ink = InkOf(text, surface);
+            if (!Crosses(line, ink, kClear)) continue;
+            const double half = (ink.top - ink.bottom) / 2 + kClear;
+            const double y = (ink.top + ink.bottom) / 2;
+            const double slack = std::max((ink.right - ink.left) / 2 + kClear - half, 0.0);
+            for (const double x : {-slack, 0.0, slack}) {
+                surface.Disc({(ink.left + ink.right) / 2 + x, y}, half, plan.Background());
+            }
+        }
+    }
+    DrawTexts(surface, texts);
 }
 
 void DrawAspects(DrawingSurface& surface, const WheelPlan& plan, std::span<const PlacedGlyph> glyphs) {
@@ -43,7 +78,7 @@ void DrawAspects(DrawingSurface& surface, const WheelPlan& plan, std::span<const
         surface.Line(aspect.line.from, aspect.line.to, {AspectColour(plan, aspect.code), kAspectLineWidth});
     }
     // Each glyph stands in a gap of the background, so that no line runs through it.
-    const int background = &plan.form == &kPrinterForm ? kWhite : plan.Background();
+    const int background = plan.Background();
     for (const WheelText& text : AspectGlyphs(plan, surface, lines)) {
         const Extent ink = InkOf(text, surface);
         const double radius = std::max(ink.right - ink.left, ink.top - ink.bottom) / 2 + 1.0;
@@ -74,9 +109,7 @@ void DrawWheelBody(DrawingSurface& surface, const WheelPlan& plan, std::span<con
     DrawTexts(surface, CuspLabels(plan, surface, taken));
     DrawTexts(surface, SignRingTexts(plan, surface));
     const std::vector<PlacedGlyph> glyphs = PlaceGlyphs(plan.chart, plan.type);
-    for (const PlacedGlyph& glyph : glyphs) {
-        if (glyph.drawn) DrawTexts(surface, PlanetLabel(plan, surface, glyph));
-    }
+    DrawPlanets(surface, plan, PlanetLabels(plan, surface, glyphs));
     if (plan.options[kAspectLinesOption] == 1.0F) DrawAspects(surface, plan, glyphs);
 }
 

@@ -13,7 +13,8 @@ namespace tolvanis {
 namespace {
 
 constexpr double kLineFlattening = 0.9675;
-constexpr double kSignCell = 20.0;      // width of a sign's place in the ring
+constexpr double kSignCell = 20.0;  // width of a sign's place in the ring
+constexpr double kTickLength = 9.0;
 constexpr double kSharedSector = 11.0;  // degrees between two signs in one American sector
 
 // The five parts of a position: degrees, sign, minutes.
@@ -97,6 +98,11 @@ double RowShift(double angle) {
     return angle > 100.0 && angle < 260.0 ? 49.0 : 0.0;
 }
 
+Extent Around(const LineSpan& line) {
+    return {std::min(line.from.x, line.to.x), std::max(line.from.y, line.to.y),
+            std::max(line.from.x, line.to.x), std::min(line.from.y, line.to.y)};
+}
+
 double DistanceFromCentre(const Extent& box) {
     const double x = box.left > 0.0 ? box.left : std::min(box.right, 0.0);
     const double y = box.bottom > 0.0 ? box.bottom : std::min(box.top, 0.0);
@@ -111,7 +117,7 @@ bool Inside(const Extent& box, const Extent& surface, double margin) {
 constexpr double kCircleGap = 3.0;  // between the outer circle and a label
 constexpr double kLabelGap = 2.5;   // between a label and other texts
 constexpr double kMostOutwards = 60.0;
-constexpr double kMostAside = 24.0;
+constexpr double kMostAside = 72.0;
 
 // The start of a row at the ray, moved outwards and aside as little as keeps it clear of everything taken.
 Point FindRowPlace(const LabelRow& row, double angle, std::span<const Extent> taken, const Extent& surface) {
@@ -146,6 +152,7 @@ std::vector<WheelText> EuropeanLabels(const WheelPlan& plan, const TextMeasure& 
     std::vector<Extent> busy(taken.begin(), taken.end());
     for (const WheelText& sign : SignRingTexts(plan, measure)) busy.push_back(InkOf(sign, measure));
     for (const WheelText& text : texts) busy.push_back(InkOf(text, measure));
+    for (const LineSpan& tick : SignTicks(plan.chart.HouseCusps, plan.type)) busy.push_back(Around(tick));
     for (const int position : {1, 7, 3, 5, 9, 11, 2, 6, 8, 12}) {
         const double longitude = plan.chart.HouseCusps[position];
         const double angle = Norm360(longitude - plan.chart.HouseCusps.OfHouse(7));
@@ -217,8 +224,79 @@ std::vector<LabelPart> LabelItems(const WheelPlan& plan, const PlacedGlyph& glyp
     return items;
 }
 
-bool IsSign(const LabelPart& part) {
+// How the items of a label follow each other inwards.
+enum class LabelStyle {
+    Rows,    // numbers side by side, cells touching along the ray: reads best, needs room on steep rays
+    Digits,  // digit by digit, for neighbours too close for rows
+};
+
+// Along the ray from the middle of one cell to that of a cell that touches it.
+double TouchingStep(const Cell& a, const Cell& b, const SinCos& ray) {
+    const double across = (a.width + b.width) / 2;
+    const double down = (a.height + b.height) / 2;
+    const double x = std::abs(ray.cos);
+    const double y = std::abs(ray.sin);
+    return across * y < down * x ? across / x : down / y;
+}
+
+bool IsDigit(const LabelPart& part) {
+    return part.text[0] >= '0' && part.text[0] <= '9';
+}
+
+bool IsGlyph(const LabelPart& part) {
     return static_cast<unsigned char>(part.text[0]) >= 0x80;
+}
+
+// Joins the two digits of each number, which follow each other in either order.
+std::vector<LabelPart> JoinNumbers(std::vector<LabelPart> items, bool inwards) {
+    std::vector<LabelPart> joined;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        joined.push_back(items[i]);
+        if (!IsDigit(items[i])) continue;
+        ++i;
+        std::string& text = joined.back().text;
+        text = inwards ? text + items[i].text : items[i].text + text;
+    }
+    return joined;
+}
+
+std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& measure,
+                                   const PlacedGlyph& glyph, LabelStyle style) {
+    const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
+    const SinCos ray = SinCosDeg(glyph.angle);
+    const auto degree = static_cast<std::size_t>(RoundToInt16(glyph.angle));
+    // The table's radius is that of the glyph's corner; the glyph itself is centred on its ray.
+    const double radius =
+        plan.data.radius[degree] + steps.glyph.width / 2 * ray.cos - steps.glyph.height / 2 * ray.sin;
+    Point place{radius * ray.cos, radius * ray.sin};
+    std::vector<WheelText> texts = {CentredText(measure, place, PointGlyph(glyph.point),
+                                                {SizeOf(plan.options, plan.form.planetSize)},
+                                                ColourOf(plan.options, plan.form.planetColour))};
+    std::vector<LabelPart> items = LabelItems(plan, glyph);
+    if (style == LabelStyle::Rows) items = JoinNumbers(std::move(items), ReadsInwards(plan, glyph));
+    Cell last = steps.glyph;
+    for (LabelPart& item : items) {
+        Cell cell = IsGlyph(item) ? steps.glyph : steps.digit;
+        if (style == LabelStyle::Rows) {
+            const TextBox box = measure.Measure(item.text, item.font);
+            cell = {box.inkRight - box.inkLeft + 2.2, box.inkBottom - box.inkTop + 2.2};
+            const double step = TouchingStep(last, cell, ray);
+            place = {place.x - step * ray.cos, place.y - step * ray.sin};
+        } else {
+            place.x -= (last.width + cell.width) / 2 * ray.cos;
+            place.y -= (last.height + cell.height) / 2 * ray.sin;
+        }
+        texts.push_back(CentredText(measure, place, std::move(item.text), item.font, item.colour));
+        last = cell;
+    }
+    return texts;
+}
+
+bool Meet(const std::vector<Extent>& a, const std::vector<Extent>& b) {
+    constexpr double kBetweenLabels = 1.0;
+    return std::ranges::any_of(a, [&](const Extent& one) {
+        return std::ranges::any_of(b, [&](const Extent& two) { return Overlap(one, two, kBetweenLabels); });
+    });
 }
 
 }  // namespace
@@ -294,9 +372,18 @@ std::vector<SignMark> SignRing(const HouseCusps& cusps, ChartType type) {
     return ring;
 }
 
+std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type) {
+    std::vector<LineSpan> ticks;
+    for (int sign = 0; type == ChartType::European && sign < 12; ++sign) {
+        const double angle = WheelAngle(30.0 * sign, cusps);
+        ticks.push_back({OnWheel(angle, kOuterRadius), OnWheel(angle, kOuterRadius + kTickLength)});
+    }
+    return ticks;
+}
+
 std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure) {
     constexpr std::array kElementColours = {12, 2, 6, 9};  // fire, earth, air, water
-    const TextFont font{SizeOf(plan.options, plan.form.signRingSize)};
+    const TextFont font{SizeOf(plan.options, plan.form.signRingSize), true};
     std::vector<WheelText> texts;
     for (const SignMark& mark : SignRing(plan.chart.HouseCusps, plan.type)) {
         Point place = OnWheel(mark.angle, kSignRadius);
@@ -330,25 +417,31 @@ std::vector<WheelText> CuspLabels(const WheelPlan& plan, const TextMeasure& meas
     return texts;
 }
 
-std::vector<WheelText> PlanetLabel(const WheelPlan& plan, const TextMeasure& measure,
-                                   const PlacedGlyph& glyph) {
-    const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
-    const SinCos ray = SinCosDeg(glyph.angle);
-    const auto degree = static_cast<std::size_t>(RoundToInt16(glyph.angle));
-    // The table's radius is that of the glyph's corner; the glyph itself is centred on its ray.
-    const double radius =
-        plan.data.radius[degree] + steps.glyph.width / 2 * ray.cos - steps.glyph.height / 2 * ray.sin;
-    Point place{radius * ray.cos, radius * ray.sin};
-    std::vector<WheelText> texts = {CentredText(measure, place, PointGlyph(glyph.point),
-                                                {SizeOf(plan.options, plan.form.planetSize)},
-                                                ColourOf(plan.options, plan.form.planetColour))};
-    Cell last = steps.glyph;
-    for (LabelPart& item : LabelItems(plan, glyph)) {
-        const Cell cell = IsSign(item) ? steps.glyph : steps.digit;
-        place.x -= (last.width + cell.width) / 2 * ray.cos;
-        place.y -= (last.height + cell.height) / 2 * ray.sin;
-        texts.push_back(CentredText(measure, place, std::move(item.text), item.font, item.colour));
-        last = cell;
+std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
+                                    std::span<const PlacedGlyph> glyphs) {
+    std::vector<std::vector<WheelText>> labels;
+    std::vector<std::vector<Extent>> inks;
+    std::vector<LabelStyle> styles(glyphs.size(), LabelStyle::Rows);
+    const auto inksOf = [&](const std::vector<WheelText>& label) {
+        std::vector<Extent> ink;
+        for (const WheelText& text : label) ink.push_back(InkOf(text, measure));
+        return ink;
+    };
+    for (const PlacedGlyph& glyph : glyphs) {
+        labels.push_back(glyph.drawn ? StyledLabel(plan, measure, glyph, LabelStyle::Rows)
+                                     : std::vector<WheelText>());
+        inks.push_back(inksOf(labels.back()));
+    }
+    for (std::size_t i = 0; i < glyphs.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (Meet(inks[i], inks[j])) styles[i] = styles[j] = LabelStyle::Digits;
+        }
+    }
+    std::vector<WheelText> texts;
+    for (std::size_t i = 0; i < glyphs.size(); ++i) {
+        if (styles[i] == LabelStyle::Digits)
+            labels[i] = StyledLabel(plan, measure, glyphs[i], LabelStyle::Digits);
+        texts.insert(texts.end(), labels[i].begin(), labels[i].end());
     }
     return texts;
 }

@@ -26,7 +26,9 @@ struct WheelPlan {
     Extent surface;         // what the whole surface shows
     bool halfPage = false;  // the window's image will be printed: white background, black sextiles and trines
 
-    int Background() const { return halfPage ? kWhite : ColourOf(options, kBackgroundOption); }
+    int Background() const {
+        return halfPage || &form == &kPrinterForm ? kWhite : ColourOf(options, kBackgroundOption);
+    }
 };
 
 struct WheelText {
@@ -66,6 +68,8 @@ struct SignMark {
 // house that begins in the sign or, for a sign that holds no cusp, of the house that contains it; signs that
 // share a sector stand side by side about its middle.
 std::vector<SignMark> SignRing(const HouseCusps& cusps, ChartType type);
+// European: short lines outwards where one sign ends and the next begins.
+std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type);
 std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure);
 
 // The seven title lines, one below the other from the surface's upper left corner.
@@ -78,10 +82,11 @@ std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& meas
 std::vector<WheelText> CuspLabels(const WheelPlan& plan, const TextMeasure& measure,
                                   std::span<const Extent> taken);
 
-// The planet ring: for every drawn glyph its label, the glyph first. The items follow each other inwards
-// along the glyph's ray so that the text reads degrees, sign, minutes from left to right on both sides.
-std::vector<WheelText> PlanetLabel(const WheelPlan& plan, const TextMeasure& measure,
-                                   const PlacedGlyph& glyph);
+// The labels of all drawn glyphs, the glyph first. The items follow each other inwards along the glyph's ray
+// so that the text reads degrees, sign, minutes from left to right on both sides. Numbers stand side by side;
+// only where neighbours on a steep ray would meet, their labels run digit by digit.
+std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
+                                    std::span<const PlacedGlyph> glyphs);
 
 struct AspectLine {
     int first = kSun;

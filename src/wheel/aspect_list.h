@@ -1,0 +1,25 @@
+#pragma once
+// The aspects of the chart in the wheel, as the aspect window and the printed grid show them.
+
+#include <string>
+#include <vector>
+
+#include "aspects/orbs_file.h"
+#include "wheel/wheel_snapshot.h"
+
+namespace tolvanis {
+
+struct ListedAspect {
+    int first = kSun;  // chart points
+    int second = kSun;
+    int code = 0;
+};
+
+// Every aspect twice, once under each of its points; points in grid order. All fifteen aspects are searched
+// from sextile to septile, then the conjunction, and the last that matches counts.
+std::vector<ListedAspect> ListAspects(const WheelSnapshot& chart, const OrbTable& orbs);
+
+// One line an aspect, in glyphs of the symbol font: two blanks, point, blank, aspect, blank, point.
+std::string AspectListText(const std::vector<ListedAspect>& aspects);
+
+}  // namespace tolvanis
