@@ -5,6 +5,7 @@
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <algorithm>
 
 #include "platform/qt/painter_surface.h"
 #include "text/columns.h"
@@ -75,10 +76,6 @@ Result<void> ExportWheel(const WheelRequest& request, const Path& file) {
     if (!format->write(request, buffer)) return Fault{"The picture is too large to be drawn."};
     const QByteArray& bytes = buffer.data();
     return ReplaceFile(file, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-}
-
-QString ExportFilter() {
-    return QStringLiteral("SVG (*.svg);;PDF (*.pdf);;PNG (*.png)");
 }
 
 }  // namespace tolvanis

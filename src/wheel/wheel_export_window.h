@@ -1,8 +1,6 @@
 #pragma once
 // The wheel as a picture file.
 
-#include <QSizeF>
-
 #include "platform/files.h"
 #include "wheel/wheel_drawing.h"
 
@@ -13,8 +11,5 @@ namespace tolvanis {
 // must be loaded; a fault says what is wrong with the name or why the file could not be written. An existing
 // file is replaced whole or not at all.
 Result<void> ExportWheel(const WheelRequest& request, const Path& file);
-
-// The extensions, as a save dialog's filter.
-QString ExportFilter();
 
 }  // namespace tolvanis
