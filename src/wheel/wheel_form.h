@@ -19,7 +19,6 @@ struct WheelForm {
     int planetSize, degreesSize, signSize, minutesSize, retrogradeSize, aspectSize;
     int titleColour, planetColour, degreesColour, signColour, minutesColour, retrogradeColour;
     int softColour, hardColour, quincunxColour;  // sextile and trine, square and opposition
-    bool boldCuspDegrees;
 };
 
 inline constexpr WheelForm kScreenForm = {
@@ -50,7 +49,6 @@ inline constexpr WheelForm kScreenForm = {
     .softColour = 97,
     .hardColour = 98,
     .quincunxColour = 99,
-    .boldCuspDegrees = true,
 };
 
 inline constexpr WheelForm kPrinterForm = {
@@ -81,7 +79,6 @@ inline constexpr WheelForm kPrinterForm = {
     .softColour = 112,
     .hardColour = 113,
     .quincunxColour = 114,
-    .boldCuspDegrees = false,
 };
 
 // Colours that both forms share, and switches.

@@ -39,7 +39,7 @@ struct LabelPart {
 std::array<LabelPart, 5> CuspParts(const WheelPlan& plan, double longitude) {
     const PositionParts parts = SplitPosition(longitude);
     const Options& options = plan.options;
-    const TextFont degrees{SizeOf(options, plan.form.cuspDegreesSize), plan.form.boldCuspDegrees};
+    const TextFont degrees{SizeOf(options, plan.form.cuspDegreesSize), true};
     const TextFont sign{SizeOf(options, plan.form.cuspSignSize)};
     const TextFont minutes{SizeOf(options, plan.form.cuspMinutesSize)};
     const int degreesColour = ColourOf(options, kCuspDegreesColourOption);
