@@ -12,9 +12,16 @@ namespace tolvanis {
 
 inline constexpr std::string_view kDesktopUsage =
     "Usage: tolvanis [--app-dir DIR]\n"
+    "       tolvanis --wheel FILE [--type american|european] [--size N]\n"
+    "                [--now | --birth RECORD | --names FILE --name NAME]\n"
+    "                [--place FILE:CITY] [--houses CODE] [--app-dir DIR]\n"
     "Natal astrology: charts, wheels and reports.\n"
     "\n"
     "  --app-dir DIR  the directory of OPTIONS.OPT and the other data files\n"
+    "  --wheel FILE   write a chart wheel as FILE.svg, .pdf or .png, without opening\n"
+    "                 a window, and exit; the birth is given as to tolvanis-chart\n"
+    "  --type TYPE    american (the default) or european\n"
+    "  --size N       width and height of the picture in pixels, 100 to 10000 (1000)\n"
     "  --help         print this text and exit\n"
     "  --version      print the version and exit\n";
 

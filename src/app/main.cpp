@@ -8,14 +8,13 @@
 #include "app/desktop_arguments.h"
 #include "app/desktop_window.h"
 #include "app/file_dialogs_window.h"
+#include "app/wheel_command_window.h"
 #include "platform/clock.h"
 #include "platform/qt/message_boxes.h"
 
 using namespace tolvanis;
 
 namespace {
-
-constexpr int kWrongUsage = 2;
 
 // Whether windows can be opened at all. Qt itself would abort without one.
 bool HasDisplay() {
@@ -48,6 +47,7 @@ int Run(const DesktopArguments& arguments) {
 
 int main(int argc, char** argv) {
     const std::vector<std::string_view> given(argv + 1, argv + argc);
+    if (IsWheelCommand(given)) return RunWheelCommand(given, argv);
     const Result<DesktopArguments> arguments = ParseDesktopArguments(given);
     if (!arguments) {
         std::cerr << "tolvanis: " << arguments.message() << "\n\n" << kDesktopUsage;

@@ -8,8 +8,6 @@
 
 namespace tolvanis {
 
-enum ExitStatus : int { kAllComputed = 0, kSomethingRefused = 1, kWrongUsage = 2 };
-
 // Computes and prints what the request asks for, record by record, holding one at a time. Every refused
 // record gives a line on `errors` that names file, line and fault.
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors);

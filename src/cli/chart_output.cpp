@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "astro/angles.h"
+#include "wheel/ascii_chart.h"
 
 namespace tolvanis {
 namespace {
@@ -113,6 +114,15 @@ std::string ChartAsText(const CurrentChart& chart, const Options& options) {
     DataBuffer buffer;
     WriteChart(buffer, chart, options);
     buffer.AppendBlankLine();  // as every showing in the window does
+    return buffer.ListingText("\n");
+}
+
+std::string ChartAsAscii(const CurrentChart& chart) {
+    DataBuffer buffer;
+    buffer.StartListing();
+    buffer.AppendBlankLine();
+    WriteAsciiChart(buffer, MakeWheelSnapshot(chart.natal, chart.positions));
+    buffer.AppendBlankLine();
     return buffer.ListingText("\n");
 }
 

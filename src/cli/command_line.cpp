@@ -1,13 +1,12 @@
 #include "cli/command_line.h"
 
 #include <array>
-#include <functional>
 
 namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--place FILE:CITY] [--houses CODE] [--format text|json]\n"
+    "                      [--place FILE:CITY] [--houses CODE] [--format text|json|ascii]\n"
     "                      [--app-dir DIR] [--output FILE]\n"
     "\n"
     "Computes natal charts and prints them.\n"
@@ -28,7 +27,8 @@ const std::string_view kUsage =
     "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
-    "  --format FORMAT  text (the listing) or json (one object a line)\n"
+    "  --format FORMAT  text (the listing), json (one object a line) or\n"
+    "                   ascii (the wheel drawn in characters)\n"
     "  --app-dir DIR    the directory that holds OPTIONS.OPT\n"
     "  --output FILE    write there instead of to standard output\n"
     "  --help           print this and end\n"
@@ -39,66 +39,32 @@ const std::string_view kUsage =
 
 namespace {
 
-Result<void> SetHouses(ChartRequest& request, const std::string& code) {
-    request.houses = HouseSystemOfCode(code);
-    if (!request.houses) return Fault{"unknown house system \"" + code + "\" (P R K C O EA EM M I)"};
-    return {};
-}
-
-Result<void> SetFormat(ChartRequest& request, const std::string& format) {
-    if (format == "text") {
-        request.format = OutputFormat::Text;
-    } else if (format == "json") {
-        request.format = OutputFormat::Json;
-    } else {
-        return Fault{"unknown format \"" + format + "\" (text or json)"};
-    }
-    return {};
-}
-
-Result<void> SetPlace(ChartRequest& request, const std::string& place) {
-    const std::size_t colon = place.rfind(':');
-    if (colon == std::string::npos || colon == 0 || colon + 1 == place.size()) {
-        return Fault{"--place needs FILE:CITY, not \"" + place + "\""};
-    }
-    request.place = PlaceRequest{place.substr(0, colon), place.substr(colon + 1)};
-    return {};
-}
-
-struct Option {
+struct FormatName {
     std::string_view name;
-    Result<void> (*set)(ChartRequest&, const std::string&);
+    OutputFormat format;
 };
+constexpr std::array kFormats = {FormatName{"text", OutputFormat::Text},
+                                 FormatName{"json", OutputFormat::Json},
+                                 FormatName{"ascii", OutputFormat::Ascii}};
 
-template <std::optional<std::string> ChartRequest::*member>
-Result<void> Set(ChartRequest& request, const std::string& value) {
-    request.*member = value;
-    return {};
-}
-
-constexpr std::array kOptions = {
-    Option{"--birth", Set<&ChartRequest::birth>},
-    Option{"--names", Set<&ChartRequest::namesFile>},
-    Option{"--name", Set<&ChartRequest::name>},
-    Option{"--place", SetPlace},
-    Option{"--houses", SetHouses},
-    Option{"--format", SetFormat},
-    Option{"--app-dir", Set<&ChartRequest::appDirectory>},
-    Option{"--output", Set<&ChartRequest::output>},
-};
-
-const Option* FindOption(std::string_view name) {
-    for (const Option& option : kOptions) {
-        if (option.name == name) return &option;
+Result<void> SetFormat(ChartRequest& request, const std::string& name) {
+    for (const FormatName& known : kFormats) {
+        if (known.name != name) continue;
+        request.format = known.format;
+        return {};
     }
-    return nullptr;
+    return Fault{"unknown format \"" + name + "\" (text, json or ascii)"};
 }
 
-Result<void> CheckTogether(const ChartRequest& request, bool now) {
-    const int sources = int{now} + int{request.birth.has_value()} + int{request.namesFile.has_value()};
-    if (sources > 1) return Fault{"only one of --now, --birth and --names can be given"};
-    if (request.name && !request.namesFile) return Fault{"--name needs --names"};
-    if (request.place && request.namesFile) return Fault{"--place goes with --birth or --now only"};
+Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {
+    const Result<bool> taken = TakeBirthArgument(reader, request);
+    if (!taken) return Fault{taken.message()};
+    if (*taken) return {};
+    if (reader.name() != "--format" && reader.name() != "--output") return reader.Unknown();
+    const Result<std::string> value = reader.Value();
+    if (!value) return Fault{value.message()};
+    if (reader.name() == "--format") return SetFormat(request, *value);
+    request.output = *value;
     return {};
 }
 
@@ -106,35 +72,13 @@ Result<void> CheckTogether(const ChartRequest& request, bool now) {
 
 Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> arguments) {
     ChartRequest request;
-    bool now = false;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        std::string_view argument = arguments[i];
-        if (argument == "--now") {
-            now = true;
-            continue;
-        }
-        if (argument == "--help" || argument == "-h") {
-            request.help = true;
-            return request;
-        }
-        if (argument == "--version") {
-            request.version = true;
-            return request;
-        }
-        const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string_view::npos;
-        const Option* option = FindOption(argument.substr(0, equals));
-        if (option == nullptr) return Fault{"unknown argument \"" + std::string(argument) + "\""};
-        std::string value;
-        if (equals != std::string_view::npos) {
-            value = argument.substr(equals + 1);
-        } else if (i + 1 < arguments.size()) {
-            value = arguments[++i];
-        } else {
-            return Fault{std::string(argument) + " needs a value"};
-        }
-        if (const Result<void> set = option->set(request, value); !set) return Fault{set.message()};
+    for (ArgumentReader reader(arguments); reader.Next();) {
+        request.help = reader.name() == "--help" || reader.name() == "-h";
+        request.version = reader.name() == "--version";
+        if (request.help || request.version) return request;
+        if (const Result<void> taken = TakeArgument(reader, request); !taken) return Fault{taken.message()};
     }
-    if (const Result<void> together = CheckTogether(request, now); !together)
+    if (const Result<void> together = CheckBirthArguments(request); !together)
         return Fault{together.message()};
     return request;
 }

@@ -6,27 +6,14 @@
 #include <string>
 #include <string_view>
 
-#include "chart/house_system.h"
-#include "platform/result.h"
+#include "app/birth_arguments.h"
 
 namespace tolvanis {
 
-enum class OutputFormat { Text, Json };
+enum class OutputFormat { Text, Json, Ascii };
 
-// A place of a cities file.
-struct PlaceRequest {
-    std::string file;
-    std::string city;  // or "city,region"
-};
-
-struct ChartRequest {
-    std::optional<std::string> birth;  // one record in the names-file form
-    std::optional<std::string> namesFile;
-    std::optional<std::string> name;  // of one record of the names file
-    std::optional<PlaceRequest> place;
-    std::optional<HouseSystem> houses;  // else the one that option 27 names
+struct ChartRequest : BirthArguments {
     OutputFormat format = OutputFormat::Text;
-    std::optional<std::string> appDirectory;
     std::optional<std::string> output;  // else standard output
     bool help = false;
     bool version = false;

@@ -239,6 +239,13 @@ double TouchingStep(const Cell& a, const Cell& b, const SinCos& ray) {
     return across * y < down * x ? across / x : down / y;
 }
 
+// A cell that leaves a little room around a text's ink.
+Cell InkCell(const TextMeasure& measure, std::string_view text, TextFont font) {
+    constexpr double kRoom = 1.8;
+    const TextBox box = measure.Measure(text, font);
+    return {box.inkRight - box.inkLeft + kRoom, box.inkBottom - box.inkTop + kRoom};
+}
+
 bool IsDigit(const LabelPart& part) {
     return part.text[0] >= '0' && part.text[0] <= '9';
 }
@@ -274,12 +281,11 @@ std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& mea
                                                 ColourOf(plan.options, plan.form.planetColour))};
     std::vector<LabelPart> items = LabelItems(plan, glyph);
     if (style == LabelStyle::Rows) items = JoinNumbers(std::move(items), ReadsInwards(plan, glyph));
-    Cell last = steps.glyph;
+    Cell last = style == LabelStyle::Rows ? InkCell(measure, texts[0].text, texts[0].font) : steps.glyph;
     for (LabelPart& item : items) {
         Cell cell = IsGlyph(item) ? steps.glyph : steps.digit;
         if (style == LabelStyle::Rows) {
-            const TextBox box = measure.Measure(item.text, item.font);
-            cell = {box.inkRight - box.inkLeft + 2.2, box.inkBottom - box.inkTop + 2.2};
+            cell = InkCell(measure, item.text, item.font);
             const double step = TouchingStep(last, cell, ray);
             place = {place.x - step * ray.cos, place.y - step * ray.sin};
         } else {
@@ -293,7 +299,7 @@ std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& mea
 }
 
 bool Meet(const std::vector<Extent>& a, const std::vector<Extent>& b) {
-    constexpr double kBetweenLabels = 1.0;
+    constexpr double kBetweenLabels = 0.3;
     return std::ranges::any_of(a, [&](const Extent& one) {
         return std::ranges::any_of(b, [&](const Extent& two) { return Overlap(one, two, kBetweenLabels); });
     });

@@ -1,0 +1,159 @@
+#include "app/birth_arguments.h"
+
+#include "birthdata/cities_file.h"
+#include "birthdata/name_record.h"
+#include "platform/clock.h"
+#include "text/columns.h"
+#include "text/fields.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+Result<void> SetHouses(BirthArguments& births, const std::string& code) {
+    births.houses = HouseSystemOfCode(code);
+    if (!births.houses) return Fault{"unknown house system \"" + code + "\" (P R K C O EA EM M I)"};
+    return {};
+}
+
+Result<void> SetPlace(BirthArguments& births, const std::string& place) {
+    const std::size_t colon = place.rfind(':');
+    if (colon == std::string::npos || colon == 0 || colon + 1 == place.size()) {
+        return Fault{"--place needs FILE:CITY, not \"" + place + "\""};
+    }
+    births.place = PlaceRequest{place.substr(0, colon), place.substr(colon + 1)};
+    return {};
+}
+
+template <std::optional<std::string> BirthArguments::*member>
+Result<void> Set(BirthArguments& births, const std::string& value) {
+    births.*member = value;
+    return {};
+}
+
+struct BirthArgument {
+    std::string_view name;
+    Result<void> (*set)(BirthArguments&, const std::string&);
+};
+constexpr std::array kBirthArguments = {
+    BirthArgument{"--birth", Set<&BirthArguments::birth>},
+    BirthArgument{"--names", Set<&BirthArguments::namesFile>},
+    BirthArgument{"--name", Set<&BirthArguments::name>},
+    BirthArgument{"--place", SetPlace},
+    BirthArgument{"--houses", SetHouses},
+    BirthArgument{"--app-dir", Set<&BirthArguments::appDirectory>},
+};
+
+void TakeRecord(const NameRecord& record, const std::string& source, EntryReceiver& receiver) {
+    const Result<NatalEntry> entry = EntryFromRecord(record);
+    if (!entry) return receiver.Refuse(source, entry.message());
+    receiver.Take(*entry, source);
+}
+
+void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
+    const std::string& file = *births.namesFile;
+    LineReader reader{PathFromText(file)};
+    bool found = false;
+    for (std::string line; receiver.WantsMore() && !found && reader.Next(line);) {
+        const std::string source = file + ":" + std::to_string(reader.LineNumber());
+        const Result<NameRecord> record = ParseNameRecord(line);
+        if (record && record->name.empty()) break;  // ends the list
+        if (births.name && (!record || record->name != *births.name)) continue;
+        if (record) {
+            TakeRecord(*record, source, receiver);
+        } else {
+            receiver.Refuse(source, record.message());
+        }
+        found = births.name.has_value();
+    }
+    if (!reader.IsOpen()) {
+        receiver.Refuse(file, "cannot be read: " + reader.Problem());
+    } else if (births.name && !found) {
+        receiver.Refuse(file, "there is no record with the name \"" + *births.name + "\"");
+    }
+}
+
+// The place that was asked for; the file is looked up as given, then in the application directory.
+Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const Path& appDirectory) {
+    if (!births.place) return std::optional<Place>();
+    const Path asGiven = PathFromText(births.place->file);
+    const Path file = IsReadableFile(asGiven) ? asGiven : FindFile(appDirectory, births.place->file);
+    const Result<CityRecord> city = FindCity(file, ToUtf8(births.place->city));
+    if (!city) return Fault{births.place->file + ": " + city.message()};
+    return std::optional<Place>(PlaceOfCity(*city));
+}
+
+// The entry of a birth given as a record. With a place the record's own one is not read and may be missing.
+Result<NatalEntry> EntryOfBirth(const std::string& birth, const std::optional<Place>& place) {
+    constexpr std::size_t kFieldsBeforePlace = 4;
+    std::string line = ToUtf8(birth);
+    if (place && SplitFields(line).size() == kFieldsBeforePlace) line += ",,,";
+    Result<NameRecord> record = ParseNameRecord(line);
+    if (!record) return Fault{record.message()};
+    if (record->name.empty()) return Fault{"the name is empty"};
+    if (place) record->timeZone = record->longitude = record->latitude = "0";
+    Result<NatalEntry> entry = EntryFromRecord(*record);
+    if (entry && place) FillPlace(*entry, *place);
+    return entry;
+}
+
+NatalEntry EntryOfNow(const Options& options, const std::optional<Place>& place) {
+    const LocalTime now = place ? PresentMomentInZone(LeadingNumber(place->timeZone)) : PresentMoment();
+    NatalEntry entry = FillNow(now, options);
+    if (place) FillPlace(entry, *place);
+    return entry;
+}
+
+}  // namespace
+
+bool ArgumentReader::Next() {
+    if (rest_.empty()) return false;
+    argument_ = rest_.front();
+    rest_ = rest_.subspan(1);
+    name_ = argument_.starts_with("--") ? argument_.substr(0, argument_.find('=')) : argument_;
+    return true;
+}
+
+Result<std::string> ArgumentReader::Value() {
+    if (name_.size() < argument_.size()) return std::string(argument_.substr(name_.size() + 1));
+    if (rest_.empty()) return Fault{std::string(argument_) + " needs a value"};
+    const std::string value(rest_.front());
+    rest_ = rest_.subspan(1);
+    return value;
+}
+
+Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births) {
+    if (reader.name() == "--now") {
+        births.now = true;
+        return true;
+    }
+    for (const BirthArgument& argument : kBirthArguments) {
+        if (argument.name != reader.name()) continue;
+        const Result<std::string> value = reader.Value();
+        if (!value) return Fault{value.message()};
+        const Result<void> set = argument.set(births, *value);
+        return set ? Result<bool>(true) : Result<bool>(Fault{set.message()});
+    }
+    return false;
+}
+
+Result<void> CheckBirthArguments(const BirthArguments& births) {
+    const int sources = int{births.now} + int{births.birth.has_value()} + int{births.namesFile.has_value()};
+    if (sources > 1) return Fault{"only one of --now, --birth and --names can be given"};
+    if (births.name && !births.namesFile) return Fault{"--name needs --names"};
+    if (births.place && births.namesFile) return Fault{"--place goes with --birth or --now only"};
+    return {};
+}
+
+void ReadBirths(const BirthArguments& births, const Options& options, const Path& appDirectory,
+                EntryReceiver& receiver) {
+    if (births.namesFile) return ReadNamesFile(births, receiver);
+    const Result<std::optional<Place>> place = RequestedPlace(births, appDirectory);
+    if (!place) return receiver.Refuse("--place", place.message());
+    if (!births.birth) return receiver.Take(EntryOfNow(options, *place), "--now");
+    const Result<NatalEntry> entry = EntryOfBirth(*births.birth, *place);
+    if (!entry) return receiver.Refuse("--birth", entry.message());
+    receiver.Take(*entry, "--birth");
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,72 @@
+#pragma once
+// The arguments that name a birth, as both programs take them, and the entries that they stand for.
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "birthdata/natal_entry.h"
+#include "chart/house_system.h"
+#include "platform/files.h"
+#include "platform/result.h"
+
+namespace tolvanis {
+
+enum ExitStatus : int { kAllComputed = 0, kSomethingRefused = 1, kWrongUsage = 2 };
+
+// A place of a cities file.
+struct PlaceRequest {
+    std::string file;
+    std::string city;  // or "city,region"
+};
+
+// With neither birth nor names file, the present moment.
+struct BirthArguments {
+    bool now = false;
+    std::optional<std::string> birth;  // one record in the names-file form
+    std::optional<std::string> namesFile;
+    std::optional<std::string> name;  // of one record of the names file
+    std::optional<PlaceRequest> place;
+    std::optional<HouseSystem> houses;  // else the one that option 27 names
+    std::optional<std::string> appDirectory;
+};
+
+// Walks through arguments of the forms "--name value" and "--name=value".
+class ArgumentReader {
+  public:
+    explicit ArgumentReader(std::span<const std::string_view> arguments) : rest_(arguments) {}
+
+    bool Next();
+    std::string_view name() const { return name_; }
+    // The value of the present argument; a fault when there is none.
+    Result<std::string> Value();
+    Fault Unknown() const { return {"unknown argument \"" + std::string(argument_) + "\""}; }
+
+  private:
+    std::span<const std::string_view> rest_;
+    std::string_view argument_;
+    std::string_view name_;
+};
+
+// Takes the reader's present argument when it is one of these. Returns whether it was; a fault says what is
+// wrong with its value.
+Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births);
+
+// A fault when the arguments do not go together.
+Result<void> CheckBirthArguments(const BirthArguments& births);
+
+// Receives the entries one by one; `source` says where each comes from, for messages.
+class EntryReceiver {
+  public:
+    virtual ~EntryReceiver() = default;
+    virtual void Take(const NatalEntry& entry, const std::string& source) = 0;
+    virtual void Refuse(const std::string& source, const std::string& fault) = 0;
+    virtual bool WantsMore() const = 0;
+};
+
+// Reads the births that the arguments name, holding one at a time.
+void ReadBirths(const BirthArguments& births, const Options& options, const Path& appDirectory,
+                EntryReceiver& receiver);
+
+}  // namespace tolvanis

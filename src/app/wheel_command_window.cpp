@@ -1,0 +1,42 @@
+#include "app/wheel_command_window.h"
+
+#include <QGuiApplication>
+#include <iostream>
+
+#include "app/desktop_arguments.h"
+#include "platform/qt/symbol_font.h"
+#include "wheel/wheel_export_window.h"
+
+namespace tolvanis {
+namespace {
+
+ExitStatus Refuse(const std::string& fault) {
+    std::cerr << "tolvanis: " << fault << "\n";
+    return kSomethingRefused;
+}
+
+}  // namespace
+
+ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments) {
+    const Result<WheelArguments> wheel = ParseWheelArguments(arguments);
+    if (!wheel) {
+        std::cerr << "tolvanis: " << wheel.message() << "\n\n" << kDesktopUsage;
+        return kWrongUsage;
+    }
+    const Result<WheelPicture> picture = PrepareWheel(*wheel);
+    if (!picture) return Refuse(picture.message());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argumentCount = 1;
+    const QGuiApplication application(argumentCount, programArguments);
+    if (!LoadSymbolFont(picture->applicationDirectory)) {
+        return Refuse("the symbol font HORARY.ttf cannot be loaded from " +
+                      picture->applicationDirectory.string());
+    }
+    const double size = wheel->size;
+    const Result<void> written =
+        ExportWheel({picture->chart, picture->data, picture->options, wheel->type, size, size},
+                    PathFromText(wheel->file));
+    return written ? kAllComputed : Refuse(written.message());
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,15 @@
+#pragma once
+// Running the command that writes a chart wheel as a picture.
+
+#include <span>
+#include <string_view>
+
+#include "app/wheel_command.h"
+
+namespace tolvanis {
+
+// Does what the arguments ask for without opening a window or needing a display. Faults go to standard error.
+// `programArguments` are those of main().
+ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments);
+
+}  // namespace tolvanis

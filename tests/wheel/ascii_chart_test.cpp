@@ -1,0 +1,89 @@
+// The chart in characters.
+#include "wheel/ascii_chart.h"
+
+#include <gmock/gmock.h>
+
+#include "wheel/wheel_support.h"
+
+namespace tolvanis {
+namespace {
+
+// The text at a row and column, both counted from 1, the column from behind the margin.
+std::string At(const std::array<std::string, kAsciiRows>& rows, int row, int column, std::size_t length = 7) {
+    return rows[static_cast<std::size_t>(row - 1)].substr(static_cast<std::size_t>(column + 4), length);
+}
+
+// All points together in the first house: eleven of them are written, the nodes' places stay empty.
+TEST(AsciiChart, DrawsToTheCharacter) {
+    const std::array<std::string, kAsciiRows> expected = {
+        "                 07 AQU             07 CAP             07 SAG                  ",
+        "         *                            *                            *           ",
+        "            *                         *                         *              ",
+        "               *                      *                      *                 ",
+        "     07 PIS       *                   *                   *        07 SCO      ",
+        "          *          *                *                *          *            ",
+        "              *         *             *             *         *                ",
+        "                  *        *          *          *        *                    ",
+        "                      *       *       *       *       *                        ",
+        "                          *      * ** * ** *      *                            ",
+        "                              *               *                                ",
+        "                             *                 *                               ",
+        "     07 ARI ******************                 ******************* 07 LIB      ",
+        "        PF08Ari              *                 *                               ",
+        "                 NE08Ari      *               *                                ",
+        "                 UR08Ari  *      * ** * ** *      *                            ",
+        "        MO08Ari       *SU08Ari*       *       *       *                        ",
+        "        PL08Ari   *        *          *          *        *                    ",
+        "              *  SA08Ari*             *             *         *                ",
+        "          *    JU08Ari                *                *          *            ",
+        "     07 TAU    MA08Ari                *                   *        07 VIR      ",
+        "               VE08Ari                *                      *                 ",
+        "            *  ME08Ari                *                         *              ",
+        "         *                            *                            *           ",
+        "                 07 GEM             07 CAN             07 LEO                  ",
+    };
+    WheelSnapshot chart = EqualHouses(7.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 8.0);
+    const auto rows = DrawAsciiChart(chart);
+    for (std::size_t row = 0; row < rows.size(); ++row) EXPECT_EQ(rows[row], expected[row]) << row + 1;
+}
+
+TEST(AsciiChart, HighestLongitudeTakesTheFirstPlaceAndLateLonersTheFifth) {
+    WheelSnapshot chart = EqualHouses(0.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 35.0 + 0.1 * point);
+    Put(chart, kSun, 5.5);  // alone with the Moon in the first house
+    Put(chart, kMoon, 10.0);
+    Put(chart, kVenus, 100.0);  // alone in the fourth, early
+    Put(chart, kMars, 145.0);   // alone in the fifth, late: slot 5 of the wheel
+    const auto rows = DrawAsciiChart(chart);
+    EXPECT_EQ(At(rows, 14, 4), "MO10Ari");
+    EXPECT_EQ(At(rows, 15, 4), "SU05Ari");
+    EXPECT_EQ(At(rows, 24, 36), "VE10Can");
+    EXPECT_EQ(At(rows, 19, 49), "MA25Leo");
+}
+
+TEST(AsciiChart, CrowdedHousesLeaveOutNodesAndRunOn) {
+    WheelSnapshot chart = EqualHouses(0.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 330.5 + point);  // the twelfth
+    Put(chart, kSouthNode, 161.0);
+    const auto rows = DrawAsciiChart(chart);
+    std::string all;
+    for (const std::string& row : rows) all += row;
+    EXPECT_THAT(all, ::testing::Not(::testing::HasSubstr("NN")));
+    EXPECT_THAT(all, ::testing::HasSubstr("SN11Vir"));
+    EXPECT_EQ(At(rows, 8, 4), "PF13Pis");
+    EXPECT_EQ(At(rows, 10, 4), "MO10Pis") << "the node's place stays empty";
+    EXPECT_EQ(At(rows, 14, 4), "JU05Pis") << "runs on into the first house's places";
+    EXPECT_EQ(At(rows, 18, 4), "SU01Pis");
+}
+
+TEST(AsciiChart, AllInOneHouseEnds) {
+    for (int house = 1; house <= 12; ++house) {
+        WheelSnapshot chart = EqualHouses(0.0);
+        for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 30.0 * (house - 1) + point);
+        EXPECT_EQ(DrawAsciiChart(chart).size(), 25u);
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis

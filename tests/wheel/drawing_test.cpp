@@ -1,0 +1,218 @@
+// The wheel's geometry and colours, on a surface that records them.
+#include "wheel/wheel_drawing.h"
+
+#include <gmock/gmock.h>
+
+#include "wheel/symbols.h"
+#include "wheel/wheel_page.h"
+#include "wheel/wheel_support.h"
+
+namespace tolvanis {
+namespace {
+
+struct DrawingTest : ::testing::Test {
+    Options options = DeliveredOptions();
+    WheelData data = DeliveredWheelData();
+    WheelSnapshot chart = SpreadChart(100.0);
+    RecordingSurface surface;
+
+    RecordingSurface& Draw(ChartType type, bool halfPage = false) {
+        surface = {};
+        DrawWheel(surface, {chart, data, options, type, 800.0, 800.0, halfPage});
+        return surface;
+    }
+    bool HasLine(Point from, Point to) const {
+        return std::ranges::any_of(surface.lines, [&](const RecordingSurface::DrawnLine& line) {
+            return std::hypot(line.from.x - from.x, line.from.y - from.y) < 1e-3 &&
+                   std::hypot(line.to.x - to.x, line.to.y - to.y) < 1e-3;
+        });
+    }
+    std::vector<RecordingSurface::DrawnText> Texts(const std::string& text) const {
+        std::vector<RecordingSurface::DrawnText> found;
+        for (const auto& drawn : surface.texts) {
+            if (drawn.text == text) found.push_back(drawn);
+        }
+        return found;
+    }
+    std::vector<int> AspectCodes() const {
+        std::vector<int> codes;
+        for (int code = kConjunction; code <= kSeptile; ++code) {
+            if (!Texts(AspectGlyph(code)).empty()) codes.push_back(code);
+        }
+        return codes;
+    }
+};
+
+TEST(WheelScale, FollowsTheShape) {
+    const struct {
+        double width, height;
+        int scale;
+    } cases[] = {{700, 700, 225}, {1000, 700, 321}, {700, 1000, 244},
+                 {937, 767, 275}, {1, 0, 244},      {90000, 1, 32767}};
+    for (const auto& c : cases)
+        EXPECT_EQ(StartScale(c.width, c.height), c.scale) << c.width << "x" << c.height;
+    const Extent wide = WindowExtent(1000, 700);
+    EXPECT_NEAR(wide.top - wide.bottom, 2 * 225.0 / 0.86, 1.0);
+    EXPECT_NEAR((wide.right - wide.left) / (wide.top - wide.bottom), 1000.0 / 700.0, 1e-9);
+}
+
+TEST_F(DrawingTest, HouseLinesOfBothTypes) {
+    for (int house = 1; house <= 12; ++house)
+        chart.HouseCusps.SetHouse(house, Norm360(100.0 + 30.0 * (house - 1)));
+    chart.HouseCusps.SetHouse(10, 25.0);
+    Draw(ChartType::American);
+    EXPECT_TRUE(HasLine({0, 116.1}, {0, 209.9475}));
+    EXPECT_TRUE(HasLine({-103.9230, -58.05}, {-187.9275, -104.9738}));  // 210
+    EXPECT_TRUE(HasLine({0, 209.9475}, {0, 217}));                      // the rest of the way to the circle
+    Draw(ChartType::European);
+    EXPECT_FALSE(HasLine({0, 116.1}, {0, 209.9475}));
+    EXPECT_TRUE(HasLine({-31.0583, 112.1439}, {-56.1637, 202.7936}));  // 25 - 100 + 180 = 105
+    EXPECT_THAT(surface.circles, ::testing::ElementsAre(217.0, 120.0));
+}
+
+TEST_F(DrawingTest, AspectLinesAreInclusiveAndTheLastMatchWins) {
+    options[2] = options[3] = options[4] = options[5] = options[10] = 5.0F;
+    const struct {
+        double separation;
+        std::vector<int> codes;
+    } cases[] = {{54.9, {}},
+                 {55.0, {kSextile}},
+                 {65.0, {kSextile}},
+                 {65.1, {}},
+                 {95.0, {kSquare}},
+                 {125.0, {kTrine}},
+                 {145.0, {kQuincunx}},
+                 {174.9, {}},
+                 {175.0, {kOpposition}},
+                 {0.0, {}},
+                 {40.0, {}}};
+    for (const auto& c : cases) {
+        chart = EqualHouses(10.0);
+        Put(chart, kSun, 10.0 + c.separation);
+        Draw(ChartType::American);
+        EXPECT_EQ(AspectCodes(), c.codes) << c.separation;
+    }
+    options[4] = 40.0F;  // 90 degrees is now a trine too, and the trine comes later
+    Put(chart, kSun, 100.0);
+    Draw(ChartType::American);
+    EXPECT_THAT(AspectCodes(), ::testing::ElementsAre(kTrine));
+    options[47] = 0.0F;
+    Draw(ChartType::American);
+    EXPECT_THAT(AspectCodes(), ::testing::IsEmpty());
+}
+
+TEST_F(DrawingTest, AspectLinesJoinTheGlyphAngles) {
+    chart = EqualHouses(0.0);
+    Put(chart, kMoon, 90.0);  // first slot of the fourth house, 272 degrees; the others pile up from 180 on
+    Draw(ChartType::American);
+    EXPECT_TRUE(HasLine(OnWheel(180.0, 120.0), OnWheel(272.0, 120.0)));
+}
+
+TEST_F(DrawingTest, HalfPageIsWhiteWithBlackSoftAspects) {
+    options[100] = 3.0F;
+    chart = EqualHouses(0.0);
+    Put(chart, kMoon, 60.0);
+    EXPECT_EQ(Draw(ChartType::American).background, 3);
+    EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, static_cast<int>(options[97]));
+    EXPECT_EQ(Draw(ChartType::American, true).background, kWhite);
+    EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, kBlack);
+}
+
+TEST_F(DrawingTest, CuspLabelsStandWhereTheTablePutsThem) {
+    chart.HouseCusps.SetHouse(10, 5.55);  // 05 Aries 33
+    Draw(ChartType::American);
+    const auto at = [&](int element) {
+        return Point{static_cast<double>(data.cuspLabels[static_cast<std::size_t>(element)]),
+                     static_cast<double>(data.cuspLabels[static_cast<std::size_t>(element + 1)])};
+    };
+    const std::string expected[] = {"0", "5", SignGlyph(1), "3", "3"};
+    for (int part = 0; part < 5; ++part) {
+        EXPECT_TRUE(std::ranges::any_of(surface.texts, [&](const auto& text) {
+            return text.corner == at(2 * part) && text.text == expected[part] && text.font.bold == (part < 2);
+        })) << part;
+    }
+}
+
+TEST_F(DrawingTest, EverySignStandsInTheRingOnce) {
+    // Two cusps in Leo, none in Libra: houses of 5, 55 ... degrees.
+    const double cusps[] = {122, 148, 170, 215, 245, 275, 302, 328, 350, 35, 65, 95};
+    for (int house = 1; house <= 12; ++house) chart.HouseCusps.SetHouse(house, cusps[house - 1]);
+    const std::vector<SignMark> ring = SignRing(chart.HouseCusps, ChartType::American);
+    std::vector<int> signs;
+    for (const SignMark& mark : ring) signs.push_back(mark.sign);
+    std::ranges::sort(signs);
+    EXPECT_THAT(signs, ::testing::ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12));
+    const auto angleOf = [&](int sign) { return std::ranges::find(ring, sign, &SignMark::sign)->angle; };
+    EXPECT_EQ(angleOf(5), 195.0);       // Leo begins with the first house
+    EXPECT_LT(angleOf(6), angleOf(7));  // Virgo and Libra share the third
+    EXPECT_NEAR((angleOf(6) + angleOf(7)) / 2, 255.0, 1e-9);
+    EXPECT_EQ(SignRing(chart.HouseCusps, ChartType::European)[4].angle, 180.0 + 135.0 - 122.0);
+}
+
+TEST_F(DrawingTest, SignsOnTheLeftStandClearOfTheCircle) {
+    chart = SpreadChart(0.0);
+    Draw(ChartType::European);
+    const auto cell = surface.Measure(SignGlyph(1), {double{options[69]}, true});
+    const auto aries = Texts(SignGlyph(1));  // at 195 degrees
+    EXPECT_TRUE(std::ranges::any_of(aries, [&](const auto& text) {
+        return std::abs(text.corner.x - (236.0 * CosDeg(195.0) - 20.0 + (20.0 - cell.width) / 2)) < 1e-9;
+    }));
+}
+
+TEST_F(DrawingTest, LabelsReadDegreesSignMinutesOnBothSides) {
+    chart = EqualHouses(0.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 12.0 * point);
+    Put(chart, kSun, 5.2);     // first house, at the left
+    Put(chart, kMars, 185.2);  // seventh house, at the right; 05 Libra 12
+    chart.IsRetrograde[kMars] = true;
+    chart.IsRetrograde[kNorthNode] = true;
+    const WheelPlan plan{chart, data, options, kScreenForm, ChartType::American, WindowExtent(1, 1)};
+    const auto labels = PlanetLabels(plan, surface, PlaceGlyphs(chart, ChartType::American));
+    for (const int point : {kSun, kMars}) {
+        const auto glyph = std::ranges::find(labels, PointGlyph(point), &WheelText::text);
+        ASSERT_NE(glyph, labels.end());
+        std::vector<WheelText> items(glyph + 1, glyph + 4);
+        std::ranges::sort(items, {}, [](const WheelText& text) { return text.corner.x; });
+        EXPECT_EQ(items[0].text, "05");
+        EXPECT_EQ(items[1].text, SignGlyph(point == kSun ? 1 : 7));
+        EXPECT_EQ(items[2].text, "12");
+        EXPECT_EQ(glyph->corner.x < items[0].corner.x, point == kSun) << "the glyph stands at the outside";
+    }
+    EXPECT_EQ(std::ranges::count(labels, "R", &WheelText::text), 1) << "nodes carry no mark";
+}
+
+TEST(PrintedPage, ExtentHasTheWheelAboveTheMiddle) {
+    const Extent american = PageExtent(8.0, 10.0, 0);
+    EXPECT_NEAR(american.left, 16.0 - 265.0, 1e-9);
+    EXPECT_NEAR(american.right, 16.0 + 265.0, 1e-9);
+    EXPECT_NEAR(american.top, 1.25 * 265.0 - 67.0, 1e-9);
+    EXPECT_NEAR(american.bottom, -1.25 * 265.0 - 67.0, 1e-9);
+    EXPECT_NEAR(PageExtent(8.0, 10.0, 2).right, 16.0 + 272.0, 1e-9);
+    const Extent squat = PageExtent(10.0, 10.0, 0);
+    EXPECT_NEAR(squat.top - squat.bottom, 2.5 * 265.0, 1e-9) << "a squat page still shows the blocks below";
+}
+
+TEST_F(DrawingTest, PageBlocksFollowTheirOptions) {
+    const auto draw = [&] {
+        surface = {};
+        PageRequest page{chart, data, options, 0, {"Ann Smith, Astrologer"}};
+        page.orbs.fill(1.0F);
+        DrawPage(surface, page);
+    };
+    draw();
+    const auto block = Texts("Ann Smith, Astrologer");
+    ASSERT_EQ(block.size(), 1u);
+    EXPECT_NEAR(block[0].corner.x + surface.Measure(block[0].text, block[0].font).width / 2, 16.0, 1e-9);
+    const std::size_t withGrid = surface.lines.size();
+    options[178] = 0.0F;
+    draw();
+    EXPECT_EQ(withGrid - surface.lines.size(), 32u);
+    const ScratchDirectory directory;
+    directory.Write("personal.nam", "Ann\r\n\r\n");
+    EXPECT_THAT(ReadPersonalLines(directory.path(), options), ::testing::ElementsAre("Ann"));
+    options[174] = 0.0F;
+    EXPECT_THAT(ReadPersonalLines(directory.path(), options), ::testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace tolvanis

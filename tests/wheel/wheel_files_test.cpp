@@ -1,0 +1,129 @@
+// The wheel's files: its tables and the orbs, whole, short, long and damaged.
+#include <gmock/gmock.h>
+
+#include "aspects/orbs_file.h"
+#include "wheel/aspect_list.h"
+#include "wheel/symbols.h"
+#include "wheel/wheel_support.h"
+
+namespace tolvanis {
+namespace {
+
+std::string Numbers(int count, const char* separator) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += std::to_string(i - 50) + separator;
+    return text;
+}
+
+TEST(WheelTables, ReadAnySeparatorAndStopAtTheirEnd) {
+    const ScratchDirectory directory;
+    directory.Write("hcdata.dat", Numbers(60, ",") + "\r\n" + Numbers(90, "\n"));
+    directory.Write("RADIUS.DAT", Numbers(400, " ,\r\n"));
+    const auto data = ReadWheelData(directory.path());
+    ASSERT_TRUE(data) << data.message();
+    EXPECT_EQ(data->cuspLabels[59], 9);
+    EXPECT_EQ(data->cuspLabels[60], -50);
+    EXPECT_EQ(data->cuspLabels[120], 10);
+    EXPECT_EQ(data->radius[360], 310);
+}
+
+TEST(WheelTables, MissingAndShortFilesAreNamed) {
+    const ScratchDirectory directory;
+    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("HCDATA.DAT"));
+    directory.Write("HCDATA.DAT", Numbers(120, "\n"));
+    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("RADIUS.DAT"));
+    directory.Write("RADIUS.DAT", Numbers(360, "\n"));
+    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("360 numbers"));
+}
+
+TEST(WheelTables, DeliveredGlyphsLieInTheRingAndLabelsOutsideTheCircle) {
+    const WheelData data = DeliveredWheelData();
+    for (const int radius : data.radius) {
+        EXPECT_GT(radius, 190);
+        EXPECT_LE(radius, 217);
+    }
+    for (std::size_t i = 0; i < 120; i += 2) {
+        EXPECT_GT(std::hypot(data.cuspLabels[i], data.cuspLabels[i + 1]), kOuterRadius) << i;
+    }
+}
+
+TEST(OrbsFile, ReadsLinesUpToTheFirstEmptyOne) {
+    const ScratchDirectory directory;
+    std::string seventeen;
+    for (int i = 1; i <= 17; ++i) seventeen += std::to_string(i) + ".5\r\n";
+    const struct {
+        const char* what;
+        std::string content;
+        bool good;
+        float second, third, last;  // slots 2, 3 and 17; 99 is what they held before
+    } cases[] = {
+        {"a label behind the number", "8.0    conjunction\r\n6.5 sextile\r\n", true, 6.5F, 99.0F, 99.0F},
+        {"an empty third line", "8\r\n7\r\n\r\n6\r\n", true, 7.0F, 99.0F, 99.0F},
+        {"seventeen", seventeen, true, 2.5F, 3.5F, 17.5F},
+        {"eighteen behind an empty line", seventeen + "\r\n1\r\n", true, 2.5F, 3.5F, 17.5F},
+        {"letters", "eight\r\nsix\r\n", true, 0.0F, 99.0F, 99.0F},
+        {"only seven characters count", "1\r\n  12.3456789\r\n", true, 12.34F, 99.0F, 99.0F},
+        {"empty", "", true, 99.0F, 99.0F, 99.0F},
+        {"eighteen", seventeen + "1\r\n", false, 0, 0, 0},
+    };
+    for (const auto& c : cases) {
+        directory.Write("T.ORB", c.content);
+        OrbTable orbs;
+        orbs.fill(99.0F);
+        const auto read = ReadOrbsFile(directory / "t.orb", orbs);
+        EXPECT_EQ(static_cast<bool>(read), c.good) << c.what;
+        if (!c.good) {
+            EXPECT_THAT(read.message(), ::testing::HasSubstr("18 lines")) << c.what;
+            continue;
+        }
+        EXPECT_FLOAT_EQ(orbs[2], c.second) << c.what;
+        EXPECT_FLOAT_EQ(orbs[3], c.third) << c.what;
+        EXPECT_FLOAT_EQ(orbs[17], c.last) << c.what;
+    }
+    OrbTable orbs;
+    EXPECT_THAT(ReadOrbsFile(directory / "NONE.ORB", orbs).message(), ::testing::HasSubstr("NONE.ORB"));
+}
+
+TEST(AspectList, EveryAspectTwiceAndTheConjunctionWins) {
+    WheelSnapshot chart;
+    for (int point = 1; point <= kChartPointCount; ++point) chart.PointLongitude[point] = 23.0 * point;
+    OrbTable orbs{};
+    EXPECT_EQ(ListAspects(chart, orbs).size(), 0u);
+    chart.PointLongitude[kMoon] = chart.PointLongitude[kSun] + 0.5;
+    orbs[1] = 8.0F;
+    orbs[7] = 40.0F;  // a semi-sextile that reaches everything near
+    const auto aspects = ListAspects(chart, orbs);
+    ASSERT_FALSE(aspects.empty());
+    EXPECT_EQ(aspects[0].first, kSun);
+    EXPECT_EQ(aspects[0].second, kMoon);
+    EXPECT_EQ(aspects[0].code, kConjunction);
+    EXPECT_EQ(aspects.size() % 2, 0u);
+    EXPECT_TRUE(AspectListText(aspects).starts_with(
+        "  " + PointGlyph(kSun) + " " + AspectGlyph(kConjunction) + " " + PointGlyph(kMoon) + "\n"));
+}
+
+TEST(AspectList, SeptileAndOppositionAtTheirBounds) {
+    const struct {
+        double separation;
+        int slot;
+        float orb;
+        int code;
+    } cases[] = {{51.5, 16, 0.1F, kSeptile},
+                 {52.0, 16, 0.1F, 0},
+                 {178.0, 5, 2.0F, kOpposition},
+                 {177.9, 5, 2.0F, 0},
+                 {144.0, 15, 0.0F, kBiQuintile}};
+    for (const auto& c : cases) {
+        WheelSnapshot chart;
+        chart.PointLongitude[kMoon] = c.separation;
+        OrbTable orbs{};
+        orbs.fill(-1.0F);
+        orbs[static_cast<std::size_t>(c.slot)] = c.orb;
+        const auto aspects = ListAspects(chart, orbs);
+        const auto moon = std::ranges::find(aspects, kMoon, &ListedAspect::first);
+        EXPECT_EQ(moon == aspects.end() ? 0 : moon->code, c.code) << c.separation;
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis

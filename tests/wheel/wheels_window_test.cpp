@@ -1,0 +1,257 @@
+// The wheel window as its user meets it, and pictures of charts that are not in the program.
+#include "wheel/wheels_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "platform/qt/symbol_font.h"
+#include "wheel/symbols.h"
+#include "wheel/wheel_export_window.h"
+#include "wheel/wheel_page.h"
+#include "wheel/wheel_support.h"
+
+namespace tolvanis {
+namespace {
+
+class AnsweringDialogs : public FileDialogs {
+  public:
+    std::string answer;  // empty cancels
+    std::string ChooseFile(const std::string&, const std::string&) override { return answer; }
+    std::string ChooseSaveFile(const SaveRequest&) override { return answer; }
+};
+
+void CopyAppFiles(const ScratchDirectory& directory) {
+    for (const char* name : {"NATAL.ORB", "HCDATA.DAT", "RADIUS.DAT"}) {
+        std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/") + name, directory / name);
+    }
+    for (const char* name : {"HORARY.ttf", "HORARY-Bold.ttf"}) {
+        std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/../fonts/") + name, directory / name);
+    }
+}
+
+struct WheelsTest : ::testing::Test {
+    ScratchDirectory directory;
+    RecordingMessages messages;
+    AnsweringDialogs dialogs;
+    Options options = DeliveredOptions();
+    WheelData data = DeliveredWheelData();
+    WheelSnapshot chart = SnapshotOf("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45");
+    WheelContext context{data, options, directory.path(), {dialogs, messages, directory.path()}};
+
+    void SetUp() override { CopyAppFiles(directory); }
+
+    static QAction& Item(Wheels& wheels, const char* name) {
+        auto* action = wheels.findChild<QAction*>(QLatin1String(name));
+        if (action == nullptr) throw std::runtime_error(std::string("no item ") + name);
+        return *action;
+    }
+};
+
+TEST_F(WheelsTest, MenuAndCaption) {
+    Wheels wheels(chart, context, 1);
+    EXPECT_EQ(wheels.windowTitle().toStdString(), "Natal Chartwheel Ann Smith");
+    QStringList captions;
+    for (const QAction* action : wheels.menuBar()->actions()) captions += action->text();
+    EXPECT_EQ(captions.join(QLatin1Char(' ')).toStdString(),
+              "AS&CII &Aspects &Orbs &Print &Type &Help &Export");
+    EXPECT_TRUE(Item(wheels, "mnuCTEuropean").isChecked());
+    QSignalSpy changed(&wheels, &Wheels::typeChartChanged);
+    for (int again = 0; again < 2; ++again) {
+        Item(wheels, "mnuCTAmerican").trigger();
+        EXPECT_TRUE(Item(wheels, "mnuCTAmerican").isChecked());
+        EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
+    }
+    EXPECT_EQ(changed.takeLast().at(0).toInt(), 0);
+}
+
+TEST_F(WheelsTest, TypesOtherThanOneAreAmerican) {
+    Wheels wheels(chart, context, 7);
+    EXPECT_TRUE(Item(wheels, "mnuCTAmerican").isChecked());
+    EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
+}
+
+TEST_F(WheelsTest, EscAndTheRightButtonCallTheMainWindow) {
+    Wheels wheels(chart, context, 0);
+    QSignalSpy called(&wheels, &Wheels::mainWindowRequested);
+    QTest::keyClick(&wheels, Qt::Key_A);
+    QTest::mouseClick(&wheels, Qt::LeftButton);
+    EXPECT_EQ(called.count(), 0);
+    QTest::keyClick(&wheels, Qt::Key_Escape);
+    QTest::mouseClick(wheels.centralWidget(), Qt::RightButton);
+    EXPECT_EQ(called.count(), 2);
+}
+
+TEST_F(WheelsTest, ResizingReportsTheScale) {
+    Wheels wheels(chart, context, 0);
+    wheels.show();
+    QSignalSpy scaled(&wheels, &Wheels::startScaleChanged);
+    wheels.centralWidget()->resize(1000, 700);
+    ASSERT_GE(scaled.count(), 1);
+    EXPECT_EQ(scaled.last().at(0).toInt(), 321);
+}
+
+TEST_F(WheelsTest, AspectWindowIsRebuiltFromTheSelectedOrbs) {
+    Wheels wheels(chart, context, 0);
+    Item(wheels, "mnuAspects").trigger();
+    const auto text = [&] { return wheels.aspectWindow()->findChild<QPlainTextEdit*>()->toPlainText(); };
+    EXPECT_TRUE(text().startsWith(QString::fromStdString("  " + PointGlyph(kSun) + " ")));
+    directory.Write(
+        "NONE.ORB",
+        "-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n");
+    dialogs.answer = (directory / "NONE.ORB").string();
+    Item(wheels, "mnuOrbsChange").trigger();
+    EXPECT_EQ(text(), QString());
+    dialogs.answer.clear();
+    Item(wheels, "mnuOrbsChange").trigger();
+    EXPECT_EQ(wheels.orbsFile().filename(), "NONE.ORB") << "cancelling keeps the file";
+    std::filesystem::remove(directory / "NONE.ORB");
+    Item(wheels, "mnuAspects").trigger();
+    EXPECT_EQ(messages.told.size(), 1u);
+}
+
+TEST_F(WheelsTest, PrintsAsAsked) {
+    directory.Write("PERSONAL.NAM", "Jane Doe\r\n");
+    Wheels wheels(chart, context, 1);
+    const Path file = directory / "wheel.pdf";
+    dialogs.answer = file.string();
+    messages.answers = {Answer::Cancel};
+    Item(wheels, "mnuPrintChartwheel").trigger();
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_EQ(messages.told[0].title, "Full page or half page chartwheel");
+    EXPECT_EQ(messages.told[0].text,
+              "Click 'YES' for full page chartwheel. Click 'NO' for half page chartwheel.");
+    for (const Answer answer : {Answer::Yes, Answer::No}) {
+        messages.answers = {answer};
+        Item(wheels, "mnuPrintChartwheel").trigger();
+        EXPECT_TRUE(FileContent(file).starts_with("%PDF"));
+        std::filesystem::remove(file);
+    }
+}
+
+TEST_F(WheelsTest, ExportsByExtension) {
+    Wheels wheels(chart, context, 0);
+    wheels.resize(700, 720);
+    const struct {
+        const char* name;
+        const char* start;
+    } cases[] = {{"a.svg", "<?xml"}, {"a.PDF", "%PDF"}, {"a.png", "\x89PNG"}};
+    for (const auto& c : cases) {
+        dialogs.answer = (directory / c.name).string();
+        Item(wheels, "mnuExport").trigger();
+        EXPECT_TRUE(FileContent(dialogs.answer).starts_with(c.start)) << c.name;
+    }
+    EXPECT_EQ(FileContent(directory / "a.svg").find("<text"), std::string::npos)
+        << "text needs the font installed";
+    dialogs.answer = (directory / "a.gif").string();
+    Item(wheels, "mnuExport").trigger();
+    EXPECT_EQ(messages.told.size(), 1u);
+    EXPECT_FALSE(std::filesystem::exists(dialogs.answer));
+}
+
+// All texts of a drawing; the wheel is measured with the real font.
+class TextCollector : public PainterSurface {
+  public:
+    using PainterSurface::PainterSurface;
+    std::vector<std::pair<std::string, Extent>> inks;
+    Extent extent;
+
+    void SetCoordinates(const Extent& given) override {
+        extent = given;
+        PainterSurface::SetCoordinates(given);
+    }
+    void Text(Point corner, std::string_view text, TextFont font, int colour) override {
+        inks.emplace_back(text, InkOf({corner, std::string(text), font, colour}, *this));
+        PainterSurface::Text(corner, text, font, colour);
+    }
+};
+
+const char* const kOrdinaryBirths[] = {"Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45",
+                                       "A Stellium,04 Feb 1962,7.30,P,8,122.25,37.46",
+                                       "London Noon,11 Jan 1994,12.10,P,0,000.07,51.30",
+                                       "Sydney,03 Mar 1986,6.15,A,-11,-151.12,-33.52",
+                                       "Quito,01 May 2000,12.00,P,5,078.30,-00.13",
+                                       "Cape Town,15 Aug 1971,3.33,A,-2,-018.25,-33.55",
+                                       "Berlin,30 Apr 1945,3.30,P,-2,-013.25,52.31",
+                                       "Tokyo,07 Jul 2007,7.07,A,-9,-139.42,35.41",
+                                       "Alexandra Wilhelmina,17 Nov 1978,11.59,P,6,087.39,41.51"};
+
+void ExpectClear(const TextCollector& surface, const std::string& what) {
+    // Stacked digits may share a corner of their rectangles, as round shapes do.
+    constexpr double kTouch = -0.9;
+    const auto& inks = surface.inks;
+    for (std::size_t i = 0; i < inks.size(); ++i) {
+        const auto& [text, ink] = inks[i];
+        EXPECT_TRUE(ink.left >= surface.extent.left && ink.right <= surface.extent.right &&
+                    ink.top <= surface.extent.top && ink.bottom >= surface.extent.bottom)
+            << what << ": \"" << text << "\" leaves the picture";
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_FALSE(Overlap(ink, inks[j].second, kTouch))
+                << what << ": \"" << inks[j].first << "\" meets \"" << text << "\" at " << ink.left << ", "
+                << ink.top;
+        }
+    }
+}
+
+TEST_F(WheelsTest, TextsOfOrdinaryChartsStandClear) {
+    ASSERT_TRUE(LoadSymbolFont(directory.path()));
+    TextOutlines outlines;
+    for (const char* record : kOrdinaryBirths) {
+        const WheelSnapshot birth = SnapshotOf(record);
+        for (const ChartType type : {ChartType::American, ChartType::European}) {
+            for (const QSize size : {QSize(700, 700), QSize(937, 740), QSize(1600, 900), QSize(600, 900)}) {
+                QImage image(size, QImage::Format_RGB32);
+                QPainter painter(&image);
+                TextCollector surface(painter, image.rect(), outlines);
+                DrawWheel(surface, {birth, data, options, type, size.width() * 1.0, size.height() * 1.0});
+                ExpectClear(surface, std::string(record) + " " + std::to_string(static_cast<int>(type)) +
+                                         " " + std::to_string(size.width()));
+            }
+        }
+    }
+}
+
+TEST_F(WheelsTest, TextsOfPagesStandClear) {
+    ASSERT_TRUE(LoadSymbolFont(directory.path()));
+    TextOutlines outlines;
+    OrbTable orbs{};
+    ASSERT_TRUE(ReadOrbsFile(directory / "NATAL.ORB", orbs));
+    for (const char* record : kOrdinaryBirths) {
+        const WheelSnapshot birth = SnapshotOf(record);
+        for (const int type : {0, 1}) {
+            for (const QSize size : {QSize(523, 770), QSize(540, 720)}) {  // A4 and Letter less half an inch
+                QImage image(size, QImage::Format_RGB32);
+                QPainter painter(&image);
+                TextCollector surface(painter, image.rect(), outlines);
+                const std::vector<std::string> personal = {
+                    "Jane Doe, Astrologer", "12 Long and Winding Lane, Upper Slaughter, Gloucestershire",
+                    "Telephone 555-0123"};
+                DrawPage(surface, {birth, data, options, type, personal, orbs, size.width() * 1.0,
+                                   size.height() * 1.0});
+                ExpectClear(surface, std::string(record) + " page " + std::to_string(type));
+            }
+        }
+    }
+}
+
+// Tiny and odd windows, every latitude that can be computed, sizes of zero in the options: nothing fails.
+TEST_F(WheelsTest, OddWindowsAndOptionsStillDraw) {
+    ASSERT_TRUE(LoadSymbolFont(directory.path()));
+    const WheelSnapshot north = SnapshotOf("Far North,21 Jun 1985,11.40,P,-2,-018.57,65.40");
+    for (int option = 60; option <= 114; ++option) options[option] = 0.0F;
+    for (const QSize size : {QSize(1, 1), QSize(2000, 20), QSize(20, 2000), QSize(300, 300)}) {
+        for (const ChartType type : {ChartType::American, ChartType::European}) {
+            const Path file = directory / "odd.png";
+            EXPECT_TRUE(
+                ExportWheel({north, data, options, type, size.width() * 1.0, size.height() * 1.0}, file));
+            EXPECT_EQ(QImage(QString::fromStdString(file.string())).size(), size);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis
