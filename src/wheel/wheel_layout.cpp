@@ -298,6 +298,29 @@ std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& mea
     return texts;
 }
 
+// The last slot of the twelfth house lies only 3 degrees from the first of the first house. Glyphs in both
+// are drawn a little apart, and with them their neighbours, so that they do not touch.
+std::vector<PlacedGlyph> Apart(std::span<const PlacedGlyph> placed) {
+    constexpr double kLeast = 4.0;  // degrees
+    constexpr int kRounds = 40;
+    std::vector<PlacedGlyph> glyphs(placed.begin(), placed.end());
+    std::vector<PlacedGlyph*> around;
+    for (PlacedGlyph& glyph : glyphs) {
+        if (glyph.drawn) around.push_back(&glyph);
+    }
+    std::ranges::sort(around, {}, [](const PlacedGlyph* glyph) { return glyph->angle; });
+    for (int round = 0; round < kRounds; ++round) {
+        for (std::size_t i = 1; i < around.size(); ++i) {
+            const double lack = kLeast - (around[i]->angle - around[i - 1]->angle);
+            if (lack < 1e-3) continue;
+            around[i - 1]->angle -= lack / 2;
+            around[i]->angle += lack / 2;
+        }
+    }
+    for (PlacedGlyph* glyph : around) glyph->angle = Norm360(glyph->angle);
+    return glyphs;
+}
+
 bool Meet(const std::vector<Extent>& a, const std::vector<Extent>& b) {
     constexpr double kBetweenLabels = 0.3;
     return std::ranges::any_of(a, [&](const Extent& one) {
@@ -424,7 +447,8 @@ std::vector<WheelText> CuspLabels(const WheelPlan& plan, const TextMeasure& meas
 }
 
 std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                    std::span<const PlacedGlyph> glyphs) {
+                                    std::span<const PlacedGlyph> placed) {
+    const std::vector<PlacedGlyph> glyphs = Apart(placed);
     std::vector<std::vector<WheelText>> labels;
     std::vector<std::vector<Extent>> inks;
     std::vector<LabelStyle> styles(glyphs.size(), LabelStyle::Rows);

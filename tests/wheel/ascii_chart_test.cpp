@@ -13,37 +13,42 @@ std::string At(const std::array<std::string, kAsciiRows>& rows, int row, int col
     return rows[static_cast<std::size_t>(row - 1)].substr(static_cast<std::size_t>(column + 4), length);
 }
 
-// All points together in the first house: eleven of them are written, the nodes' places stay empty.
+// Worked out by hand: eight points crowd the eleventh house, where the North Node keeps its place but is not
+// written; South Node and Part of Fortune, alone and late in their houses, take the fifth place.
 TEST(AsciiChart, DrawsToTheCharacter) {
     const std::array<std::string, kAsciiRows> expected = {
         "                 07 AQU             07 CAP             07 SAG                  ",
         "         *                            *                            *           ",
         "            *                         *                         *              ",
-        "               *                      *                      *                 ",
-        "     07 PIS       *                   *                   *        07 SCO      ",
-        "          *          *                *                *          *            ",
-        "              *         *             *             *         *                ",
-        "                  *        *          *          *        *                    ",
-        "                      *       *       *       *       *                        ",
+        "               UR22Aqu                * PF05Cap              *                 ",
+        "     07 PIS    SA20Aqu                *                   *        07 SCO      ",
+        "          *    JU18Aqu                *                *          *            ",
+        "              *  MA16Aqu*             *             *MO15Sco  *                ",
+        "        SU10Aqu   *    VE14Aqu        *          *        *                    ",
+        "                      *ME12Aqu*       *       *       *                        ",
         "                          *      * ** * ** *      *                            ",
         "                              *               *                                ",
         "                             *                 *                               ",
         "     07 ARI ******************                 ******************* 07 LIB      ",
-        "        PF08Ari              *                 *                               ",
-        "                 NE08Ari      *               *                                ",
-        "                 UR08Ari  *      * ** * ** *      *                            ",
-        "        MO08Ari       *SU08Ari*       *       *       *                        ",
-        "        PL08Ari   *        *          *          *        *                    ",
-        "              *  SA08Ari*             *             *         *                ",
-        "          *    JU08Ari                *                *          *            ",
-        "     07 TAU    MA08Ari                *                   *        07 VIR      ",
-        "               VE08Ari                *                      *                 ",
-        "            *  ME08Ari                *                         *              ",
-        "         *                            *                            *           ",
+        "        NE10Ari              *                 *                               ",
+        "                              *               *                                ",
+        "                          *      * ** * ** *      *                            ",
+        "                      *       *       *       *       *                        ",
+        "                  *        *          *          *        *                    ",
+        "              *         *             *             *SN25Leo  *                ",
+        "          *          *                *                *          *            ",
+        "     07 TAU       *                   *                   *        07 VIR      ",
+        "               *                      *                      *                 ",
+        "            *                         *                         *              ",
+        "         *                            * PL10Can                    *           ",
         "                 07 GEM             07 CAN             07 LEO                  ",
     };
     WheelSnapshot chart = EqualHouses(7.0);
-    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 8.0);
+    const std::array<double, kPartOfFortune> longitudes = {310, 312.5, 314, 316, 318, 320, 322,
+                                                           10,  100,   225, 325, 145, 275};
+    for (int point = kSun; point <= kPartOfFortune; ++point) {
+        Put(chart, point, longitudes[static_cast<std::size_t>(point - 1)]);
+    }
     const auto rows = DrawAsciiChart(chart);
     for (std::size_t row = 0; row < rows.size(); ++row) EXPECT_EQ(rows[row], expected[row]) << row + 1;
 }

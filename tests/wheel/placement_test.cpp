@@ -102,7 +102,7 @@ TEST(Placement, AnglesBeyondTheTurnFoldBack) {
 
 TEST(Placement, EuropeanGlyphsStandAtTheirTrueAnglesFourDegreesApart) {
     WheelSnapshot chart = EqualHouses(100.0);
-    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 20.0 * point);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 300.0 + 9.0 * point);
     Put(chart, kSun, 203.0);
     Put(chart, kMercury, 206.0);  // 3 degrees on: moved to 4
     Put(chart, kVenus, 204.0);    // between them
@@ -122,9 +122,12 @@ TEST(Placement, EuropeanGlyphsClearEachOtherAcrossTheAscendant) {
     Put(chart, kSun, 358.0);
     Put(chart, kMoon, 355.0);
     const auto glyphs = PlaceGlyphs(chart, ChartType::European);
-    EXPECT_NEAR(Of(glyphs, kAscendant).angle, 180.0, 1e-9);
-    EXPECT_NEAR(Of(glyphs, kSun).angle, 176.0, 1e-9);
-    EXPECT_NEAR(Of(glyphs, kMoon).angle, 172.0, 1e-9);
+    // Moon and Sun keep 4 degrees already; moving the Ascendant alone is less than moving both back.
+    EXPECT_NEAR(Of(glyphs, kMoon).angle, 175.0, 1e-9);
+    EXPECT_NEAR(Of(glyphs, kSun).angle, 179.0, 1e-9);
+    EXPECT_NEAR(Of(glyphs, kAscendant).angle, 183.0, 1e-9);
+    Put(chart, kMoon, 300.5);
+    EXPECT_NEAR(Of(PlaceGlyphs(chart, ChartType::European), kSun).angle, 176.0, 1e-9);
 }
 
 // However the points fall: gaps of 4 degrees all the way round, and zodiacal order.

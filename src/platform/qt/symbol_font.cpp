@@ -9,8 +9,10 @@ bool LoadSymbolFont(const Path& directory) {
     if (loaded) return true;
     bool all = true;
     for (const char* name : {"HORARY.ttf", "HORARY-Bold.ttf"}) {
-        const QString file = QString::fromStdString(FindFile(directory, name).string());
-        all = QFontDatabase::addApplicationFont(file) >= 0 && all;
+        // From memory: the file may be replaced or removed while the program runs.
+        const Result<std::string> bytes = ReadBytes(FindFile(directory, name));
+        all =
+            bytes && QFontDatabase::addApplicationFontFromData(QByteArray::fromStdString(*bytes)) >= 0 && all;
     }
     loaded = all;
     return all;
