@@ -267,6 +267,18 @@ std::vector<LabelPart> JoinNumbers(std::vector<LabelPart> items, bool inwards) {
     return joined;
 }
 
+// Puts the tens of each number above its units, or left of them on flat rays, so that nobody reads 42 for 24.
+void TurnNumbers(std::vector<LabelPart>& items, bool inwards, const Cell& digit, const SinCos& ray) {
+    const bool steep = digit.height * std::abs(ray.sin) >= digit.width * std::abs(ray.cos);
+    const bool tensOutside = steep ? ray.sin > 0.0 : ray.cos < 0.0;
+    if (tensOutside == inwards) return;
+    for (std::size_t i = 0; i + 1 < items.size(); ++i) {
+        if (!IsDigit(items[i]) || !IsDigit(items[i + 1])) continue;
+        std::swap(items[i], items[i + 1]);
+        ++i;
+    }
+}
+
 std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& measure,
                                    const PlacedGlyph& glyph, LabelStyle style) {
     const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
@@ -280,7 +292,12 @@ std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& mea
                                                 {SizeOf(plan.options, plan.form.planetSize)},
                                                 ColourOf(plan.options, plan.form.planetColour))};
     std::vector<LabelPart> items = LabelItems(plan, glyph);
-    if (style == LabelStyle::Rows) items = JoinNumbers(std::move(items), ReadsInwards(plan, glyph));
+    const bool inwards = ReadsInwards(plan, glyph);
+    if (style == LabelStyle::Rows) {
+        items = JoinNumbers(std::move(items), inwards);
+    } else {
+        TurnNumbers(items, inwards, steps.digit, ray);
+    }
     Cell last = style == LabelStyle::Rows ? InkCell(measure, texts[0].text, texts[0].font) : steps.glyph;
     for (LabelPart& item : items) {
         Cell cell = IsGlyph(item) ? steps.glyph : steps.digit;

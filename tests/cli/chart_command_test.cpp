@@ -6,6 +6,7 @@
 
 #include "app/app_directory.h"
 #include "app/options_file.h"
+#include "app/wheel_command.h"
 #include "support.h"
 
 namespace tolvanis {
@@ -112,6 +113,46 @@ TEST(ChartCommand, APlaceStandsForItsCoordinatesAndZone) {
     EXPECT_THAT(RunWith({"--birth", born, "--place", "GA_MA.LL:Aberdeen"}).errors, HasSubstr("ID, IN, MD"));
     EXPECT_THAT(RunWith({"--birth", born, "--place", "NONE.LL:Rome"}).errors, HasSubstr("No such file"));
     EXPECT_THAT(RunWith({"--birth", "Ann,22 Sep 1949", "--place", path}).errors, HasSubstr("2 fields"));
+}
+
+TEST(ChartCommand, AsciiIsTheTitleAndTheDrawing) {
+    const Outcome outcome =
+        RunWith({"--birth", "Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45", "--format", "ascii"});
+    EXPECT_THAT(outcome.output, StartsWith("\n     Ann Smith - natal\n     22 Sep 1949\n     9.05 A.M. (5)\n"
+                                           "     73.59 WEST\n     40.45 NORTH\n"));
+    EXPECT_THAT(outcome.output,
+                HasSubstr("\n     08 SCO ******************                 *******************"
+                          " 08 TAU      \n        VE09Sco              *"));
+    EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 1 + 7 + 25 + 2);
+}
+
+TEST(WheelCommand, ArgumentsAndBirths) {
+    const struct {
+        std::vector<std::string_view> arguments;
+        std::string_view fault;
+    } cases[] = {{{"--wheel"}, "--wheel needs a value"},
+                 {{"--wheel", "a.svg", "--type", "round"}, "unknown chart type"},
+                 {{"--wheel", "a.svg", "--size", "99"}, "--size needs a number of pixels"},
+                 {{"--wheel", "a.svg", "--size", "big"}, "--size needs a number of pixels"},
+                 {{"--wheel", "a.svg", "--names", "f"}, "--names needs --name"},
+                 {{"--wheel", "a.svg", "--format", "text"}, "unknown argument"},
+                 {{"--wheel", "a.svg", "--now", "--birth", "x"}, "only one of"}};
+    for (const auto& c : cases) {
+        EXPECT_THAT(ParseWheelArguments(c.arguments).message(), HasSubstr(std::string(c.fault)));
+    }
+    const std::vector<std::string_view> good = {"--type=european", "--wheel=a.svg",
+                                                "--size",          "700",
+                                                "--birth",         "Ann,22 Sep 1949,9.05,A,5,073.59,40.45",
+                                                "--app-dir",       DELIVERED_DATA_DIR,
+                                                "--houses",        "K"};
+    EXPECT_TRUE(IsWheelCommand(good));
+    auto wheel = ParseWheelArguments(good);
+    ASSERT_TRUE(wheel) << wheel.message();
+    EXPECT_EQ(wheel->type, ChartType::European);
+    EXPECT_EQ(wheel->size, 700);
+    EXPECT_EQ(PrepareWheel(*wheel)->chart.TitleLines[6], "Koch");
+    wheel->birth = "Ann,22 Sep 1949,9.05,A,5,073.59,70.45";
+    EXPECT_THAT(PrepareWheel(*wheel).message(), HasSubstr("--birth: "));
 }
 
 TEST(ChartCommand, WrongUsageIsExplained) {

@@ -181,6 +181,28 @@ TEST_F(DrawingTest, LabelsReadDegreesSignMinutesOnBothSides) {
     EXPECT_EQ(std::ranges::count(labels, "R", &WheelText::text), 1) << "nodes carry no mark";
 }
 
+// Where neighbours force digit below digit, the tens stand above the units all the way round.
+TEST_F(DrawingTest, CrowdedNumbersReadDownwards) {
+    for (const double angle : {65.0, 80.0, 115.0, 245.0, 275.0, 290.0}) {
+        chart = EqualHouses(0.0);
+        for (int point = 1; point <= kChartPointCount; ++point) {
+            Put(chart, point, 30.0 * std::floor((angle + 180.0) / 30.0) + 2.7);  // 02 degrees 42 minutes
+        }
+        const WheelPlan plan{chart, data, options, kScreenForm, ChartType::European, WindowExtent(1, 1)};
+        std::vector<PlacedGlyph> pair(2);
+        pair[1].point = kMoon;
+        for (PlacedGlyph& glyph : pair) glyph.angle = angle + (glyph.point == kMoon ? 4.0 : 0.0);
+        const auto labels = PlanetLabels(plan, surface, pair);
+        const auto top = [&](const char* digit, bool bold) {
+            const auto found = std::ranges::find_if(
+                labels, [&](const WheelText& text) { return text.text == digit && text.font.bold == bold; });
+            return found == labels.end() ? NAN : found->corner.y;
+        };
+        EXPECT_GT(top("0", true), top("2", true)) << angle;
+        EXPECT_GT(top("4", false), top("2", false)) << angle;
+    }
+}
+
 TEST(PrintedPage, ExtentHasTheWheelAboveTheMiddle) {
     const Extent american = PageExtent(8.0, 10.0, 0);
     EXPECT_NEAR(american.left, 16.0 - 265.0, 1e-9);
