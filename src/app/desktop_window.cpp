@@ -114,6 +114,11 @@ void Desktop::MakeWindows() {
     connect(births_.get(), &BirthDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
     connect(births_.get(), &BirthDesk::inputClosed, this, &Desktop::InputD_closed);
     connect(births_.get(), &BirthDesk::editorRequested, this, &Desktop::ShowEditor);
+    wheel_ = std::make_unique<WheelDesk>(state_, printing_);
+    connect(wheel_.get(), &WheelDesk::dataBufferRequested, this, &Desktop::ShowDataBuffer);
+    connect(wheel_.get(), &WheelDesk::textFileRequested, this, &Desktop::ShowTextFile);
+    connect(wheel_.get(), &WheelDesk::editorRequested, this, &Desktop::ShowEditor);
+    connect(wheel_.get(), &WheelDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
 
     clock_.setInterval(1000);
     connect(&clock_, &QTimer::timeout, this, &Desktop::UpdateClock);
@@ -127,6 +132,7 @@ void Desktop::RegisterCommands() {
         {"mnuOptions", run(&Desktop::mnuOptions_Click)},
         {"mnuHeader", run(&Desktop::mnuHeader_Click)},
         {"mnuDataNatalData", run(&Desktop::mnuDataNatalData_Click)},
+        {"mnuWheels", [this] { wheel_->Open(); }},
         {"mnuHelpAbout", run(&Desktop::mnuHelpAbout_Click)},
         {"mnuHelpPrintHelp", run(&Desktop::mnuHelpPrintHelp_Click)},
     };
@@ -196,6 +202,7 @@ void Desktop::InputD_closed() {
 }
 
 void Desktop::UnloadChartWindows() {
+    wheel_->Close();
     delete data_;
 }
 
@@ -344,6 +351,7 @@ void Desktop::Exit() {
         services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
     }
     clock_.stop();
+    wheel_.reset();
     births_.reset();
     main_->hide();
     for (auto& [use, editor] : editors_) delete editor;

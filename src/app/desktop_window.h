@@ -13,6 +13,7 @@
 #include "app/editor_uses.h"
 #include "app/main_window.h"
 #include "app/program_state.h"
+#include "app/wheel_desk_window.h"
 #include "output/data_window.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
@@ -49,6 +50,7 @@ class Desktop : public QObject, public ChartDesktop {
 
     TOLVANIS& mainWindow() { return *main_; }
     BirthDesk& birthDesk() { return *births_; }
+    WheelDesk& wheelDesk() { return *wheel_; }
     InputD& natalInput() { return births_->natalInput(); }
     OutputD1* dataWindow() { return data_; }
 
@@ -106,6 +108,7 @@ class Desktop : public QObject, public ChartDesktop {
     PrintServices printing_;
     std::unique_ptr<TOLVANIS> main_;
     std::unique_ptr<BirthDesk> births_;
+    std::unique_ptr<WheelDesk> wheel_;
     QPointer<OutputD1> data_;
     QPointer<PrntFile> print_;
     std::map<EditorUse, QPointer<EditorWindow>> editors_;
