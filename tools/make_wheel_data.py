@@ -64,7 +64,7 @@ def stack(centre):
 def label(house):
     angle = (150 + 30 * house) % 360
     if angle in (0, 180):
-        middle = OUTER + 11.5
+        middle = OUTER + 12
         return stack(middle if angle == 0 else -middle)
     a = math.radians(angle)
     half = INK["degree"] / 2
@@ -73,8 +73,7 @@ def label(house):
     while True:
         x, y = radius * math.cos(a), radius * math.sin(a)
         left = x if math.cos(a) > 0.1 else x - ROW if math.cos(a) < -0.1 else x - ROW / 2
-        nearest = min(math.hypot(px, max(abs(y) - half, 0)) for px in
-                      [max(left, -left - ROW, 0) if left > 0 or left + ROW < 0 else 0])
+        nearest = math.hypot(max(left, -left - ROW, 0), max(abs(y) - half, 0))
         if nearest >= OUTER + CLEAR:
             return row(left, y)
         radius += 0.25
