@@ -241,9 +241,10 @@ double TouchingStep(const Cell& a, const Cell& b, const SinCos& ray) {
 
 // A cell that leaves a little room around a text's ink.
 Cell InkCell(const TextMeasure& measure, std::string_view text, TextFont font) {
-    constexpr double kRoom = 1.8;
+    constexpr double kRoomAcross = 3.2;
+    constexpr double kRoomDown = 2.2;
     const TextBox box = measure.Measure(text, font);
-    return {box.inkRight - box.inkLeft + kRoom, box.inkBottom - box.inkTop + kRoom};
+    return {box.inkRight - box.inkLeft + kRoomAcross, box.inkBottom - box.inkTop + kRoomDown};
 }
 
 bool IsDigit(const LabelPart& part) {
