@@ -1,10 +1,11 @@
 #include "app/wheel_command_window.h"
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <iostream>
 
 #include "app/desktop_arguments.h"
-#include "platform/qt/symbol_font.h"
+#include "app/wheel_desk_window.h"
 #include "wheel/wheel_export_window.h"
 
 namespace tolvanis {
@@ -26,9 +27,11 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
     const Result<WheelPicture> picture = PrepareWheel(*wheel);
     if (!picture) return Refuse(picture.message());
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("default.warning=false"));  // of a desktop that is not there
     int argumentCount = 1;
     const QGuiApplication application(argumentCount, programArguments);
-    if (!LoadSymbolFont(picture->applicationDirectory)) {
+    if (!LoadSymbolFontOf(picture->applicationDirectory)) {
         return Refuse("the symbol font HORARY.ttf cannot be loaded from " +
                       picture->applicationDirectory.string());
     }

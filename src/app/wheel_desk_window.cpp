@@ -1,11 +1,19 @@
 #include "app/wheel_desk_window.h"
 
+#include "app/app_directory.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/symbol_font.h"
 #include "wheel/ascii_chart.h"
 
 namespace tolvanis {
 namespace {
 constexpr const char* kWheelHelpFile = "WHEELS.HLP";
+}  // namespace
+
+bool LoadSymbolFontOf(const Path& applicationDirectory) {
+    if (LoadSymbolFont(applicationDirectory)) return true;
+    const Path installed = InstalledDataDirectory(HintsOfProcess(std::nullopt).programDirectory);
+    return !installed.empty() && LoadSymbolFont(installed);
 }
 
 void WheelDesk::Open() {
@@ -16,6 +24,7 @@ void WheelDesk::Open() {
         data_ = *read;
     }
     Close();
+    LoadSymbolFontOf(state_.applicationDirectory);  // the window tells when there is none
     const WheelContext context{*data_, state_.options, state_.applicationDirectory, printing_};
     wheels_ = new Wheels(MakeWheelSnapshot(state_.chart.natal, state_.chart.positions), context,
                          state_.settings.TypeChart);
