@@ -1,6 +1,7 @@
 #include "app/birth_desk_window.h"
 
 #include <QRect>
+#include <algorithm>
 
 #include "platform/qt/external_program.h"
 #include "platform/qt/placement.h"
@@ -8,7 +9,8 @@
 namespace tolvanis {
 namespace {
 
-constexpr int kGap = 8;  // pixels between neighbouring windows
+constexpr int kGap = 8;           // pixels between neighbouring windows
+constexpr int kListLetters = 46;  // width of a list window with its frame
 
 // Windows close inside their own signals, so they are deleted later.
 template <typename Window>
@@ -49,8 +51,10 @@ void BirthDesk::ConnectInput() {
 
 void BirthDesk::Show(const QRect& anchor) {
     if (!input_->testAttribute(Qt::WA_Moved)) {
-        const QRect wanted(anchor.bottomLeft(), input_->sizeHint());
-        firstPlace_ = BroughtIntoView(wanted, UsableScreens()).topLeft();
+        // The list beside it belongs to the room it needs, as far as the screen has it.
+        QRect wanted(anchor.bottomLeft(), input_->sizeHint());
+        wanted.setWidth(wanted.width() + kGap + input_->fontMetrics().averageCharWidth() * kListLetters);
+        firstPlace_ = WhollyInView(wanted, UsableScreens()).topLeft();
         PlaceWindow(*input_, QRect(firstPlace_, input_->sizeHint()));
     }
     BringForward(*input_);
@@ -62,6 +66,11 @@ void BirthDesk::Hide() {
     input_->hide();
     Close(names_);
     Close(cities_);
+}
+
+bool BirthDesk::IsShown() const {
+    const auto shown = [](const QWidget* window) { return window != nullptr && window->isVisible(); };
+    return shown(input_.get()) && (shown(names_) || shown(cities_));
 }
 
 void BirthDesk::CloseTimeZones() {
@@ -77,11 +86,16 @@ QRect BirthDesk::InputPlace() const {
 void BirthDesk::PlaceBeside(QWidget& window, const QRect& neighbour) const {
     QRect wanted(neighbour.topRight() + QPoint(kGap, 0), window.sizeHint());
     wanted.setHeight(std::max(wanted.height(), input_->height()));
-    const QRect place = BroughtIntoView(wanted, UsableScreens());
-    // Where there is no room on the right the list would cover the entry; it then goes to the left.
-    const bool covers = place.left() < neighbour.right();
-    const QPoint left(neighbour.left() - kGap - place.width(), neighbour.top());
-    PlaceWindow(window, covers ? BroughtIntoView(QRect(left, place.size()), UsableScreens()) : place);
+    QRect right = WhollyInView(wanted, UsableScreens());
+    if (const int covered = neighbour.right() + 1 - right.left(); covered > 0) {
+        right.setLeft(right.left() + std::min(covered, right.width() - window.minimumSizeHint().width()));
+    }
+    // Where there is no room on the right it goes to the left, unless it would cover the entry there.
+    wanted.moveLeft(neighbour.left() - kGap - wanted.width());
+    const QRect left = WhollyInView(wanted, UsableScreens());
+    const bool goesLeft = right.left() <= neighbour.right() && left.right() < neighbour.left() &&
+                          !left.intersects(InputPlace());
+    PlaceWindow(window, goesLeft ? left : right);
 }
 
 void BirthDesk::OpenNames() {

@@ -35,6 +35,9 @@ class BirthDesk : public QObject {
     // it.
     void Show(const QRect& anchor);
     void Hide();
+
+    // Whether the natal input and one of the two lists can be seen.
+    bool IsShown() const;
     void CloseTimeZones();
 
     // A names or cities file has been saved in its editor, or the editor has been left.

@@ -211,7 +211,8 @@ void Desktop::ShowChartMenus() {
 }
 
 void Desktop::ShowInputFault(EntryField field) {
-    ShowEntryWindows();
+    if (!births_->IsShown()) ShowEntryWindows();
+    BringForward(natalInput());
     natalInput().FocusField(field);
 }
 
@@ -352,7 +353,9 @@ void Desktop::Exit() {
     }
     clock_.stop();
     wheel_.reset();
-    births_.reset();
+    // An atlas lookup may still be under way in here: the desk is only hidden until the event loops are left.
+    births_->CloseTimeZones();
+    births_->Hide();
     main_->hide();
     for (auto& [use, editor] : editors_) delete editor;
     delete print_;

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/hourglass.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 
@@ -55,7 +56,7 @@ void EditorWindow::Build() {
     }
     layout->addLayout(row);
     const QFontMetrics metrics(txtContent_->font());
-    resize(metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34);
+    ResizeToFit(*this, {metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34});
 }
 
 void EditorWindow::Load() {

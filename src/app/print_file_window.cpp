@@ -7,6 +7,7 @@
 
 #include "app/editor_uses.h"
 #include "output/text_files.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 
@@ -35,7 +36,7 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
     layout->addWidget(txtContent_);
     layout->addLayout(row);
     const QFontMetrics metrics(txtContent_->font());
-    resize(metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34);
+    ResizeToFit(*this, {metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34});
     print->setFocus();
     Load();
 }

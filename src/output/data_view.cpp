@@ -1,5 +1,7 @@
 #include "output/data_view.h"
 
+#include <algorithm>
+
 namespace tolvanis {
 
 bool CanIncreaseFont(const DataViewSettings& view) {
@@ -15,7 +17,7 @@ void IncreaseFont(DataViewSettings& view, double fontStep) {
 }
 
 void DecreaseFont(DataViewSettings& view, double fontStep) {
-    view.FontSize -= fontStep / 2.0;
+    view.FontSize = std::min(view.FontSize, kLargestFontSize) - fontStep / 2.0;
 }
 
 double FontFlag(bool ticked) {

@@ -18,6 +18,9 @@ struct DataViewSettings {
     friend bool operator==(const DataViewSettings&, const DataViewSettings&) = default;
 };
 
+// The largest size, in points, in which the listing is shown; the settings may name any.
+inline constexpr double kLargestFontSize = 72.0;
+
 // The font can grow below 12 points and shrink above 8; a step is half the screen's font step.
 bool CanIncreaseFont(const DataViewSettings& view);
 bool CanDecreaseFont(const DataViewSettings& view);

@@ -89,7 +89,7 @@ void OutputD1::BuildMenu() {
 
 void OutputD1::ApplyFont() {
     const DataViewSettings& view = context_.view;
-    QFont font = ListingFont(view.FontSize);
+    QFont font = ListingFont(std::min(view.FontSize, kLargestFontSize));
     font.setBold(view.FontBold != 0.0);
     font.setItalic(view.FontItalic != 0.0);
     Text1_->setFont(font);

@@ -65,6 +65,7 @@ TEST_F(DesktopWindow, WrongEntriesAreToldOneByOneAndKeepTheLastListing) {
     EXPECT_TRUE(input().isVisible()) << "the boxes come up to be corrected";
 
     EXPECT_EQ(input().focusWidget()->objectName(), QStringLiteral("txtBirthMinute"));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&input()));
     Type(input(), "txtMonth", "2");
     Type(input(), "txtDay", "31");
     Type(input(), "txtBirthMinute", "5");
@@ -364,14 +365,26 @@ TEST_F(DesktopWindow, AClosedNatalInputCanBeOpenedAgain) {
     EXPECT_TRUE(input().isVisible());
 }
 
+TEST_F(DesktopWindow, ExitWhileTheAtlasRunsIsSafe) {
+    const Path atlas = directory_.Write("ATLAS.EXE", "#!/bin/sh\nsleep 0.5\n");
+    std::filesystem::permissions(atlas, std::filesystem::perms::owner_all);
+    state_.settings.AtlasDir = directory_.path().string() + "/";
+    QTimer::singleShot(100, &desktop_->mainWindow(), [this] { Choose("mnuFileExit"); });
+    Press(input(), "Label2");
+    EXPECT_FALSE(input().isVisible());
+}
+
 TEST(Placement, BringsLostWindowsBack) {
     const QList<QRect> screens = {{0, 0, 1000, 800}, {1000, 0, 500, 400}};
     const struct {
         QRect wanted, want;
     } cases[] = {{{100, 50, 600, 500}, {100, 50, 600, 500}},   {{-200, 50, 600, 500}, {-200, 50, 600, 500}},
-                 {{-590, -20, 600, 500}, {-480, 0, 600, 500}}, {{5000, 3000, 600, 500}, {880, 760, 600, 500}},
-                 {{1100, 30, 300, 200}, {1100, 30, 300, 200}}, {{0, 0, 9000, 0}, {0, 0, 1000, 1}}};
+                 {{-590, -20, 600, 500}, {0, 0, 600, 500}},    {{5000, 3000, 600, 500}, {400, 300, 600, 500}},
+                 {{1100, 30, 300, 200}, {1100, 30, 300, 200}}, {{0, 0, 9000, 0}, {0, 0, 1000, 1}},
+                 {{10, 126, 800, 1100}, {10, 126, 800, 674}},  {{-50, -50, 1200, 900}, {0, 0, 1000, 800}}};
     for (const auto& test : cases) EXPECT_EQ(BroughtIntoView(test.wanted, screens), test.want);
+    EXPECT_EQ(WhollyInView({800, 700, 300, 200}, screens), QRect(700, 600, 300, 200));
+    EXPECT_EQ(WhollyInView({1400, 100, 300, 200}, screens), QRect(1200, 100, 300, 200));
 }
 
 TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {

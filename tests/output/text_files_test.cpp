@@ -67,6 +67,9 @@ TEST(DataView, FontStepsStopAtTheirLimits) {
     DecreaseFont(view, 1.2);
     EXPECT_DOUBLE_EQ(view.FontSize, 7.9);
     EXPECT_FALSE(CanDecreaseFont(view));
+    view.FontSize = 1e300;  // from a damaged settings file
+    DecreaseFont(view, 1.2);
+    EXPECT_DOUBLE_EQ(view.FontSize, 71.4);
 }
 
 }  // namespace

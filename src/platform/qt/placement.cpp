@@ -1,7 +1,8 @@
 #include "platform/qt/placement.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
@@ -10,8 +11,6 @@ namespace tolvanis {
 namespace {
 
 constexpr double kMostPixels = 100000.0;
-constexpr int kVisibleWidth = 120;
-constexpr int kVisibleHeight = 40;
 
 int Pixels(double twips, double twipsPerPixel) {
     const double pixels = twips / twipsPerPixel;
@@ -22,6 +21,12 @@ int Pixels(double twips, double twipsPerPixel) {
 int VisibleArea(const QRect& window, const QRect& screen) {
     const QRect shown = window.intersected(screen);
     return shown.isEmpty() ? 0 : shown.width() * shown.height();
+}
+
+QRect ScreenOf(const QRect& window, const QList<QRect>& screens) {
+    return *std::max_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
+        return VisibleArea(window, a) < VisibleArea(window, b);
+    });
 }
 
 }  // namespace
@@ -36,25 +41,41 @@ TwipsPlacement ToTwips(const QRect& pixels, double twipsPerPixel) {
             pixels.width() * twipsPerPixel};
 }
 
-QRect BroughtIntoView(QRect wanted, const QList<QRect>& screens) {
+QRect BroughtIntoView(const QRect& wanted, const QList<QRect>& screens) {
     if (screens.isEmpty()) return wanted;
-    const QRect screen = *std::max_element(
-        screens.begin(), screens.end(),
-        [&](const QRect& a, const QRect& b) { return VisibleArea(wanted, a) < VisibleArea(wanted, b); });
+    const QRect screen = ScreenOf(wanted, screens);
+    const QRect inside = WhollyInView(wanted, screens);
+    if (VisibleArea(wanted, screen) < inside.width() * inside.height() / 4) return inside;
+    const int top = std::max(wanted.top(), screen.top());
+    const int height = std::min(wanted.height(), screen.bottom() + 1 - top);
+    return {QPoint(wanted.width() > screen.width() ? inside.left() : wanted.left(), top),
+            QSize(inside.width(), height)};
+}
+
+QRect WhollyInView(QRect wanted, const QList<QRect>& screens) {
+    if (screens.isEmpty()) return wanted;
+    const QRect screen = ScreenOf(wanted, screens);
     wanted.setWidth(std::clamp(wanted.width(), 1, screen.width()));
     wanted.setHeight(std::clamp(wanted.height(), 1, screen.height()));
-    const int shownWidth = std::min(kVisibleWidth, wanted.width());
-    const int left = std::clamp(wanted.left(), screen.left() + shownWidth - wanted.width(),
-                                screen.left() + screen.width() - shownWidth);
-    const int top = std::clamp(wanted.top(), screen.top(), screen.top() + screen.height() - kVisibleHeight);
+    const int left =
+        std::clamp(wanted.left(), screen.left(), screen.left() + screen.width() - wanted.width());
+    const int top = std::clamp(wanted.top(), screen.top(), screen.top() + screen.height() - wanted.height());
     wanted.moveTopLeft({left, top});
     return wanted;
 }
 
 QList<QRect> UsableScreens() {
+    const int caption = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
     QList<QRect> areas;
-    for (const QScreen* screen : QGuiApplication::screens()) areas.append(screen->availableGeometry());
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        areas.append(screen->availableGeometry().adjusted(0, 0, 0, -caption));
+    }
     return areas;
+}
+
+void ResizeToFit(QWidget& window, const QSize& wanted) {
+    const QList<QRect> screens = UsableScreens();
+    window.resize(screens.isEmpty() ? wanted : wanted.boundedTo(screens.front().size()));
 }
 
 void BringForward(QWidget& window) {

@@ -16,12 +16,19 @@ struct TwipsPlacement {
 QRect ToPixels(const TwipsPlacement& placement, double twipsPerPixel);
 TwipsPlacement ToTwips(const QRect& pixels, double twipsPerPixel);
 
-// The rectangle, moved and cut as little as needed so that a window there can be seen and dragged: no larger
-// than the screen that shows most of it, its top edge on that screen, a hand's breadth of it in view.
-QRect BroughtIntoView(QRect wanted, const QList<QRect>& screens);
+// The rectangle for a window that its user may have put partly beside the screen: its top edge on the screen
+// that shows most of it, its bottom cut off there. A window of which less than a quarter would show comes
+// wholly into view.
+QRect BroughtIntoView(const QRect& wanted, const QList<QRect>& screens);
 
-// The usable areas of all screens, the primary one first.
+// The rectangle, moved onto the screen that shows most of it and cut where it is larger.
+QRect WhollyInView(QRect wanted, const QList<QRect>& screens);
+
+// The areas of all screens in which the insides of windows fit below their captions, the primary one first.
 QList<QRect> UsableScreens();
+
+// Gives a window the size it wants, or that of the primary screen where it is smaller.
+void ResizeToFit(QWidget& window, const QSize& wanted);
 
 // Shows a window, from the task bar too, in front of the others and gives it the focus.
 void BringForward(QWidget& window);
