@@ -37,6 +37,7 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
     layout->addLayout(row);
     const QFontMetrics metrics(txtContent_->font());
     ResizeToFit(*this, {metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34});
+    MoveToMiddle(*this);
     print->setFocus();
     Load();
 }

@@ -78,6 +78,14 @@ void ResizeToFit(QWidget& window, const QSize& wanted) {
     window.resize(screens.isEmpty() ? wanted : wanted.boundedTo(screens.front().size()));
 }
 
+void MoveToMiddle(QWidget& window) {
+    const QList<QRect> screens = UsableScreens();
+    if (screens.isEmpty()) return;
+    QRect place(QPoint(), window.size());
+    place.moveCenter(screens.front().center());
+    window.move(WhollyInView(place, screens).topLeft());
+}
+
 void BringForward(QWidget& window) {
     if (window.isMinimized()) window.showNormal();
     window.show();

@@ -30,6 +30,9 @@ QList<QRect> UsableScreens();
 // Gives a window the size it wants, or that of the primary screen where it is smaller.
 void ResizeToFit(QWidget& window, const QSize& wanted);
 
+// Moves a window to the middle of the primary screen, its caption in view.
+void MoveToMiddle(QWidget& window);
+
 // Shows a window, from the task bar too, in front of the others and gives it the focus.
 void BringForward(QWidget& window);
 
