@@ -66,7 +66,7 @@ bool Desktop::Start(const Path& installedDirectory) {
 bool Desktop::LoadOptions(const Path& installedDirectory) {
     const Path& directory = state_.applicationDirectory;
     Result<int> read = ReadOptions(directory, state_.options);
-    if (read && *read > 0) return true;
+    if (read && HoldsOptions(state_.options)) return true;
     const std::string fault =
         read ? "The file " + FindFile(directory, kOptionsFileName).string() + " holds no options."
              : read.message();
@@ -86,7 +86,7 @@ bool Desktop::LoadOptions(const Path& installedDirectory) {
         return false;
     }
     read = ReadOptions(directory, state_.options);
-    return read && *read > 0;
+    return read && HoldsOptions(state_.options);
 }
 
 void Desktop::ShowTitle() {

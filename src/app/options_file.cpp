@@ -1,5 +1,7 @@
 #include "app/options_file.h"
 
+#include <algorithm>
+
 namespace tolvanis {
 
 Result<int> ReadOptions(const Path& applicationDirectory, Options& options) {
@@ -18,6 +20,10 @@ Result<void> RestoreOptions(const Path& applicationDirectory, const Path& master
     const Result<std::string> content = ReadBytes(master);
     if (!content) return Fault{content.message()};
     return ReplaceFile(FindFile(applicationDirectory, kOptionsFileName), *content);
+}
+
+bool HoldsOptions(const Options& options) {
+    return std::ranges::any_of(options.table(), [](float value) { return value != 0.0F; });
 }
 
 }  // namespace tolvanis

@@ -21,4 +21,7 @@ Path OptionsMaster(const Path& applicationDirectory, const Path& installedDirect
 // Puts the master copy in the place of the directory's options file.
 Result<void> RestoreOptions(const Path& applicationDirectory, const Path& master);
 
+// Whether any option has a value: a file of other content reads as nothing but zeros.
+bool HoldsOptions(const Options& options);
+
 }  // namespace tolvanis

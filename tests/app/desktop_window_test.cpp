@@ -333,9 +333,9 @@ TEST_F(DesktopWindow, RubbishSettingsStillOpenWindowsInView) {
 }
 
 TEST_F(DesktopWindow, MissingOptionsAreRestoredOnlyWhenTheUserWantsIt) {
-    for (const bool empty : {false, true}) {
+    for (const char* content : {"", "no file", "\x7F\x45\x4C\x46 nothing\nlike options\n"}) {
         std::filesystem::remove(directory_.path() / "OPTIONS.OPT");
-        if (empty) directory_.Write("OPTIONS.OPT", "");
+        if (std::string(content) != "no file") directory_.Write("OPTIONS.OPT", content);
         messages_.answers = {Answer::No, Answer::Yes};
         EXPECT_FALSE(Open());
         EXPECT_TRUE(Open());
