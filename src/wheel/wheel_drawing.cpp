@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "text/numbers.h"
+#include "wheel/cusp_labels.h"
+#include "wheel/planet_labels.h"
 
 namespace tolvanis {
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
-// Where every line and text of the wheel stands, in wheel units.
+// Where the lines, signs, titles and aspect glyphs of the wheel stand, in wheel units, and what its labels
+// share.
 
 #include <span>
 #include <string>
@@ -75,18 +76,6 @@ std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& m
 // The seven title lines, one below the other from the surface's upper left corner.
 std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& measure, double indent,
                                   double top);
-
-// The degrees, sign and minutes of all cusps. American labels, and the European ones of Ascendant and
-// Descendant, stand where the table of cusp labels puts them. Other European labels stand in a row beside the
-// end of their line, as near to it as the signs, the `taken` rectangles and each other allow.
-std::vector<WheelText> CuspLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                  std::span<const Extent> taken);
-
-// The labels of all drawn glyphs, the glyph first. The items follow each other inwards along the glyph's ray
-// so that the text reads degrees, sign, minutes from left to right on both sides. Numbers stand side by side;
-// only where neighbours on a steep ray would meet, their labels run digit by digit.
-std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                    std::span<const PlacedGlyph> glyphs);
 
 struct AspectLine {
     int first = kSun;

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "wheel/planet_labels.h"
 #include "wheel/symbols.h"
 #include "wheel/wheel_page.h"
 #include "wheel/wheel_support.h"
