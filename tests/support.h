@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -96,6 +98,33 @@ class RecordingMessages : public Messages {
         if (prepared.size() > 1) prepared.erase(prepared.begin());
         return next;
     }
+};
+
+// What follows a name in a line of a names file.
+inline const std::string kRest = ",22 Sep 1949,9.05,A,5,073.59,40.45\r\n";
+
+// The record of the charts that only need some birth.
+inline const std::string kAnnSmith = "Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45";
+
+// Lets this process write files of at most so many bytes, as a disk that fills up would.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) : kept_(Take()) {
+        const rlimit limit{bytes, kept_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &kept_); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    static rlimit Take() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        ::getrlimit(RLIMIT_FSIZE, &limit);
+        return limit;
+    }
+    rlimit kept_;
 };
 
 // The entry of a record in the names-file form, which must be a good one.

@@ -40,24 +40,21 @@ TEST_F(AtlasTest, FillsWhatTheUserAccepts) {
 }
 
 TEST(AtlasResultTest, SplitsAtTheLetter) {
-    struct Case {
+    using C = Coordinate;
+    const struct {
         const char* text;
-        bool latitude;
-        std::optional<Coordinate> coordinate;
-    };
-    const Case cases[] = {
-        {"73W59", false, Coordinate{"73", "59", false}},
-        {"2E21", false, Coordinate{"2", "21", true}},
-        {"33S52", true, Coordinate{"33", "52", true}},
-        {"47N", true, Coordinate{"47", "0", false}},
-        {"7359", false, std::nullopt},
-        {"", true, std::nullopt},
-        {"1W2E3", false, std::nullopt},
-        {"33S52", false, std::nullopt},
-    };
-    for (const Case& test : cases) {
+        std::optional<C> longitude, latitude;
+    } cases[] = {{"73W59", C{"73", "59", false}, {}},
+                 {"2E21", C{"2", "21", true}, {}},
+                 {"33S52", {}, C{"33", "52", true}},
+                 {"47N", {}, C{"47", "0", false}},
+                 {"7359", {}, {}},
+                 {"", {}, {}},
+                 {"1W2E3", {}, {}}};
+    for (const auto& test : cases) {
         const Place place = PlaceOfAtlas({test.text, test.text, -1.0F});
-        EXPECT_EQ(test.latitude ? place.latitude : place.longitude, test.coordinate) << test.text;
+        EXPECT_EQ(place.longitude, test.longitude) << test.text;
+        EXPECT_EQ(place.latitude, test.latitude) << test.text;
     }
     NatalEntry entry;
     entry.longDeg = "10";
@@ -88,26 +85,22 @@ TEST_F(AtlasTest, TellsWhichFileIsMissing) {
     struct Case {
         const char* what;
         std::function<void()> prepare;
-        std::string text;
+        std::string file;
     };
     const Case cases[] = {
-        {"too few lines", [&] { Leave("a\nb\n\xFF\xFE"); },
-         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
-        {"no exchange file", [&] { std::filesystem::remove((directory / "TSRTEMP.TXT")); },
-         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
-        {"a directory in its place", [&] { std::filesystem::create_directory((directory / "TSRTEMP.TXT")); },
-         "Cannot find the file called TSRTEMP.TXT in the " + atlasDir + " directory."},
-        {"an empty path file", [&] { directory.Write("PCATPATH.TXT", ""); },
-         "Cannot find the file called PCATPATH in the " + atlasDir + " directory."},
-        {"no path file", [&] { std::filesystem::remove((directory / "PCATPATH.TXT")); },
-         "Cannot find the file called PCATPATH in the " + atlasDir + " directory."},
+        {"too few lines", [&] { Leave("a\nb\n\xFF\xFE"); }, "TSRTEMP.TXT"},
+        {"no exchange file", [&] { std::filesystem::remove(directory / "TSRTEMP.TXT"); }, "TSRTEMP.TXT"},
+        {"a directory", [&] { std::filesystem::create_directory(directory / "TSRTEMP.TXT"); }, "TSRTEMP.TXT"},
+        {"an empty path file", [&] { directory.Write("PCATPATH.TXT", ""); }, "PCATPATH"},
+        {"no path file", [&] { std::filesystem::remove(directory / "PCATPATH.TXT"); }, "PCATPATH"},
     };
     for (const Case& test : cases) {
         test.prepare();
         messages.told.clear();
         EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir)) << test.what;
         ASSERT_EQ(messages.told.size(), 1U) << test.what;
-        EXPECT_EQ(messages.told[0].text, test.text) << test.what;
+        EXPECT_EQ(messages.told[0].text,
+                  "Cannot find the file called " + test.file + " in the " + atlasDir + " directory.");
         EXPECT_EQ(messages.told[0].title, "Warning!");
     }
 }

@@ -17,8 +17,6 @@
 namespace tolvanis {
 namespace {
 
-const std::string kRest = ",22 Sep 1949,9.05,A,5,073.59,40.45\r\n";
-
 struct NamesWindowTest : ::testing::Test {
     ScratchDirectory directory;
     NamesState state;
@@ -51,15 +49,6 @@ struct NamesWindowTest : ::testing::Test {
         return content;
     }
 };
-
-TEST_F(NamesWindowTest, ShowsTheFileInFileOrder) {
-    Open("Zoë" + kRest + "Ann" + kRest);
-    EXPECT_EQ(window->windowTitle(), "Names");
-    EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text(), "MY.FIL");
-    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "2 names");
-    EXPECT_EQ(list()->model()->index(0, 0).data().toString(), QString::fromUtf8("Zoë"));
-    EXPECT_TRUE(picked.empty());
-}
 
 TEST_F(NamesWindowTest, ClickPicksTheFirstOfTheNameAndDoubleClickComputes) {
     Open("Bob,01 Jan 2000,10.30,P,-1,-002.21,-33.52\r\nAnn" + kRest + "Bob" + kRest);
@@ -133,7 +122,13 @@ TEST_F(NamesWindowTest, ALockedListOpensWhereItWas) {
 
 TEST_F(NamesWindowTest, TellsAFaultWithTheGoodRecordsShown) {
     Open("Ann" + kRest + "Bob,01 Jan 2000,12.00,P,-5.5\r\n");
-    EXPECT_EQ(messages.told.size(), 1U);
+    ASSERT_EQ(messages.told.size(), 1U);
+    EXPECT_EQ(messages.told[0].title, "Error!");
+    EXPECT_EQ(
+        messages.told[0].text,
+        "You have an error in the current names file. You need to check and see if you have entered the "
+        "data correctly and in the proper amount. Please correct the data by clicking on the Edit this "
+        "List command button in the Names window and edit the incorrect data.");
     EXPECT_EQ(list()->model()->rowCount(), 1);
     EXPECT_EQ(Find<QLabel>("lblProblem")->text(),
               "Line 2: the record has 5 fields instead of 7. The list ends before it.");
@@ -146,31 +141,16 @@ TEST_F(NamesWindowTest, TellsAFaultWithTheGoodRecordsShown) {
     EXPECT_EQ(state.rememberedIndex, 0);
 }
 
-TEST_F(NamesWindowTest, ButtonsSayWhatTheUserWants) {
-    Open("");
-    std::string wanted;
-    QObject::connect(window.get(), &Names::citiesRequested, [&] { wanted += "cities "; });
-    QObject::connect(window.get(), &Names::editListRequested, [&] { wanted += "edit "; });
-    QObject::connect(window.get(), &Names::changeListRequested, [&] { wanted += "change"; });
-    for (const char* name : {"Command1", "cmdEditList", "cmdNewFileList"}) {
-        QTest::mouseClick(Find<QPushButton>(name), Qt::LeftButton);
-    }
-    EXPECT_EQ(wanted, "cities edit change");
-}
-
-// The figure is printed; the bound only catches work that grows faster than the list.
+// The bound only catches work that grows faster than the list.
 TEST_F(NamesWindowTest, OpensAHundredThousandNamesAtOnce) {
     const std::string content = Persons(100'000);
     QElapsedTimer timer;
     timer.start();
     Open(content);
     window->grab();
-    const auto opened = timer.restart();
+    EXPECT_LT(timer.elapsed(), 3000);
     QTest::keyClicks(list(), "person 99999");
-    std::printf("100,000 names: opened and painted in %lld ms, 12 letters typed in %lld ms\n",
-                static_cast<long long>(opened), static_cast<long long>(timer.elapsed()));
     EXPECT_EQ(list()->currentIndex().row(), 99'999);
-    EXPECT_LT(opened, 3000);
 }
 
 }  // namespace

@@ -81,21 +81,17 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         const char* what;
         std::string script;
         bool found;
-        std::size_t told;  // messages and questions
     };
     const std::string leave = "printf 'x\\r\\n47N36\\r\\n122W20\\r\\n\\r\\n8\\r\\n' > TSRTEMP.TXT\n";
     const Case cases[] = {
-        {"a good one", "#!/bin/sh\nsleep 0.2\n" + leave, true, 1},
-        {"one that leaves no file", "#!/bin/sh\n", false, 1},
-        {"one that crashes", "#!/bin/sh\nkill -SEGV $$\n", false, 1},
-        {"one that crashes after its work", "#!/bin/sh\n" + leave + "kill -KILL $$\n", true, 1},
+        {"a good one", "#!/bin/sh\nsleep 0.2\n" + leave, true},
+        {"one that leaves no file", "#!/bin/sh\n", false},
+        {"one that crashes", "#!/bin/sh\nkill -SEGV $$\n", false},
+        {"one that crashes after its work", "#!/bin/sh\n" + leave + "kill -KILL $$\n", true},
         {"one that writes rubbish",
          "#!/bin/sh\nhead -c 5000 /dev/urandom > TSRTEMP.TXT\nprintf '\\n\\n\\n\\n\\n' >> TSRTEMP.TXT\n",
-         true, 1},
-        {"one that cannot be run",
-         "\x7f"
-         "ELF rubbish",
-         false, 1},
+         true},
+        {"one that cannot be run", "\177ELF rubbish", false},
     };
     for (const Case& test : cases) {
         const ScratchDirectory directory;
@@ -114,7 +110,7 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         const auto place = lookup.LookUp(atlasDir);
         timer.stop();
         EXPECT_EQ(place.has_value(), test.found) << test.what;
-        EXPECT_EQ(messages.told.size(), test.told) << test.what;
+        EXPECT_EQ(messages.told.size(), 1U) << test.what;
         if (std::string(test.what) == "a good one") {
             EXPECT_EQ(place->longitude->degrees, "122");
             EXPECT_GT(ticks, 3) << "the windows stay alive";
