@@ -99,14 +99,5 @@ TEST(AspectGrid, MinutesCarryInTheList) {
     EXPECT_THAT(GridOf(chart, options), Contains("  Sun        Moon        54d 30m          5d 30m"));
 }
 
-// Beside the computation's own answers: the South Node is always opposite the North Node.
-TEST(AspectGrid, NodesAreOpposed) {
-    Options options;
-    for (const auto* record : {"a,22 Sep 1949,9.05,A,5,073.59,40.45", "b,1 Jan 0100,12.00,A,0,0,0"}) {
-        const FoundAspects found = FindAspects(ChartOf(record), options);
-        EXPECT_TRUE(found.Has(11, 12, kOpposition)) << record;
-    }
-}
-
 }  // namespace
 }  // namespace tolvanis

@@ -13,15 +13,11 @@ std::vector<std::size_t> Sizes(const std::vector<std::string>& lines, double lin
     return sizes;
 }
 
-std::vector<std::string> Lines(std::size_t count) {
-    return std::vector<std::string>(count, "x");
-}
-
 TEST(PrintPages, FillEverySheet) {
     using S = std::vector<std::size_t>;
-    EXPECT_EQ(Sizes(Lines(130), 60), (S{60, 60, 10}));
-    EXPECT_EQ(Sizes(Lines(120), 60), (S{60, 60}));
-    EXPECT_EQ(Sizes(Lines(130), 0), (S{130}));
+    EXPECT_EQ(Sizes(std::vector<std::string>(130, "x"), 60), (S{60, 60, 10}));
+    EXPECT_EQ(Sizes(std::vector<std::string>(120, "x"), 60), (S{60, 60}));
+    EXPECT_EQ(Sizes(std::vector<std::string>(130, "x"), 0), (S{130}));
     EXPECT_EQ(Sizes({}, 60), S{});
     EXPECT_EQ(Sizes({"a", "", "  ", ""}, 1), (S{1})) << "no empty sheet at the end";
     EXPECT_EQ(Sizes({"", "a"}, 60), (S{2})) << "empty lines inside stay";

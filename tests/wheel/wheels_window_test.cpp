@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "platform/qt/symbol_font.h"
+#include "support/window_user.h"
 #include "wheel/symbols.h"
 #include "wheel/wheel_export_window.h"
 #include "wheel/wheel_page.h"
@@ -18,38 +19,23 @@
 namespace tolvanis {
 namespace {
 
-class AnsweringDialogs : public FileDialogs {
-  public:
-    std::string answer;  // empty cancels
-    std::string ChooseFile(const std::string&, const std::string&) override { return answer; }
-    std::string ChooseSaveFile(const SaveRequest&) override { return answer; }
-};
-
-void CopyAppFiles(const ScratchDirectory& directory) {
-    for (const char* name : {"NATAL.ORB", "HCDATA.DAT", "RADIUS.DAT"}) {
-        std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/") + name, directory / name);
-    }
-    for (const char* name : {"HORARY.ttf", "HORARY-Bold.ttf"}) {
-        std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/../fonts/") + name, directory / name);
-    }
-}
-
 struct WheelsTest : ::testing::Test {
     ScratchDirectory directory;
     RecordingMessages messages;
-    AnsweringDialogs dialogs;
+    RecordedDialogs dialogs;
     Options options = DeliveredOptions();
     WheelData data = DeliveredWheelData();
-    WheelSnapshot chart = SnapshotOf("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45");
+    WheelSnapshot chart = SnapshotOf(kAnnSmith);
     WheelContext context{data, options, directory.path(), {dialogs, messages, directory.path()}};
 
-    void SetUp() override { CopyAppFiles(directory); }
-
-    static QAction& Item(Wheels& wheels, const char* name) {
-        auto* action = wheels.findChild<QAction*>(QLatin1String(name));
-        if (action == nullptr) throw std::runtime_error(std::string("no item ") + name);
-        return *action;
+    void SetUp() override {
+        for (const char* name : {"data/NATAL.ORB", "data/HCDATA.DAT", "data/RADIUS.DAT", "fonts/HORARY.ttf",
+                                 "fonts/HORARY-Bold.ttf"}) {
+            std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/../") + name, directory.path());
+        }
+        ASSERT_TRUE(LoadSymbolFont(directory.path()));
     }
+    static QAction& Item(Wheels& wheels, const char* name) { return Find<QAction>(wheels, name); }
 };
 
 TEST_F(WheelsTest, MenuAndCaption) {
@@ -67,12 +53,8 @@ TEST_F(WheelsTest, MenuAndCaption) {
         EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
     }
     EXPECT_EQ(changed.takeLast().at(0).toInt(), 0);
-}
-
-TEST_F(WheelsTest, TypesOtherThanOneAreAmerican) {
-    Wheels wheels(chart, context, 7);
-    EXPECT_TRUE(Item(wheels, "mnuCTAmerican").isChecked());
-    EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
+    Wheels unknownType(chart, context, 7);
+    EXPECT_TRUE(Item(unknownType, "mnuCTAmerican").isChecked());
 }
 
 TEST_F(WheelsTest, EscAndTheRightButtonCallTheMainWindow) {
@@ -100,10 +82,9 @@ TEST_F(WheelsTest, AspectWindowIsRebuiltFromTheSelectedOrbs) {
     Item(wheels, "mnuAspects").trigger();
     const auto text = [&] { return wheels.aspectWindow()->findChild<QPlainTextEdit*>()->toPlainText(); };
     EXPECT_TRUE(text().startsWith(QString::fromStdString("  " + PointGlyph(kSun) + " ")));
-    directory.Write(
-        "NONE.ORB",
-        "-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n-1\r\n");
-    dialogs.answer = (directory / "NONE.ORB").string();
+    std::string noOrbs;
+    for (int i = 0; i < 16; ++i) noOrbs += "-1\r\n";
+    dialogs.answer = directory.Write("NONE.ORB", noOrbs).string();
     Item(wheels, "mnuOrbsChange").trigger();
     EXPECT_EQ(text(), QString());
     dialogs.answer.clear();
@@ -191,7 +172,14 @@ bool Touch(const Extent& a, const Extent& b) {
     return std::hypot(x, y) < 1.0;
 }
 
-void ExpectClear(const TextCollector& surface, const std::string& what) {
+// Draws on a picture of that size and expects all texts inside of it and clear of each other.
+template <typename Draw>
+void ExpectClear(QSize size, const std::string& what, Draw draw) {
+    TextOutlines outlines;
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    TextCollector surface(painter, image.rect(), outlines);
+    draw(surface);
     const auto& inks = surface.inks;
     for (std::size_t i = 0; i < inks.size(); ++i) {
         const auto& [text, ink] = inks[i];
@@ -199,48 +187,33 @@ void ExpectClear(const TextCollector& surface, const std::string& what) {
                     ink.top <= surface.extent.top && ink.bottom >= surface.extent.bottom)
             << what << ": \"" << text << "\" leaves the picture";
         for (std::size_t j = 0; j < i; ++j) {
-            EXPECT_FALSE(Touch(ink, inks[j].second)) << what << ": \"" << inks[j].first << "\" meets \""
-                                                     << text << "\" at " << ink.left << ", " << ink.top;
+            EXPECT_FALSE(Touch(ink, inks[j].second))
+                << what << ' ' << size.width() << ": \"" << inks[j].first << "\" meets \"" << text << '"';
         }
     }
 }
 
 TEST_F(WheelsTest, TextsOfOrdinaryChartsStandClear) {
-    ASSERT_TRUE(LoadSymbolFont(directory.path()));
-    TextOutlines outlines;
+    OrbTable orbs{};
+    ASSERT_TRUE(ReadOrbsFile(directory / "NATAL.ORB", orbs));
+    const std::vector<std::string> personal = {"Jane Doe, Astrologer",
+                                               "12 Long and Winding Lane, Upper Slaughter, Gloucestershire",
+                                               "Telephone 555-0123"};
     for (const char* record : kOrdinaryBirths) {
         const WheelSnapshot birth = SnapshotOf(record);
         for (const ChartType type : {ChartType::American, ChartType::European}) {
+            const int number = static_cast<int>(type);
+            const std::string what = record + std::to_string(number);
             for (const QSize size : {QSize(700, 700), QSize(937, 740), QSize(1600, 900), QSize(600, 900)}) {
-                QImage image(size, QImage::Format_RGB32);
-                QPainter painter(&image);
-                TextCollector surface(painter, image.rect(), outlines);
-                DrawWheel(surface, {birth, data, options, type, size.width() * 1.0, size.height() * 1.0});
-                ExpectClear(surface, std::string(record) + " " + std::to_string(static_cast<int>(type)) +
-                                         " " + std::to_string(size.width()));
+                ExpectClear(size, what, [&](DrawingSurface& surface) {
+                    DrawWheel(surface, {birth, data, options, type, size.width() * 1.0, size.height() * 1.0});
+                });
             }
-        }
-    }
-}
-
-TEST_F(WheelsTest, TextsOfPagesStandClear) {
-    ASSERT_TRUE(LoadSymbolFont(directory.path()));
-    TextOutlines outlines;
-    OrbTable orbs{};
-    ASSERT_TRUE(ReadOrbsFile(directory / "NATAL.ORB", orbs));
-    for (const char* record : kOrdinaryBirths) {
-        const WheelSnapshot birth = SnapshotOf(record);
-        for (const int type : {0, 1}) {
-            for (const QSize size : {QSize(523, 770), QSize(540, 720)}) {  // A4 and Letter less half an inch
-                QImage image(size, QImage::Format_RGB32);
-                QPainter painter(&image);
-                TextCollector surface(painter, image.rect(), outlines);
-                const std::vector<std::string> personal = {
-                    "Jane Doe, Astrologer", "12 Long and Winding Lane, Upper Slaughter, Gloucestershire",
-                    "Telephone 555-0123"};
-                DrawPage(surface, {birth, data, options, type, personal, orbs, size.width() * 1.0,
-                                   size.height() * 1.0});
-                ExpectClear(surface, std::string(record) + " page " + std::to_string(type));
+            for (const QSize page : {QSize(523, 770), QSize(540, 720)}) {  // A4 and Letter less half an inch
+                ExpectClear(page, what + " page", [&](DrawingSurface& surface) {
+                    DrawPage(surface, {birth, data, options, number, personal, orbs, page.width() * 1.0,
+                                       page.height() * 1.0});
+                });
             }
         }
     }
@@ -248,7 +221,6 @@ TEST_F(WheelsTest, TextsOfPagesStandClear) {
 
 // Tiny and odd windows, every latitude that can be computed, sizes of zero in the options: nothing fails.
 TEST_F(WheelsTest, OddWindowsAndOptionsStillDraw) {
-    ASSERT_TRUE(LoadSymbolFont(directory.path()));
     const WheelSnapshot north = SnapshotOf("Far North,21 Jun 1985,11.40,P,-2,-018.57,65.40");
     for (int option = 60; option <= 114; ++option) options[option] = 0.0F;
     for (const QSize size : {QSize(1, 1), QSize(2000, 20), QSize(20, 2000), QSize(300, 300)}) {
