@@ -2,6 +2,7 @@
 // The table of positions from a modern theory, and this program's positions for the same instants.
 
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -26,14 +27,9 @@ inline std::vector<ReferencePositions> ReadReferencePositions(const Path& path) 
     LineReader reader(path);
     for (std::string line; reader.Next(line);) {
         if (line.empty() || line[0] < '0' || line[0] > '9') continue;
-        std::vector<std::string> cells(1);
-        for (const char c : line) {
-            if (c == '\t') {
-                cells.emplace_back();
-            } else {
-                cells.back() += c;
-            }
-        }
+        std::vector<std::string> cells;
+        std::istringstream rest(line);
+        for (std::string cell; std::getline(rest, cell, '\t');) cells.push_back(cell);
         ReferencePositions row;
         row.julianDay = LeadingNumber(cells[0]);
         row.year = static_cast<int>(LeadingNumber(cells[1]));

@@ -72,8 +72,6 @@ TEST(Positions, AgainstTheReferenceTable) {
 
 // What the sky never does. Stands against a wrong sign or frame that a tolerance would let pass.
 TEST(Positions, Impossibilities) {
-    int moonRounds = 0;
-    double lastMoon = 0;
     for (int day = 0; day < 200 * 365; day += 9) {
         const double julianDay = 2378497.0 + day;  // from 1800
         const auto today = GeocentricLongitudesAt(julianDay);
@@ -95,10 +93,7 @@ TEST(Positions, Impossibilities) {
                 ASSERT_GT(motion, 0) << PointName(body);
             }
         }
-        moonRounds += today[kMoon] < lastMoon ? 1 : 0;
-        lastMoon = today[kMoon];
     }
-    EXPECT_NEAR(moonRounds, 200 * 365 / 27.321582, 2);
 }
 
 }  // namespace

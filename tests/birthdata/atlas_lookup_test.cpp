@@ -37,6 +37,10 @@ TEST_F(AtlasTest, FillsWhatTheUserAccepts) {
               "Accept following data? \r\n\r\nLongitude = 122W20\r\nLatitude  = 47N36\r\nTime zone =  8");
     messages.answers = {Answer::No};
     EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir));
+    outcome = ProgramRun::Abandoned;
+    messages.told.clear();
+    EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir));
+    EXPECT_TRUE(messages.told.empty()) << "an abandoned lookup says nothing";
 }
 
 TEST(AtlasResultTest, SplitsAtTheLetter) {
@@ -112,25 +116,6 @@ TEST_F(AtlasTest, ShowsOnlyTheStartOfRubbish) {
     ASSERT_TRUE(place);
     EXPECT_FALSE(place->longitude || place->latitude);
     EXPECT_LT(messages.told.at(0).text.size(), 200U);
-}
-
-TEST_F(AtlasTest, RunsOnceAtATime) {
-    Leave("\n1N2\n3E4\n\n-1\n");
-    AtlasLookup* running = nullptr;
-    int inner = 0;
-    AtlasLookup lookup(
-        [&](const Path&) {
-            EXPECT_TRUE(running->IsRunning());
-            std::string dir = atlasDir;
-            inner += running->LookUp(dir) ? 1 : 0;
-            return ProgramRun::Abandoned;
-        },
-        messages);
-    running = &lookup;
-    EXPECT_FALSE(lookup.LookUp(atlasDir));
-    EXPECT_EQ(inner, 0);
-    EXPECT_TRUE(messages.told.empty()) << "an abandoned lookup says nothing";
-    EXPECT_FALSE(lookup.IsRunning());
 }
 
 }  // namespace

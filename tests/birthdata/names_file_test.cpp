@@ -69,35 +69,5 @@ TEST(NamesFileTest, FindsTheFirstRecordWithExactlyTheName) {
     EXPECT_EQ(FindName(list, "An"), std::nullopt);
 }
 
-TEST(NamesFileTest, RestoresALockedPosition) {
-    struct Case {
-        bool locked, justSaved;
-        int remembered;
-        std::size_t count;
-        int top, selected;  // -1 when not restored
-    };
-    constexpr Case kCases[] = {{true, false, 20, 30, 8, 20}, {true, false, 40, 30, 17, 29},
-                               {true, false, 11, 30, 0, 11}, {true, false, -1, 30, 0, 0},
-                               {true, false, 0, 0, -1, -1},  {false, false, 20, 30, -1, -1},
-                               {true, true, 20, 30, -1, -1}};
-    for (const Case& test : kCases) {
-        const auto position =
-            RestoredPosition({test.locked, test.remembered, test.justSaved, -1}, test.count);
-        EXPECT_EQ(position ? position->top : -1, test.top) << test.remembered;
-        EXPECT_EQ(position ? position->selected : -1, test.selected) << test.remembered;
-    }
-}
-
-TEST(NamesFileTest, HoldsAMillionRecords) {
-    const ScratchDirectory directory;
-    std::string content;
-    constexpr int kCount = 1'000'000;
-    for (int i = 0; i < kCount; ++i) content += "Person " + std::to_string(i) + kAnn.substr(3) + "\r\n";
-    const RecordList list = ReadNamesFile(directory.Write("BIG.FIL", content));
-    ASSERT_EQ(list.size(), std::size_t{kCount});
-    EXPECT_EQ(NameAt(list, kCount - 1), "Person 999999");
-    EXPECT_EQ(NameRecordAt(list, 0).latitude, "40.45");
-}
-
 }  // namespace
 }  // namespace tolvanis

@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "support.h"
+#include "support/window_user.h"
 
 namespace tolvanis {
 namespace {
@@ -35,14 +36,10 @@ struct NamesWindowTest : ::testing::Test {
     }
     template <typename Widget>
     Widget* Find(const char* name) const {
-        return window->findChild<Widget*>(QLatin1String(name));
+        return &tolvanis::Find<Widget>(*window, name);
     }
     QListView* list() const { return Find<QListView>("NamesOnFile"); }
-    void Click(int row, bool twice = false) const {
-        const QPoint at = list()->visualRect(list()->model()->index(row, 0)).center();
-        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
-        if (twice) QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, at);
-    }
+    void Click(int row, bool twice = false) const { ClickRow(*list(), row, twice); }
     static std::string Persons(int count) {
         std::string content;
         for (int i = 0; i < count; ++i) content += "Person " + std::to_string(i) + kRest;
@@ -85,6 +82,7 @@ TEST_F(NamesWindowTest, FindBoxGoesThroughWhatFits) {
     Open("Anna Lee" + kRest + "Bruce Lee" + kRest + "Leonie" + kRest + "Max" + kRest);
     auto* find = Find<QLineEdit>("txtFind");
     QTest::keyClicks(find, "lee");
+    EXPECT_EQ(window->windowTitle(), "Names");
     EXPECT_EQ(Find<QLabel>("lblCount")->text(), "1 of 2");
     EXPECT_EQ(list()->currentIndex().row(), 0);
     QTest::keyClick(find, Qt::Key_Down);
@@ -113,6 +111,10 @@ TEST_F(NamesWindowTest, ALockedListOpensWhereItWas) {
     state.rememberedIndex = 70;
     Open(Persons(60));
     EXPECT_EQ(list()->currentIndex().row(), 59);
+    state.rememberedIndex = -1;
+    Open(Persons(60));
+    EXPECT_EQ(list()->currentIndex().row(), 0);
+    Open("");
     state.justSaved = true;
     Open(Persons(60));
     EXPECT_FALSE(list()->selectionModel()->hasSelection());

@@ -14,15 +14,10 @@
 #include "birthdata/time_zone_window.h"
 #include "platform/qt/external_program.h"
 #include "support.h"
+#include "support/window_user.h"
 
 namespace tolvanis {
 namespace {
-
-void Click(QListView* list, int row) {
-    list->scrollTo(list->model()->index(row, 0));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualRect(list->model()->index(row, 0)).center());
-}
 
 TEST(CitiesWindowTest, ClickGivesThePlaceOfTheFirstSuchCity) {
     const ScratchDirectory directory;
@@ -35,44 +30,30 @@ TEST(CitiesWindowTest, ClickGivesThePlaceOfTheFirstSuchCity) {
     QObject::connect(&window, &Geograph::placePicked, [&](const Place& place) { places.push_back(place); });
     window.show();
     window.Load();
-    auto* list = window.findChild<QListView*>("CitiesOnFile");
+    auto& find = Find<QLineEdit>(window, "txtFind");
     EXPECT_EQ(window.windowTitle(), "Cities");
-    EXPECT_EQ(window.findChild<QLabel*>("lblCitiesOnFile")->text(), "A.LL");
+    EXPECT_EQ(Find<QLabel>(window, "lblCitiesOnFile").text(), "A.LL");
     EXPECT_EQ(messages.told.size(), 1U);
-    Click(list, 2);
+    ClickRow(Find<QListView>(window, "CitiesOnFile"), 2);
     ASSERT_EQ(places.size(), 1U);
     EXPECT_EQ(places[0], (Place{Coordinate{"7", "27", true}, Coordinate{"46", "57", false}, "-1"}));
     EXPECT_TRUE(window.isVisible());
-    QTest::keyClicks(window.findChild<QLineEdit*>("txtFind"), "rom");
-    QTest::keyClick(window.findChild<QLineEdit*>("txtFind"), Qt::Key_Return);
+    QTest::keyClicks(&find, "rom");
+    QTest::keyClick(&find, Qt::Key_Return);
     EXPECT_EQ(places.at(1).longitude->degrees, "12");
-}
-
-TEST(TimeZoneWindowTest, ClickGivesOffsetAndSide) {
-    const ScratchDirectory directory;
-    RecordingMessages messages;
-    TimeZone window(directory.Write("TZ.DAT", "India,IST,-5.5\nGreenwich,GMT,0\nMid-Ocean,MO,2\n"), messages);
-    std::string chosen;
-    QObject::connect(&window, &TimeZone::zonePicked,
-                     [&](const std::string& zone, bool east) { chosen += zone + (east ? "E " : "W "); });
-    window.show();
-    window.Load();
-    auto* list = window.findChild<QListView*>("lstTimeZones");
-    for (int row = 0; row < 3; ++row) Click(list, row);
-    EXPECT_EQ(chosen, "-5.5E 0W ");
-    EXPECT_EQ(messages.told.at(0).text, "The file TZ.DAT is corrupt.");
-    QTest::mouseClick(window.findChild<QPushButton*>("Command1"), Qt::LeftButton);
-    EXPECT_FALSE(window.isVisible());
 }
 
 TEST(TimeZoneWindowTest, DeliveredZonesCanAllBePicked) {
     RecordingMessages messages;
     TimeZone window(Path(DELIVERED_DATA_DIR) / "TZ.DAT", messages);
+    window.show();
     window.Load();
-    const auto* list = window.findChild<QListView*>("lstTimeZones");
-    for (int row = 0; row < list->model()->rowCount(); ++row) window.lstTimeZones_Click(row);
+    const int rows = Find<QListView>(window, "lstTimeZones").model()->rowCount();
+    for (int row = 0; row < rows; ++row) window.lstTimeZones_Click(row);
     EXPECT_TRUE(messages.told.empty());
-    EXPECT_GT(list->model()->rowCount(), 60);
+    EXPECT_GT(rows, 60);
+    Press(window, "Command1");
+    EXPECT_FALSE(window.isVisible());
 }
 
 // An atlas that does what its shell script says.

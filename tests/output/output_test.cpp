@@ -44,17 +44,5 @@ TEST(DataBuffer, ListingsStartAfreshWhileTheBufferKeeps) {
     EXPECT_EQ(buffer.ListingLineCount(), 0U);
 }
 
-TEST(DataBuffer, AFullBufferKeepsWhatItHasAndSaysSoOnce) {
-    DataBuffer buffer;
-    for (std::size_t i = 0; i < DataBuffer::kMostLines; ++i) buffer.AppendLine(std::to_string(i));
-    EXPECT_FALSE(buffer.TakeOverflowNotice());
-    buffer.AppendLine("too much");
-    EXPECT_EQ(buffer.BufferLineCount(), 32767U);
-    EXPECT_EQ(buffer.BufferLines().back(), "32766");
-    EXPECT_TRUE(buffer.TakeOverflowNotice());
-    buffer.AppendLine("too much");
-    EXPECT_FALSE(buffer.TakeOverflowNotice());
-}
-
 }  // namespace
 }  // namespace tolvanis

@@ -64,20 +64,6 @@ TEST(Files, ReplacingKeepsModeFollowsLinksAndLeavesNothingBehind) {
     EXPECT_EQ(directory.Names().size(), 2U);
 }
 
-TEST(Files, BackupHoldsTheContentBefore) {
-    const ScratchDirectory directory;
-    const auto path = directory.Write("N.FIL", "first");
-    const auto backup = directory / "N.OLD";
-    EXPECT_TRUE(*ReplaceIfUnchanged(path, backup, "first", "second"));
-    EXPECT_EQ(FileContent(backup), "first");
-    EXPECT_TRUE(*ReplaceIfUnchanged(path, backup, "second", "third"));
-    EXPECT_EQ(FileContent(backup), "second");
-    EXPECT_FALSE(*ReplaceIfUnchanged(path, backup, "second", "fourth")) << "somebody else wrote the third";
-    EXPECT_EQ(FileContent(backup), "second");
-    EXPECT_EQ(FileContent(path), "third");
-    EXPECT_EQ(directory.Names().size(), 2U);
-}
-
 TEST(Files, AFaultLeavesTheOldFileWhole) {
     const ScratchDirectory directory;
     const auto path = directory.Write("a.txt", "old");

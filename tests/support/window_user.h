@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QWidget>
@@ -65,6 +66,14 @@ Control& Find(QObject& window, const char* name) {
     auto* control = window.findChild<Control*>(QLatin1String(name));
     if (control == nullptr) throw std::runtime_error(std::string("there is no control ") + name);
     return *control;
+}
+
+inline void ClickRow(QListView& list, int row, bool twice = false) {
+    const QModelIndex index = list.model()->index(row, 0);
+    list.scrollTo(index);
+    const QPoint at = list.visualRect(index).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
 }
 
 inline void Press(QWidget& window, const char* button) {

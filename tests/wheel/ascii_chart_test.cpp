@@ -53,18 +53,6 @@ TEST(AsciiChart, DrawsToTheCharacter) {
     for (std::size_t row = 0; row < rows.size(); ++row) EXPECT_EQ(rows[row], expected[row]) << row + 1;
 }
 
-TEST(AsciiChart, HighestLongitudeTakesTheFirstPlace) {
-    WheelSnapshot chart = EqualHouses(0.0);
-    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 35.0 + 0.1 * point);
-    Put(chart, kSun, 5.5);  // alone with the Moon in the first house
-    Put(chart, kMoon, 10.0);
-    Put(chart, kVenus, 100.0);  // alone in the fourth, early
-    const auto rows = DrawAsciiChart(chart);
-    EXPECT_EQ(At(rows, 14, 4), "MO10Ari");
-    EXPECT_EQ(At(rows, 15, 4), "SU05Ari");
-    EXPECT_EQ(At(rows, 24, 36), "VE10Can");
-}
-
 TEST(AsciiChart, CrowdedHousesLeaveOutNodesAndRunOn) {
     WheelSnapshot chart = EqualHouses(0.0);
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 330.5 + point);  // the twelfth

@@ -135,6 +135,14 @@ TEST_F(DrawingTest, EverySignStandsInTheRingOnce) {
     EXPECT_EQ(SignRing(chart.HouseCusps, ChartType::European)[4].angle, 180.0 + 135.0 - 122.0);
 }
 
+TEST_F(DrawingTest, SignsOnTheLeftStandClearOfTheCircle) {
+    chart = SpreadChart(0.0);
+    const WheelPlan plan{chart, data, options, kScreenForm, ChartType::European, WindowExtent(1, 1)};
+    const WheelText aries = SignRingTexts(plan, surface).front();  // at 195 degrees
+    const double width = surface.Measure(aries.text, aries.font).width;
+    EXPECT_NEAR(aries.corner.x, 236.0 * CosDeg(195.0) - 20.0 + (20.0 - width) / 2, 1e-9);
+}
+
 TEST_F(DrawingTest, LabelsReadDegreesSignMinutesOnBothSides) {
     chart = EqualHouses(0.0);
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 12.0 * point);

@@ -47,30 +47,17 @@ TEST(WheelTables, DeliveredGlyphsLieInTheRingAndLabelsOutsideTheCircle) {
     }
 }
 
-TEST(OrbsFile, ReadsLinesUpToTheFirstEmptyOne) {
+TEST(OrbsFile, HoldsSeventeenLines) {
     const ScratchDirectory directory;
     std::string seventeen;
     for (int i = 1; i <= 17; ++i) seventeen += std::to_string(i) + ".5\r\n";
-    const struct {
-        const char* what;
-        std::string content;
-        float second, third, last;  // slots 2, 3 and 17; 99 is what they held before
-    } cases[] = {
-        {"a label behind the number", "8.0    conjunction\r\n6.5 sextile\r\n", 6.5F, 99.0F, 99.0F},
-        {"an empty third line", "8\r\n7\r\n\r\n6\r\n", 7.0F, 99.0F, 99.0F},
-        {"eighteen behind an empty line", seventeen + "\r\n1\r\n", 2.5F, 3.5F, 17.5F},
-        {"letters", "eight\r\nsix\r\n", 0.0F, 99.0F, 99.0F},
-        {"only seven characters count", "1\r\n  12.3456789\r\n", 12.34F, 99.0F, 99.0F},
-        {"empty", "", 99.0F, 99.0F, 99.0F},
-    };
-    OrbTable orbs;
-    for (const auto& c : cases) {
-        orbs.fill(99.0F);
-        EXPECT_TRUE(ReadOrbsFile(directory.Write("T.ORB", c.content), orbs)) << c.what;
-        EXPECT_FLOAT_EQ(orbs[2], c.second) << c.what;
-        EXPECT_FLOAT_EQ(orbs[3], c.third) << c.what;
-        EXPECT_FLOAT_EQ(orbs[17], c.last) << c.what;
-    }
+    OrbTable orbs{};
+    EXPECT_TRUE(ReadOrbsFile(directory.Write("T.ORB", seventeen + "\r\n1\r\n"), orbs))
+        << "an empty line ends it";
+    EXPECT_EQ(orbs[17], 17.5F);
+    EXPECT_TRUE(ReadOrbsFile(directory.Write("T.ORB", "8.0    conjunction\r\n"), orbs));
+    EXPECT_EQ(orbs[1], 8.0F);
+    EXPECT_EQ(orbs[2], 2.5F) << "what a short file does not name stays";
     const Path tooLong = directory.Write("T.ORB", seventeen + "1\r\n");
     EXPECT_THAT(ReadOrbsFile(tooLong, orbs).message(), ::testing::HasSubstr("18 lines"));
     EXPECT_THAT(ReadOrbsFile(directory / "NONE.ORB", orbs).message(), ::testing::HasSubstr("NONE.ORB"));
