@@ -178,11 +178,9 @@ TEST(Houses, EverySystemIsARingOfItsOwn) {
             const HouseCusps cusps = ComputeHouseCusps(info.system, sky.frame);
             double round = 0;
             for (int house = 1; house <= 12; ++house) {
-                const double next = cusps.OfHouse(house % 12 + 1);
-                round += Norm360(next - cusps.OfHouse(house));
-                EXPECT_NEAR(
-                    ArcBetween(cusps.OfHouse((house + 5) % 12 + 1), Norm360(cusps.OfHouse(house) + 180)), 0,
-                    1e-5);
+                const double cusp = cusps.OfHouse(house);
+                round += Norm360(cusps.OfHouse(house % 12 + 1) - cusp);
+                EXPECT_NEAR(ArcBetween(cusps.OfHouse((house + 5) % 12 + 1), Norm360(cusp + 180)), 0, 1e-5);
             }
             EXPECT_NEAR(round, 360, 1e-6) << info.name;
             for (const HouseCusps& other : seen)

@@ -219,6 +219,16 @@ TEST(NameSavingTest, RefusesWithoutABackup) {
     EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"}));
 }
 
+TEST(NameSavingTest, BacksUpWhatALinkPointsTo) {
+    const ScratchDirectory directory;
+    directory.Write("REAL.FIL", "Bob" + kOld);
+    std::filesystem::create_symlink("REAL.FIL", directory / "MY.FIL");
+    RecordingMessages messages;
+    EXPECT_TRUE(SaveTo(directory / "MY.FIL", "Ann", messages));
+    EXPECT_EQ(FileContent(directory / "REAL.FIL"), "Bob" + kOld + "Ann" + kRest);
+    EXPECT_EQ(FileContent(directory / "MY.OLD"), "Bob" + kOld);
+}
+
 // The whole records "Person 0", "Person 1" ... of a list, or -1 when it holds anything else.
 int CountPersons(const std::string& content) {
     std::istringstream lines(content);

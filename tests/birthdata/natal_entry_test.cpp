@@ -13,6 +13,11 @@ using testing::HasSubstr;
 const NatalEntry kGood = {"Ann", "9",  "22", "1949", "9",  "5",  false,
                           "5",   "73", "59", false,  "40", "45", false};
 
+TEST(NatalEntry, AnHourThatIsNoNumberStays) {
+    EXPECT_EQ(ApplyHourRule("x").text, "x");
+    EXPECT_EQ(ApplyHourRule("x").outcome, HourRule::Outcome::TooFast);
+}
+
 TEST(NatalEntry, NowAtHome) {
     Options options;
     const float home[] = {-5.75F, 85, 19, 1, 27, 43};
