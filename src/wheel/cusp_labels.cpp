@@ -82,14 +82,22 @@ bool Inside(const Extent& box, const Extent& surface, double margin) {
 constexpr double kCircleGap = 3.0;  // between the outer circle and a label
 constexpr double kLabelGap = 2.5;   // between a label and other texts
 constexpr double kMostOutwards = 60.0;
-constexpr double kMostAside = 72.0;
+constexpr double kMostAside = 130.0;
+
+// Moves a row that would be cut off by the surface's edge back onto it.
+Point BroughtInside(Point start, const LabelRow& row, const Extent& surface) {
+    const double half = row.height / 2;
+    start.x = std::clamp(start.x, surface.left + kLabelGap, surface.right - kLabelGap - row.width);
+    start.y = std::clamp(start.y, surface.bottom + kLabelGap + half, surface.top - kLabelGap - half);
+    return start;
+}
 
 // The start of a row at the ray, moved outwards and aside as little as keeps it clear of everything taken.
 Point FindRowPlace(const LabelRow& row, double angle, std::span<const Extent> taken, const Extent& surface) {
     const double first = kOuterRadius + kCircleGap + 1.0;
     const SinCos ray = SinCosDeg(angle);
     const double shift = RowShift(angle);
-    Point best{first * ray.cos - shift, first * ray.sin};
+    Point best = BroughtInside({first * ray.cos - shift, first * ray.sin}, row, surface);
     double bestCost = std::numeric_limits<double>::max();
     for (double outwards = 0.0; outwards <= kMostOutwards && outwards < bestCost; outwards += 1.5) {
         for (double aside = -kMostAside; aside <= kMostAside; aside += 1.5) {
