@@ -58,6 +58,10 @@ TEST_F(NatalInputWindow, BoxesTakeOnlyTheirCharacters) {
     }
     Paste("txtYear", "19 x 4\n9");
     EXPECT_EQ(Text("txtYear"), "1949");
+    // Nor does anything else replace the marked text.
+    Type(*window_, "txtYear", "x ");
+    Paste("txtYear", "letters");
+    EXPECT_EQ(Text("txtYear"), "1949");
 }
 
 TEST_F(NatalInputWindow, FocusSelectsTheWholeText) {

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <algorithm>
 
 namespace tolvanis {
@@ -16,6 +17,8 @@ class CharacterFilter : public QValidator {
         const auto refused = [&](QChar c) { return !accepted_.contains(c); };
         const QString front = input.left(position);
         position -= static_cast<int>(std::count_if(front.begin(), front.end(), refused));
+        const bool nothingLeft = std::ranges::all_of(input, refused);
+        if (nothingLeft && !input.isEmpty()) return Invalid;  // leaves the box as it was
         input.removeIf(refused);
         return Acceptable;
     }
@@ -26,7 +29,8 @@ class CharacterFilter : public QValidator {
 
 }  // namespace
 
-EntryBox::EntryBox(const QString& accepted, int width, QWidget* parent) : QLineEdit(parent) {
+EntryBox::EntryBox(const QString& accepted, int width, QWidget* parent)
+    : QLineEdit(parent), accepted_(accepted) {
     if (!accepted.isEmpty()) filter_ = new CharacterFilter(accepted, this);
     setValidator(filter_);
     if (width > 0) {
@@ -40,6 +44,18 @@ void EntryBox::Fill(const QString& text) {
     setValidator(nullptr);
     setText(text);
     setValidator(filter_);
+}
+
+// A key that is not accepted is discarded before it can replace a selected text.
+void EntryBox::keyPressEvent(QKeyEvent* event) {
+    const QString text = event->text();
+    const bool types =
+        !text.isEmpty() && text.front().isPrint() && !(event->modifiers() & Qt::ControlModifier);
+    if (types && filter_ != nullptr && !accepted_.contains(text.front())) {
+        event->ignore();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event) {

@@ -19,10 +19,12 @@ class EntryBox : public QLineEdit {
     void Fill(const QString& text);
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    QString accepted_;
     QValidator* filter_ = nullptr;
     bool focusedByMouse_ = false;
 };
