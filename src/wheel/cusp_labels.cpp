@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "astro/angles.h"
 #include "wheel/position_label.h"
@@ -92,8 +93,32 @@ Point BroughtInside(Point start, const LabelRow& row, const Extent& surface) {
     return start;
 }
 
-// The start of a row at the ray, moved outwards and aside as little as keeps it clear of everything taken.
-Point FindRowPlace(const LabelRow& row, double angle, std::span<const Extent> taken, const Extent& surface) {
+double SeenAt(const Extent& box) {
+    return DirectionDeg((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+}
+
+// A label that stands already: the angle of its cusp and the angle under which it is seen from the centre.
+struct StandingLabel {
+    double cusp, seen;
+};
+
+// The way round from one angle to another, -180 to 180.
+double Turn(double from, double to) {
+    return Norm360(to - from + 180.0) - 180.0;
+}
+
+// Whether a label seen at `seen` would stand among the others as its cusp does among theirs.
+bool KeepsOrder(double cusp, double seen, std::span<const StandingLabel> others) {
+    return std::ranges::all_of(others, [&](const StandingLabel& other) {
+        const double turn = Turn(other.cusp, cusp);
+        return std::abs(turn) > 90.0 || turn * Turn(other.seen, seen) >= 0.0;
+    });
+}
+
+// The start of a row at the ray, moved outwards and aside as little as keeps it clear of everything taken and
+// in order.
+Point FindRowPlace(const LabelRow& row, double angle, std::span<const Extent> taken,
+                   std::span<const StandingLabel> others, const Extent& surface) {
     const double first = kOuterRadius + kCircleGap + 1.0;
     const SinCos ray = SinCosDeg(angle);
     const double shift = RowShift(angle);
@@ -109,6 +134,7 @@ Point FindRowPlace(const LabelRow& row, double angle, std::span<const Extent> ta
                              start.y - row.height / 2};
             if (DistanceFromCentre(box) < kOuterRadius + kCircleGap || !Inside(box, surface, kLabelGap))
                 continue;
+            if (!KeepsOrder(angle, SeenAt(box), others)) continue;
             const auto meets = [&](const Extent& other) { return Overlap(box, other, kLabelGap); };
             if (std::ranges::any_of(taken, meets)) continue;
             best = start;
@@ -126,13 +152,15 @@ std::vector<WheelText> EuropeanLabels(const WheelPlan& plan, const TextMeasure& 
     for (const WheelText& sign : SignRingTexts(plan, measure)) busy.push_back(InkOf(sign, measure));
     for (const WheelText& text : texts) busy.push_back(InkOf(text, measure));
     for (const LineSpan& tick : SignTicks(plan.chart.HouseCusps, plan.type)) busy.push_back(Around(tick));
+    std::vector<StandingLabel> standing = {{180.0, 180.0}, {0.0, 0.0}};  // Ascendant and Descendant
     for (const int position : {1, 7, 3, 5, 9, 11, 2, 6, 8, 12}) {
         const double longitude = plan.chart.HouseCusps[position];
         const double angle = Norm360(longitude - plan.chart.HouseCusps.OfHouse(7));
         const LabelRow row = MeasureRow(plan, measure, longitude);
-        const Point start = FindRowPlace(row, angle, busy, plan.surface);
+        const Point start = FindRowPlace(row, angle, busy, standing, plan.surface);
         AddRow(row, start, measure, texts);
         busy.push_back({start.x, start.y + row.height / 2, start.x + row.width, start.y - row.height / 2});
+        standing.push_back({angle, SeenAt(busy.back())});
     }
     return texts;
 }
