@@ -31,7 +31,6 @@ inline constexpr std::array<EditorUseInfo, 5> kEditorUses = {{
 const EditorUseInfo& InfoOf(EditorUse use);
 
 inline constexpr std::string_view kClipboardHint = "Ctrl-C to copy. Ctrl-X to cut. Ctrl-V to paste.";
-inline constexpr std::string_view kPersonalBlockName = "PERSONAL.NAM";
 
 // A file's lines, each ending in CR LF. A missing file is an empty text; one that is there and cannot be read
 // gives a fault.

@@ -1,5 +1,7 @@
 #include "app/settings_file.h"
 
+#include "birthdata/cities_file.h"
+#include "birthdata/names_file.h"
 #include "platform/directory_list.h"
 #include "text/numbers.h"
 
@@ -62,8 +64,8 @@ std::string ClosedWithSeparator(const std::string& directory) {
 Settings DefaultSettings(const Path& applicationDirectory) {
     const std::string directory = applicationDirectory.string();
     Settings settings;
-    settings.DataFile = JoinPathText(directory, "NAMES.FIL");
-    settings.GeoDataFile = JoinPathText(directory, "GA_MA.LL");
+    settings.DataFile = JoinPathText(directory, kDefaultNamesFile);
+    settings.GeoDataFile = JoinPathText(directory, kDefaultCitiesFile);
     settings.InterpsDir = ClosedWithSeparator(directory);
     return settings;
 }

@@ -27,7 +27,6 @@ enum AspectCode : int {
     kBiQuintile,
     kSeptile,
 };
-inline constexpr int kAspectCodeCount = 17;
 
 struct AspectDefinition {
     int code;

@@ -26,7 +26,6 @@ class FoundAspects {
     const std::vector<FoundAspect>& list() const { return list_; }
     // The aspect code at a row and column of the upper triangle, kNoAspect where there is none.
     int CodeAt(int row, int column) const { return codes_[Index(row, column)]; }
-    bool Has(int row, int column, int code) const { return code != kNoAspect && CodeAt(row, column) == code; }
 
   private:
     static std::size_t Index(int row, int column) {

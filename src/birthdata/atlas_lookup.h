@@ -34,8 +34,6 @@ class AtlasLookup {
     // to the user. The place when the user accepts it. While one lookup runs, a second one does nothing.
     std::optional<Place> LookUp(std::string& atlasDir);
 
-    bool IsRunning() const { return running_; }
-
   private:
     bool RunAtlas(std::string& atlasDir);
     std::optional<AtlasResult> ReadResult(const std::string& atlasDir);

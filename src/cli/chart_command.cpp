@@ -85,4 +85,22 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
     return printer.status();
 }
 
+ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors) {
+    ExitStatus status = kAllComputed;
+    bool any = false;
+    const Result<void> written = ReplaceFile(file, [&](const Sink& sink) {
+        bool whole = true;
+        const Sink noting = [&](std::string_view text) {
+            any = true;
+            return whole = whole && sink(text);
+        };
+        status = RunChartCommand(request, noting, errors);
+        return whole && (any || status == kAllComputed);
+    });
+    const bool nothingToWrite = !any && status == kSomethingRefused;  // the reasons have been told
+    if (written || nothingToWrite) return status;
+    errors << "tolvanis-chart: " << written.message() << "\n";
+    return kSomethingRefused;
+}
+
 }  // namespace tolvanis

@@ -12,4 +12,7 @@ namespace tolvanis {
 // record gives a line on `errors` that names file, line and fault.
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors);
 
+// The same into a file, which is replaced as a whole; it stays as it is when no chart was computed.
+ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors);
+
 }  // namespace tolvanis

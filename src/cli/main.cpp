@@ -21,19 +21,6 @@ ExitStatus RunToStandardOutput(const ChartRequest& request) {
     return status;
 }
 
-ExitStatus RunToFile(const ChartRequest& request) {
-    ExitStatus status = kAllComputed;
-    const Result<void> written = ReplaceFile(PathFromText(*request.output), [&](const Sink& sink) {
-        bool whole = true;
-        const Sink noting = [&](std::string_view text) { return whole = whole && sink(text); };
-        status = RunChartCommand(request, noting, std::cerr);
-        return whole;
-    });
-    if (written) return status;
-    std::cerr << "tolvanis-chart: " << written.message() << "\n";
-    return kSomethingRefused;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -51,5 +38,6 @@ int main(int argc, char** argv) {
         std::cout << "tolvanis-chart " << TOLVANIS_VERSION << "\n";
         return kAllComputed;
     }
-    return request->output ? RunToFile(*request) : RunToStandardOutput(*request);
+    if (!request->output) return RunToStandardOutput(*request);
+    return RunChartCommandIntoFile(*request, PathFromText(*request->output), std::cerr);
 }

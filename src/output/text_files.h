@@ -15,6 +15,9 @@ namespace tolvanis {
 // The file through which the print commands hand their text to the print window.
 inline constexpr std::string_view kPrintFileName = "PRNTFILE.XXX";
 
+// The user's own name and address, printed under a full-page wheel.
+inline constexpr std::string_view kPersonalBlockName = "PERSONAL.NAM";
+
 // What Save writes: every line and one empty line, and a line with a form feed after each line whose index
 // (from 0, the first one aside) is divisible by linesPerPage - 1, rounded half to even, and after the last
 // line. With fewer than 2 lines a page there is only the last form feed.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "output/text_files.h"
 #include "text/columns.h"
 #include "wheel/aspect_list.h"
 #include "wheel/symbols.h"
@@ -151,7 +152,7 @@ Extent PageExtent(double width, double height, int typeChart) {
 
 std::vector<std::string> ReadPersonalLines(const Path& applicationDirectory, const Options& options) {
     if (options[kPersonalOption] == 0.0F) return {};
-    Result<std::vector<std::string>> lines = ReadLines(FindFile(applicationDirectory, kPersonalFile));
+    Result<std::vector<std::string>> lines = ReadLines(FindFile(applicationDirectory, kPersonalBlockName));
     if (!lines) return {};
     for (std::string& line : *lines) line = TrimTrailingBlanks(line);
     while (!lines->empty() && lines->back().empty()) lines->pop_back();

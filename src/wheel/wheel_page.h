@@ -6,8 +6,6 @@
 
 namespace tolvanis {
 
-inline constexpr std::string_view kPersonalFile = "PERSONAL.NAM";
-
 // What a page of this shape shows: the wheel's centre 16 units left of the page's middle and 67 above it. The
 // half-extent is 265 units, and 272 for chart type numbers above 0; a page less than 1.25 times as high as
 // wide shows more to the sides, so that everything stays on it.

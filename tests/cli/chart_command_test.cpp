@@ -55,6 +55,24 @@ TEST(ChartCommand, ApprovedListings) {
     }
 }
 
+TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
+    const ScratchDirectory directory;
+    const auto file = directory.Write("charts.txt", "of yesterday");
+    const auto run = [&](std::string_view names) {
+        const auto request = ParseCommandLine(std::vector<std::string_view>{
+            "--names", names, "--app-dir", DELIVERED_DATA_DIR, "--format", "json"});
+        std::ostringstream errors;
+        return std::pair{RunChartCommandIntoFile(*request, file, errors), errors.str()};
+    };
+    const auto [status, errors] = run("/no/such/file");
+    EXPECT_EQ(status, kSomethingRefused);
+    EXPECT_EQ(errors, "/no/such/file: cannot be read: No such file or directory\n");
+    EXPECT_EQ(FileContent(file), "of yesterday");
+    EXPECT_EQ(run(DELIVERED_DATA_DIR "/NAMES.FIL").first, kAllComputed);
+    EXPECT_EQ(FileContent(file),
+              RunWith({"--names", DELIVERED_DATA_DIR "/NAMES.FIL", "--format", "json"}).output);
+}
+
 TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     const ScratchDirectory directory;
     const auto file = directory.Write("A.FIL",
