@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Checks the order of dependence between the folders of src/.
 
-A folder includes only from itself and from the folders above it in the list; only windows, platform/qt and
-app/main.cpp include Qt, and only they include a window's header or platform/qt. Prints every breach and exits 1.
+A folder includes only from itself and from the folders above it in the list; only the folders named qt and
+app/main.cpp include Qt or a header from a folder named qt. Prints every breach and exits 1.
 """
 import re
 import sys
@@ -13,7 +13,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
 def knows_qt(path):
-    return path.stem.endswith("_window") or path.parts[:2] == ("platform", "qt") or path.as_posix() == "app/main.cpp"
+    return path.parent.name == "qt" or path.as_posix() == "app/main.cpp"
 
 
 def faults_of(path, root):
@@ -26,7 +26,7 @@ def faults_of(path, root):
         where = f"src/{path.as_posix()}:{number}"
         if quote == "<":
             if re.match(r"Q[A-Z]|Qt", target) and not knows_qt(path):
-                yield f"{where}: only windows include Qt, this includes <{target}>"
+                yield f"{where}: only qt/ folders include Qt, this includes <{target}>"
             continue
         if not (root / target).is_file():
             yield f"{where}: \"{target}\" is not a path below src/"
@@ -35,7 +35,7 @@ def faults_of(path, root):
         if ORDER.index(included.parts[0]) > ORDER.index(folder):
             yield f"{where}: {folder}/ stands above {included.parts[0]}/ and cannot include \"{target}\""
         if knows_qt(included) and not knows_qt(path):
-            yield f"{where}: only windows include windows, this includes \"{target}\""
+            yield f"{where}: only qt/ folders include from qt/ folders, this includes \"{target}\""
 
 
 def main():

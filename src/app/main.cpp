@@ -6,9 +6,9 @@
 
 #include "app/app_directory.h"
 #include "app/desktop_arguments.h"
-#include "app/desktop_window.h"
-#include "app/file_dialogs_window.h"
-#include "app/wheel_command_window.h"
+#include "app/qt/desktop.h"
+#include "app/qt/file_dialogs.h"
+#include "app/qt/wheel_command_run.h"
 #include "platform/clock.h"
 #include "platform/qt/message_boxes.h"
 

@@ -1,6 +1,6 @@
 #include "astro/derived_points.h"
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 
 namespace tolvanis {
 namespace {

@@ -1,6 +1,6 @@
 #include "astro/houses.h"
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 
 namespace tolvanis {
 namespace {

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <optional>
 
-#include "astro/angles.h"
 #include "astro/derived_points.h"
 #include "astro/elements.h"
 #include "astro/moon_series.h"
@@ -12,6 +11,7 @@
 #include "astro/perturbations.h"
 #include "astro/pluto_series.h"
 #include "astro/sun_series.h"
+#include "chart/angles.h"
 
 namespace tolvanis {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 
 namespace tolvanis {
 namespace {

@@ -1,6 +1,6 @@
 #include "astro/time_frame.h"
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "text/numbers.h"
 
 namespace tolvanis {

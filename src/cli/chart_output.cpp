@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "wheel/ascii_chart.h"
 
 namespace tolvanis {

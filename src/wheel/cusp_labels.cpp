@@ -5,7 +5,7 @@
 #include <limits>
 #include <vector>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "wheel/position_label.h"
 
 namespace tolvanis {

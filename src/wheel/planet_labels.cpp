@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "text/numbers.h"
 #include "wheel/position_label.h"
 #include "wheel/symbols.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "wheel/symbols.h"
 
 namespace tolvanis {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 
 namespace tolvanis {
 namespace {

@@ -1,6 +1,6 @@
 #include "astro/chart_driver.h"
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 
 #include <gmock/gmock.h>
 

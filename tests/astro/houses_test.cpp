@@ -5,8 +5,8 @@
 
 #include <array>
 
-#include "astro/angles.h"
 #include "astro/derived_points.h"
+#include "chart/angles.h"
 #include "support.h"
 
 namespace tolvanis {

@@ -1,11 +1,11 @@
 #include <cmath>
 #include <map>
 
-#include "astro/angles.h"
 #include "astro/moon_series.h"
 #include "astro/orbit.h"
 #include "astro/pluto_series.h"
 #include "astro/sun_series.h"
+#include "chart/angles.h"
 #include "reference_positions.h"
 #include "support.h"
 

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "support.h"
 
 namespace tolvanis {

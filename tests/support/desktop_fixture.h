@@ -8,7 +8,7 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 
-#include "app/desktop_window.h"
+#include "app/qt/desktop.h"
 #include "support.h"
 #include "support/window_user.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/options_file.h"
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "support.h"
 #include "text/columns.h"
 #include "wheel/wheel_drawing.h"

@@ -12,7 +12,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "astro/angles.h"
+#include "chart/angles.h"
 #include "reference_positions.h"
 #include "text/numbers.h"
 

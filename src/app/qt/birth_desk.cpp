@@ -1,0 +1,196 @@
+#include "app/qt/birth_desk.h"
+
+#include <QRect>
+#include <algorithm>
+
+#include "platform/qt/external_program.h"
+#include "platform/qt/placement.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr int kGap = 8;           // pixels between neighbouring windows
+constexpr int kListLetters = 46;  // width of a list window with its frame
+
+// Windows close inside their own signals, so they are deleted later.
+template <typename Window>
+void Close(QPointer<Window>& window) {
+    if (window == nullptr) return;
+    window->disconnect();
+    window->hide();
+    window->deleteLater();
+    window.clear();
+}
+
+}  // namespace
+
+BirthDesk::BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialogs,
+                     const InputD::Clock& clock)
+    : state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      atlas_(RunAndWait, messages),
+      input_(std::make_unique<InputD>(state.options, messages, clock)) {
+    ConnectInput();
+}
+
+BirthDesk::~BirthDesk() {
+    delete names_;
+    delete cities_;
+    delete zones_;
+}
+
+void BirthDesk::ConnectInput() {
+    connect(input_.get(), &InputD::computeRequested, this, &BirthDesk::computeRequested);
+    connect(input_.get(), &InputD::mainWindowRequested, this, &BirthDesk::mainWindowRequested);
+    connect(input_.get(), &InputD::closedByUser, this, &BirthDesk::inputClosed);
+    connect(input_.get(), &InputD::saveRequested, this, &BirthDesk::SaveEntry);
+    connect(input_.get(), &InputD::timeZoneHelpRequested, this, &BirthDesk::OpenTimeZones);
+    connect(input_.get(), &InputD::atlasRequested, this, &BirthDesk::LookUpInAtlas);
+}
+
+void BirthDesk::Show(const QRect& anchor) {
+    if (!input_->testAttribute(Qt::WA_Moved)) {
+        // The list beside it belongs to the room it needs, as far as the screen has it.
+        QRect wanted(anchor.bottomLeft(), input_->sizeHint());
+        wanted.setWidth(wanted.width() + kGap + input_->fontMetrics().averageCharWidth() * kListLetters);
+        firstPlace_ = WhollyInView(wanted, UsableScreens()).topLeft();
+        PlaceWindow(*input_, QRect(firstPlace_, input_->sizeHint()));
+    }
+    BringForward(*input_);
+    Close(cities_);
+    OpenNames();
+}
+
+void BirthDesk::Hide() {
+    input_->hide();
+    Close(names_);
+    Close(cities_);
+}
+
+bool BirthDesk::IsShown() const {
+    const auto shown = [](const QWidget* window) { return window != nullptr && window->isVisible(); };
+    return shown(input_.get()) && (shown(names_) || shown(cities_));
+}
+
+void BirthDesk::CloseTimeZones() {
+    Close(zones_);
+}
+
+// The frame of the natal input, also before the window system has told how large its borders are.
+QRect BirthDesk::InputPlace() const {
+    const bool known = input_->frameGeometry().size() != input_->size();
+    return known ? input_->frameGeometry() : QRect(firstPlace_, input_->size());
+}
+
+void BirthDesk::PlaceBeside(QWidget& window, const QRect& neighbour) const {
+    QRect wanted(neighbour.topRight() + QPoint(kGap, 0), window.sizeHint());
+    wanted.setHeight(std::max(wanted.height(), input_->height()));
+    QRect right = WhollyInView(wanted, UsableScreens());
+    if (const int covered = neighbour.right() + 1 - right.left(); covered > 0) {
+        right.setLeft(right.left() + std::min(covered, right.width() - window.minimumSizeHint().width()));
+    }
+    // Where there is no room on the right it goes to the left, unless it would cover the entry there.
+    wanted.moveLeft(neighbour.left() - kGap - wanted.width());
+    const QRect left = WhollyInView(wanted, UsableScreens());
+    const bool goesLeft = right.left() <= neighbour.right() && left.right() < neighbour.left() &&
+                          !left.intersects(InputPlace());
+    PlaceWindow(window, goesLeft ? left : right);
+}
+
+void BirthDesk::OpenNames() {
+    Close(names_);
+    names_ = new Names(state_.settings.DataFile, state_.names, messages_);
+    connect(names_, &Names::picked, input_.get(), &InputD::SetEntry);
+    connect(names_, &Names::computeRequested, this, [this] {
+        Close(names_);
+        Q_EMIT computeRequested();
+    });
+    connect(names_, &Names::changeListRequested, this, &BirthDesk::ChangeNamesList);
+    connect(names_, &Names::editListRequested, this,
+            [this] { Q_EMIT editorRequested(EditorUse::NameEdit, PathFromText(state_.settings.DataFile)); });
+    connect(names_, &Names::citiesRequested, this, [this] {
+        Close(names_);
+        OpenCities();
+    });
+    PlaceBeside(*names_, InputPlace());
+    BringForward(*names_);
+    names_->Load();
+}
+
+void BirthDesk::OpenCities() {
+    Close(cities_);
+    cities_ = new Geograph(state_.settings.GeoDataFile, messages_);
+    connect(cities_, &Geograph::placePicked, this, &BirthDesk::FillInPlace);
+    connect(cities_, &Geograph::changeListRequested, this, &BirthDesk::ChangeCitiesList);
+    connect(cities_, &Geograph::editListRequested, this, [this] {
+        Q_EMIT editorRequested(EditorUse::LongLat, PathFromText(state_.settings.GeoDataFile));
+    });
+    connect(cities_, &Geograph::namesRequested, this, [this] {
+        Close(cities_);
+        OpenNames();
+    });
+    PlaceBeside(*cities_, InputPlace());
+    BringForward(*cities_);
+    cities_->Load();
+}
+
+void BirthDesk::OpenTimeZones() {
+    if (zones_ == nullptr) {
+        zones_ = new TimeZone(FindFile(state_.applicationDirectory, kTimeZoneFile), messages_);
+        connect(zones_, &TimeZone::zonePicked, this, [this](const std::string& timeZone, bool east) {
+            NatalEntry entry = input_->Entry();
+            entry.timeZone = timeZone;
+            entry.east = east;
+            input_->SetEntry(entry);
+        });
+        const QWidget* list = cities_ != nullptr ? static_cast<QWidget*>(cities_) : names_;
+        PlaceBeside(*zones_, list != nullptr ? list->frameGeometry() : InputPlace());
+        BringForward(*zones_);
+        zones_->Load();
+    }
+    BringForward(*zones_);
+}
+
+void BirthDesk::SaveEntry() {
+    const auto chooseFile = [this] { return dialogs_.ChooseFile("*.FIL", state_.settings.DataFile); };
+    if (!SaveRecord(input_->Entry(), chooseFile, messages_)) return;
+    state_.names.justSaved = true;
+    Close(cities_);
+    OpenNames();
+}
+
+void BirthDesk::LookUpInAtlas() {
+    if (const auto place = atlas_.LookUp(state_.settings.AtlasDir)) FillInPlace(*place);
+}
+
+void BirthDesk::FillInPlace(const Place& place) {
+    NatalEntry entry = input_->Entry();
+    FillPlace(entry, place);
+    input_->SetEntry(entry);
+}
+
+void BirthDesk::ChangeNamesList() {
+    const std::string file = dialogs_.ChooseFile("*.FIL", state_.settings.DataFile);
+    if (file.empty()) return;
+    state_.settings.DataFile = file;
+    if (names_ != nullptr) names_->ChangeFile(file);
+}
+
+void BirthDesk::ChangeCitiesList() {
+    const std::string file = dialogs_.ChooseFile("*.LL", state_.settings.GeoDataFile);
+    if (file.empty()) return;
+    state_.settings.GeoDataFile = file;
+    if (cities_ != nullptr) cities_->ChangeFile(file);
+}
+
+void BirthDesk::FileEdited(EditorUse use) {
+    if (use == EditorUse::NameEdit) state_.names.justSaved = false;
+}
+
+void BirthDesk::EditorLeft(EditorUse use) {
+    if (use == EditorUse::NameEdit && names_ != nullptr) OpenNames();
+    if (use == EditorUse::LongLat && cities_ != nullptr) OpenCities();
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,79 @@
+#pragma once
+// The windows in which a birth is entered: the natal input, the lists of names, cities and time zones beside
+// it, and the atlas.
+
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <memory>
+
+#include "app/editor_uses.h"
+#include "app/program_state.h"
+#include "birthdata/atlas_lookup.h"
+#include "birthdata/qt/cities_window.h"
+#include "birthdata/qt/names_window.h"
+#include "birthdata/qt/natal_input_window.h"
+#include "birthdata/qt/time_zone_window.h"
+#include "platform/file_dialogs.h"
+#include "platform/messages.h"
+
+namespace tolvanis {
+
+class BirthDesk : public QObject {
+    Q_OBJECT
+
+  public:
+    BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialogs, const InputD::Clock& clock);
+    ~BirthDesk() override;
+
+    InputD& natalInput() { return *input_; }
+    Names* names() { return names_; }
+    Geograph* cities() { return cities_; }
+    TimeZone* timeZones() { return zones_; }
+
+    // Shows the natal input, below `anchor` where the user has not moved it, and a fresh names list beside
+    // it.
+    void Show(const QRect& anchor);
+    void Hide();
+
+    // Whether the natal input and one of the two lists can be seen.
+    bool IsShown() const;
+    void CloseTimeZones();
+
+    // A names or cities file has been saved in its editor, or the editor has been left.
+    void FileEdited(EditorUse use);
+    void EditorLeft(EditorUse use);
+
+  Q_SIGNALS:
+    void computeRequested();
+    void mainWindowRequested();
+    void editorRequested(EditorUse use, const Path& file);
+    void inputClosed();  // the user has closed the natal input
+
+  public Q_SLOTS:
+    void OpenNames();
+    void OpenCities();
+    void OpenTimeZones();
+
+  private:
+    void ConnectInput();
+    void SaveEntry();
+    void LookUpInAtlas();
+    void FillInPlace(const Place& place);
+    void ChangeNamesList();
+    void ChangeCitiesList();
+    QRect InputPlace() const;
+    void PlaceBeside(QWidget& window, const QRect& neighbour) const;
+
+    ProgramState& state_;
+    Messages& messages_;
+    FileDialogs& dialogs_;
+    AtlasLookup atlas_;
+    std::unique_ptr<InputD> input_;
+    QPoint firstPlace_;  // where the natal input has been put first
+    QPointer<Names> names_;
+    QPointer<Geograph> cities_;
+    QPointer<TimeZone> zones_;
+};
+
+}  // namespace tolvanis

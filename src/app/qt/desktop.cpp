@@ -1,0 +1,366 @@
+#include "app/qt/desktop.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+
+#include "app/clock_caption.h"
+#include "app/options_file.h"
+#include "app/qt/editor_window.h"
+#include "app/qt/print_file_window.h"
+#include "app/qt/title_window.h"
+#include "output/text_files.h"
+#include "platform/qt/placement.h"
+#include "platform/qt/text.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr int kHouseSystemOption = 27;
+constexpr int kTitleOption = 48;
+constexpr int kNarrowestStrip = 200;  // pixels
+constexpr std::string_view kDataHelpFile = "OUTPUTD1.HLP";
+constexpr std::string_view kHelpPrintFile = "HELPFILE";
+constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
+
+std::string MissingFileText(const Path& path) {
+    return "Cannot find the file called " + path.string() + ".";
+}
+
+// The settings hold the height of the whole window, caption included.
+int CaptionHeight() {
+    return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+}
+
+}  // namespace
+
+Desktop::Desktop(ProgramState& state, const DesktopServices& services)
+    : state_(state),
+      services_(services),
+      printing_{services.dialogs, services.messages, state.applicationDirectory} {}
+
+Desktop::~Desktop() {
+    for (auto& [use, editor] : editors_) delete editor;
+    delete print_;
+    delete data_;
+}
+
+bool Desktop::Start(const Path& installedDirectory) {
+    if (!LoadOptions(installedDirectory)) return false;
+    if (state_.options[kTitleOption] != 0.0F) ShowTitle();
+    const Hourglass hourglass;
+    state_.settings = ReadSettings(state_.applicationDirectory);
+    MeasureScreen();
+    state_.houseSystem = HouseSystemOfOption(state_.options[kHouseSystemOption]);
+    MakeWindows();
+    RegisterCommands();
+    main_->TickHouseSystem(state_.houseSystem);
+    ShowMainWindow();
+    ShowEntryWindows();
+    return true;
+}
+
+bool Desktop::LoadOptions(const Path& installedDirectory) {
+    const Path& directory = state_.applicationDirectory;
+    Result<int> read = ReadOptions(directory, state_.options);
+    if (read && HoldsOptions(state_.options)) return true;
+    const std::string fault =
+        read ? "The file " + FindFile(directory, kOptionsFileName).string() + " holds no options."
+             : read.message();
+    const Path master = OptionsMaster(directory, installedDirectory);
+    if (master.empty()) {
+        services_.messages.Tell("Error!",
+                                fault + " There is no copy to restore it from either: " +
+                                    std::string(kOptionsMasterName) + " is missing.",
+                                MessageIcon::Stop);
+        return false;
+    }
+    const Answer answer = services_.messages.AskYesNo(
+        "Error!", fault + " The program needs it. Restore it from " + master.string() + "?");
+    if (answer != Answer::Yes) return false;
+    if (const Result<void> restored = RestoreOptions(directory, master); !restored) {
+        services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
+        return false;
+    }
+    read = ReadOptions(directory, state_.options);
+    return read && HoldsOptions(state_.options);
+}
+
+void Desktop::ShowTitle() {
+    Title title;
+    title.exec();
+}
+
+void Desktop::MeasureScreen() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) return;
+    state_.screen =
+        ScreenConstantsFor(screen->size().width(), screen->size().height(), screen->logicalDotsPerInchX());
+}
+
+void Desktop::MakeWindows() {
+    main_ = std::make_unique<TOLVANIS>();
+    connect(main_.get(), &TOLVANIS::exitRequested, this, &Desktop::Exit);
+    connect(main_.get(), &TOLVANIS::textFileChosen, this, &Desktop::ShowTextFile);
+    connect(main_.get(), &TOLVANIS::houseSystemChosen, this, &Desktop::mnuHouse_Click);
+    connect(main_.get(), &TOLVANIS::commandChosen, this,
+            [this](const std::string& control) { commands_.at(control)(); });
+
+    births_ = std::make_unique<BirthDesk>(state_, services_.messages, services_.dialogs, services_.clock);
+    connect(births_.get(), &BirthDesk::computeRequested, this, &Desktop::Compute);
+    connect(births_.get(), &BirthDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
+    connect(births_.get(), &BirthDesk::inputClosed, this, &Desktop::InputD_closed);
+    connect(births_.get(), &BirthDesk::editorRequested, this, &Desktop::ShowEditor);
+    wheel_ = std::make_unique<WheelDesk>(state_, printing_);
+    connect(wheel_.get(), &WheelDesk::dataBufferRequested, this, &Desktop::ShowDataBuffer);
+    connect(wheel_.get(), &WheelDesk::textFileRequested, this, &Desktop::ShowTextFile);
+    connect(wheel_.get(), &WheelDesk::editorRequested, this, &Desktop::ShowEditor);
+    connect(wheel_.get(), &WheelDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
+
+    clock_.setInterval(1000);
+    connect(&clock_, &QTimer::timeout, this, &Desktop::UpdateClock);
+}
+
+void Desktop::RegisterCommands() {
+    const auto run = [this](void (Desktop::*command)()) { return [this, command] { (this->*command)(); }; };
+    commands_ = {
+        {"mnuFileExit", run(&Desktop::Exit)},
+        {"mnuInputData", run(&Desktop::mnuInputData_Click)},
+        {"mnuOptions", run(&Desktop::mnuOptions_Click)},
+        {"mnuHeader", run(&Desktop::mnuHeader_Click)},
+        {"mnuDataNatalData", run(&Desktop::mnuDataNatalData_Click)},
+        {"mnuWheels", [this] { wheel_->Open(); }},
+        {"mnuHelpAbout", run(&Desktop::mnuHelpAbout_Click)},
+        {"mnuHelpPrintHelp", run(&Desktop::mnuHelpPrintHelp_Click)},
+    };
+    for (const MenuItem& item : MainMenu()) {
+        const bool command = !item.opensMenu && item.textFile.empty() && !item.houseSystem;
+        if (command && !commands_.contains(item.control)) main_->ItemOf(item.control)->setEnabled(false);
+    }
+}
+
+void Desktop::PlaceMainWindow() {
+    const Settings& settings = state_.settings;
+    QRect wanted = ToPixels(
+        {settings.TOLVANISTop, settings.TOLVANISLeft, settings.TOLVANISHeight, settings.TOLVANISWidth},
+        state_.screen.twipsPerPixel);
+    wanted.setHeight(wanted.height() - CaptionHeight());
+    wanted.setSize(wanted.size().expandedTo({kNarrowestStrip, main_->menuBar()->sizeHint().height()}));
+    PlaceWindow(*main_, BroughtIntoView(wanted, UsableScreens()));
+}
+
+void Desktop::ShowMainWindow() {
+    PlaceMainWindow();
+    UpdateClock();
+    clock_.start();
+    main_->show();
+    mainPlace_ = {main_->pos(), main_->size()};
+}
+
+void Desktop::KeepMainPlacement() {
+    const QRect place(main_->pos(), main_->size());
+    if (place == mainPlace_ || main_->isMinimized() || main_->isMaximized()) return;
+    const TwipsPlacement twips =
+        ToTwips(place.adjusted(0, 0, 0, CaptionHeight()), state_.screen.twipsPerPixel);
+    state_.settings.TOLVANISTop = twips.top;
+    state_.settings.TOLVANISLeft = twips.left;
+    state_.settings.TOLVANISHeight = twips.height;
+    state_.settings.TOLVANISWidth = twips.width;
+}
+
+void Desktop::UpdateClock() {
+    main_->setWindowTitle(ToQt(ClockCaption(state_.titlePrefix, services_.clock(), state_.order)));
+}
+
+void Desktop::FocusMainWindow() {
+    BringForward(*main_);
+    main_->menuBar()->setFocus();
+}
+
+void Desktop::SetBusy(bool busy) {
+    if (busy) {
+        if (!hourglass_) hourglass_ = std::make_unique<Hourglass>();
+    } else {
+        hourglass_.reset();
+    }
+}
+
+void Desktop::ShowEntryWindows() {
+    // Frames are not known before the window system has made them.
+    births_->Show(QRect(main_->pos(), main_->size() + QSize(0, 2 * CaptionHeight())));
+}
+
+void Desktop::HideEntryWindows() {
+    births_->Hide();
+}
+
+void Desktop::InputD_closed() {
+    main_->ShowItem("mnuInputData");  // the way back to it
+}
+
+void Desktop::UnloadChartWindows() {
+    wheel_->Close();
+    delete data_;
+}
+
+void Desktop::ShowChartMenus() {
+    main_->ShowChartItems();
+}
+
+void Desktop::ShowInputFault(EntryField field) {
+    if (!births_->IsShown()) ShowEntryWindows();
+    BringForward(natalInput());
+    natalInput().FocusField(field);
+}
+
+void Desktop::ShowDataBuffer() {
+    if (data_ == nullptr) {
+        if (state_.buffer.BufferLineCount() == 0) return;
+        data_ = new OutputD1({state_.buffer, state_.settings.dataView, state_.options, state_.chart.natal,
+                              state_.applicationDirectory, state_.titlePrefix, state_.SaveFileName,
+                              state_.screen.fontStep, state_.screen.twipsPerPixel, services_.messages,
+                              services_.dialogs});
+        connect(data_, &OutputD1::mainWindowRequested, this, &Desktop::FocusMainWindow);
+        connect(data_, &OutputD1::helpRequested, this, [this] { ShowTextFile(std::string(kDataHelpFile)); });
+        connect(data_, &OutputD1::printFileWritten, this, &Desktop::OutputD1_printFileWritten);
+    }
+    data_->ShowDataBuffer();
+}
+
+void Desktop::ShowTextFile(const std::string& textFileName) {
+    const Path path = FindFile(state_.applicationDirectory, textFileName);
+    const Result<int> read = ListTextFile(state_.buffer, path);
+    if (!read) {
+        const std::string text = IsReadableFile(path) ? read.message() : MissingFileText(path);
+        services_.messages.Tell("Warning!", text, MessageIcon::Stop);
+        return;
+    }
+    if (*read > 0) ShowDataBuffer();
+}
+
+void Desktop::Compute() {
+    births_->CloseTimeZones();
+    state_.buffer.ClearDataBuffer();
+    ComputeChart(natalInput().Entry(), state_.houseSystem, state_.order.iDate, state_.options, state_.chart,
+                 state_.buffer, services_.messages, *this);
+}
+
+// What the Input command does before its windows are shown.
+void Desktop::PrepareInput() {
+    state_.SaveFileName.clear();
+    UnloadChartWindows();
+    if (natalInput().HoldsPresentMoment()) natalInput().FillNow();
+}
+
+void Desktop::mnuInputData_Click() {
+    PrepareInput();
+    ShowEntryWindows();
+}
+
+void Desktop::mnuHouse_Click(HouseSystem system) {
+    state_.houseSystem = system;
+    main_->TickHouseSystem(system);
+    PrepareInput();
+    // The entry windows are hidden again by a computation that succeeds; they come up only when it will not.
+    if (!CheckEntry(natalInput().Entry(), system).empty()) ShowEntryWindows();
+    Compute();
+}
+
+void Desktop::mnuDataNatalData_Click() {
+    if (!state_.chart.computed) return;
+    WriteChart(state_.buffer, state_.chart, state_.options);
+    ShowDataBuffer();
+}
+
+void Desktop::mnuOptions_Click() {
+    ShowEditor(EditorUse::Options, FindFile(state_.applicationDirectory, kOptionsFileName));
+}
+
+void Desktop::mnuHeader_Click() {
+    ShowEditor(EditorUse::P_Name, FindFile(state_.applicationDirectory, kPersonalBlockName));
+}
+
+void Desktop::ShowEditor(EditorUse use, const Path& file) {
+    QPointer<EditorWindow>& editor = editors_[use];
+    if (editor != nullptr && editor->file() != file) {
+        if (!editor->MayClose()) return;
+        delete editor;
+    }
+    if (editor == nullptr) {
+        editor = new EditorWindow(use, file, services_.messages);
+        connect(editor, &EditorWindow::saved, this, [this, use] { EditorSaved(use); });
+        connect(editor, &EditorWindow::closed, this, [this, use] { EditorClosed(use); });
+        connect(editor, &EditorWindow::restoreRequested, this,
+                [this, opened = editor.data()] { RestoreDefaultOptions(*opened); });
+    }
+    BringForward(*editor);
+}
+
+void Desktop::EditorSaved(EditorUse use) {
+    births_->FileEdited(use);
+    if (use != EditorUse::Options) return;
+    const Result<int> read = ReadOptions(state_.applicationDirectory, state_.options);
+    if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
+    state_.titlePrefix = kTitlePrefixAfterOptions;
+    UpdateClock();
+}
+
+void Desktop::EditorClosed(EditorUse use) {
+    if (births_ != nullptr) births_->EditorLeft(use);
+}
+
+void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
+    const Path master = FindFile(state_.applicationDirectory, kOptionsMasterName);
+    if (!RestoreOptions(state_.applicationDirectory, master)) {
+        services_.messages.Tell("Warning!", kRestoreFailedText, MessageIcon::Information);
+        return;
+    }
+    editor.Load();
+}
+
+void Desktop::OutputD1_printFileWritten() {
+    delete print_;
+    print_ = new PrntFile(state_.options, printing_);
+    BringForward(*print_);
+}
+
+void Desktop::mnuHelpAbout_Click() {
+    (new About(main_.get()))->open();
+}
+
+void Desktop::mnuHelpPrintHelp_Click() {
+    const Path path = FindFile(state_.applicationDirectory, kHelpPrintFile);
+    const Result<std::vector<std::string>> lines = ReadLines(path);
+    if (!lines) {
+        services_.messages.Tell("Warning!", MissingFileText(path), MessageIcon::Stop);
+        return;
+    }
+    PrintPages(printing_, "Tolvanis help",
+               {SplitIntoPages(*lines, state_.options[kLinesPerPrintedPageOption]), PrintPointSize(false)});
+}
+
+void Desktop::Exit() {
+    for (const auto& [use, editor] : editors_) {
+        if (editor != nullptr && !editor->MayClose()) return;
+    }
+    if (std::exchange(ended_, true)) return;
+    KeepMainPlacement();
+    if (const Result<void> written = WriteSettings(state_.applicationDirectory, state_.settings); !written) {
+        services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
+    }
+    clock_.stop();
+    wheel_.reset();
+    // An atlas lookup may still be under way in here: the desk is only hidden until the event loops are left.
+    births_->CloseTimeZones();
+    births_->Hide();
+    main_->hide();
+    for (auto& [use, editor] : editors_) delete editor;
+    delete print_;
+    delete data_;
+    Q_EMIT ended();
+}
+
+}  // namespace tolvanis

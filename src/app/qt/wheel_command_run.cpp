@@ -1,0 +1,45 @@
+#include "app/qt/wheel_command_run.h"
+
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <iostream>
+
+#include "app/desktop_arguments.h"
+#include "app/qt/wheel_desk.h"
+#include "wheel/qt/wheel_export.h"
+
+namespace tolvanis {
+namespace {
+
+ExitStatus Refuse(const std::string& fault) {
+    std::cerr << "tolvanis: " << fault << "\n";
+    return kSomethingRefused;
+}
+
+}  // namespace
+
+ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments) {
+    const Result<WheelArguments> wheel = ParseWheelArguments(arguments);
+    if (!wheel) {
+        std::cerr << "tolvanis: " << wheel.message() << "\n\n" << kDesktopUsage;
+        return kWrongUsage;
+    }
+    const Result<WheelPicture> picture = PrepareWheel(*wheel);
+    if (!picture) return Refuse(picture.message());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("default.warning=false"));  // of a desktop that is not there
+    int argumentCount = 1;
+    const QGuiApplication application(argumentCount, programArguments);
+    if (!LoadSymbolFontOf(picture->applicationDirectory)) {
+        return Refuse("the symbol font HORARY.ttf cannot be loaded from " +
+                      picture->applicationDirectory.string());
+    }
+    const double size = wheel->size;
+    const Result<void> written =
+        ExportWheel({picture->chart, picture->data, picture->options, wheel->type, size, size},
+                    PathFromText(wheel->file));
+    return written ? kAllComputed : Refuse(written.message());
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,60 @@
+#include "birthdata/qt/time_zone_window.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "birthdata/qt/record_list_window.h"
+#include "platform/qt/listing_font.h"
+#include "platform/qt/text.h"
+
+namespace tolvanis {
+
+TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      file_(std::move(file)),
+      messages_(messages),
+      lstTimeZones_(new RecordListView(this)) {
+    setObjectName(QStringLiteral("TimeZone"));
+    setWindowTitle(tr("Time Zones"));
+    constexpr double kPoints = 10.0;
+    constexpr int kColumns = 48;
+    lstTimeZones_->setObjectName(QStringLiteral("lstTimeZones"));
+    lstTimeZones_->setAccessibleName(tr("List of time zones"));
+    lstTimeZones_->setFont(ListingFont(kPoints));
+    const int textWidth =
+        QFontMetrics(lstTimeZones_->font()).horizontalAdvance(QString(kColumns, QLatin1Char('0')));
+    lstTimeZones_->setMinimumWidth(textWidth + lstTimeZones_->verticalScrollBar()->sizeHint().width() +
+                                   4 * lstTimeZones_->frameWidth());
+    connect(lstTimeZones_, &RecordListView::rowPicked, this, &TimeZone::lstTimeZones_Click);
+    connect(lstTimeZones_, &RecordListView::rowOpened, this, &TimeZone::lstTimeZones_Click);
+
+    auto* Command1 = new QPushButton(tr("&Quit"), this);
+    Command1->setObjectName(QStringLiteral("Command1"));
+    connect(Command1, &QPushButton::clicked, this, &QWidget::close);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(Command1);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(lstTimeZones_, 1);
+    column->addLayout(buttons);
+    setFocusProxy(lstTimeZones_);
+}
+
+void TimeZone::Load() {
+    zones_ = ReadTimeZones(file_);
+    lstTimeZones_->SetRecords(zones_.size(), [this](std::size_t row) { return TimeZoneLineAt(zones_, row); });
+    if (zones_.fault()) TellTimeZoneFault(*zones_.fault(), messages_);
+}
+
+void TimeZone::lstTimeZones_Click(int row) {
+    if (const auto choice = ChooseTimeZone(zones_, lstTimeZones_->records().Text(row))) {
+        Q_EMIT zonePicked(choice->timeZone, choice->east);
+    } else {
+        TellTimeZonesCorrupt(messages_);
+    }
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,81 @@
+#include "wheel/qt/wheel_export.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <algorithm>
+
+#include "platform/qt/painter_surface.h"
+#include "text/columns.h"
+
+namespace tolvanis {
+namespace {
+
+void Paint(QPaintDevice& device, const QRectF& area, const WheelRequest& request) {
+    QPainter painter(&device);
+    TextOutlines outlines;
+    PainterSurface surface(painter, area, outlines);
+    DrawWheel(surface, request);
+}
+
+QSize PixelSize(const WheelRequest& request) {
+    return {qMax(1, qRound(request.width)), qMax(1, qRound(request.height))};
+}
+
+bool WriteSvg(const WheelRequest& request, QBuffer& buffer) {
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setResolution(96);
+    svg.setSize(PixelSize(request));
+    svg.setViewBox(QRect({0, 0}, PixelSize(request)));
+    svg.setTitle(QString::fromStdString(request.chart.TitleLines[0]));
+    Paint(svg, QRectF({0.0, 0.0}, QSizeF(PixelSize(request))), request);
+    return true;
+}
+
+bool WritePdf(const WheelRequest& request, QBuffer& buffer) {
+    constexpr double kPointsPerPixel = 0.75;
+    QPdfWriter pdf(&buffer);
+    pdf.setResolution(1200);
+    pdf.setTitle(QString::fromStdString(request.chart.TitleLines[0]));
+    pdf.setCreator(QStringLiteral("TOLVANIS"));
+    const QPageSize page(QSizeF(PixelSize(request)) * kPointsPerPixel, QPageSize::Point, QString(),
+                         QPageSize::ExactMatch);
+    pdf.setPageLayout({page, QPageLayout::Portrait, QMarginsF()});
+    Paint(pdf, QRectF(0.0, 0.0, pdf.width(), pdf.height()), request);
+    return true;
+}
+
+bool WritePng(const WheelRequest& request, QBuffer& buffer) {
+    QImage image(PixelSize(request), QImage::Format_RGB32);
+    if (image.isNull()) return false;
+    Paint(image, image.rect(), request);
+    return image.save(&buffer, "PNG");
+}
+
+struct PictureFormat {
+    std::string_view extension;
+    bool (*write)(const WheelRequest&, QBuffer&);
+};
+constexpr std::array kFormats = {PictureFormat{".svg", WriteSvg}, PictureFormat{".pdf", WritePdf},
+                                 PictureFormat{".png", WritePng}};
+
+}  // namespace
+
+Result<void> ExportWheel(const WheelRequest& request, const Path& file) {
+    const std::string extension = file.extension().string();
+    const auto format = std::ranges::find_if(
+        kFormats, [&](const PictureFormat& known) { return EqualIgnoringCase(known.extension, extension); });
+    if (format == kFormats.end()) {
+        return Fault{"\"" + file.string() + "\": a picture's name ends in .svg, .pdf or .png"};
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!format->write(request, buffer)) return Fault{"The picture is too large to be drawn."};
+    const QByteArray& bytes = buffer.data();
+    return ReplaceFile(file, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+}  // namespace tolvanis

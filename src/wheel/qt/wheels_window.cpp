@@ -1,0 +1,214 @@
+#include "wheel/qt/wheels_window.h"
+
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPagedPaintDevice>
+#include <QResizeEvent>
+#include <QScreen>
+
+#include "output/zodiac_text.h"
+#include "platform/qt/hourglass.h"
+#include "platform/qt/palette.h"
+#include "platform/qt/symbol_font.h"
+#include "wheel/qt/wheel_export.h"
+#include "wheel/wheel_page.h"
+
+namespace tolvanis {
+
+// The client area of the wheel window.
+class WheelCanvas : public QWidget {
+  public:
+    explicit WheelCanvas(Wheels& window) : QWidget(&window), window_(window) {
+        setObjectName(QStringLiteral("canvas"));
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setMinimumSize(120, 120);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        window_.PaintWheel(painter, rect());
+    }
+    void resizeEvent(QResizeEvent* event) override { window_.Canvas_Resize(event->size()); }
+
+  private:
+    Wheels& window_;
+};
+
+namespace {
+
+// The positions in words, for those who cannot see the wheel.
+QString DescribeChart(const WheelSnapshot& chart) {
+    std::string text;
+    for (const int point : kGridOrder) {
+        text.append(PointName(point)).append(" ").append(FormatDegMin(chart.PointLongitude[point]));
+        text.append(", house ").append(std::to_string(chart.PointHouse[point])).append(". ");
+    }
+    return QString::fromStdString(text);
+}
+
+}  // namespace
+
+Wheels::Wheels(WheelSnapshot chart, const WheelContext& context, int typeChart, QWidget* parent)
+    : QMainWindow(parent),
+      chart_(std::move(chart)),
+      context_(context),
+      typeChart_(typeChart),
+      orbsFile_(FindFile(context.applicationDirectory, kNatalOrbs)),
+      hasFont_(LoadSymbolFont(context.applicationDirectory)),
+      canvas_(new WheelCanvas(*this)) {
+    setObjectName(QStringLiteral("Wheels"));
+    setWindowTitle(QString::fromStdString("Natal Chartwheel " + chart_.Name));
+    canvas_->setAccessibleName(windowTitle());
+    canvas_->setAccessibleDescription(DescribeChart(chart_));
+    setCentralWidget(canvas_);
+    BuildMenu();
+    if (!hasFont_) TellSymbolFontMissing(context_.printing.messages);
+}
+
+void Wheels::BuildMenu() {
+    const auto add = [this](auto& menu, const char* name, const QString& caption, auto handler) {
+        QAction* action = menu.addAction(caption, this, handler);
+        action->setObjectName(QString::fromLatin1(name));
+        return action;
+    };
+    QMenuBar& bar = *menuBar();
+    add(bar, "mnuAsciiChart", tr("AS&CII"), &Wheels::asciiChartRequested);
+    add(bar, "mnuAspects", tr("&Aspects"), &Wheels::mnuAspects_Click);
+    QMenu& orbs = *bar.addMenu(tr("&Orbs"));
+    add(orbs, "mnuOrbsChange", tr("&Select new orb file"), &Wheels::mnuOrbsChange_Click);
+    add(orbs, "mnuOrbsEdit", tr("&Edit orb file"),
+        [this] { Q_EMIT orbsEditRequested(QString::fromStdString(orbsFile_.string())); });
+    add(bar, "mnuPrintChartwheel", tr("&Print"), &Wheels::mnuPrintChartwheel_Click);
+    QMenu& type = *bar.addMenu(tr("&Type"));
+    mnuCTAmerican_ = add(type, "mnuCTAmerican", tr("&American"), &Wheels::mnuCTAmerican_Click);
+    mnuCTEuropean_ = add(type, "mnuCTEuropean", tr("&European"), &Wheels::mnuCTEuropean_Click);
+    mnuCTAmerican_->setCheckable(true);
+    mnuCTEuropean_->setCheckable(true);
+    mnuCTAmerican_->setChecked(ChartTypeOf(typeChart_) == ChartType::American);
+    mnuCTEuropean_->setChecked(ChartTypeOf(typeChart_) == ChartType::European);
+    add(bar, "mnuHelp", tr("&Help"), &Wheels::helpRequested);
+    add(bar, "mnuExport", tr("&Export"), &Wheels::mnuExport_Click);
+}
+
+void Wheels::PaintWheel(QPainter& painter, const QRect& area) {
+    if (!hasFont_) {
+        painter.fillRect(area, PaletteColour(ColourOf(context_.options, kBackgroundOption)));
+        return;
+    }
+    PainterSurface surface(painter, area, outlines_);
+    DrawWheel(surface, RequestFor(area.size(), false));
+}
+
+void Wheels::Canvas_Resize(QSize size) {
+    Q_EMIT startScaleChanged(StartScale(size.width(), size.height()));
+}
+
+WheelRequest Wheels::RequestFor(QSizeF size, bool halfPage) const {
+    return {chart_,       context_.data, context_.options, ChartTypeOf(typeChart_),
+            size.width(), size.height(), halfPage};
+}
+
+void Wheels::mnuCTAmerican_Click() {
+    SetTypeChart(0);
+}
+
+void Wheels::mnuCTEuropean_Click() {
+    SetTypeChart(1);
+}
+
+void Wheels::SetTypeChart(int typeChart) {
+    const Hourglass hourglass;
+    mnuCTAmerican_->setChecked(typeChart == 0);
+    mnuCTEuropean_->setChecked(typeChart == 1);
+    typeChart_ = typeChart;
+    Q_EMIT typeChartChanged(typeChart);
+    canvas_->repaint();
+}
+
+void Wheels::mnuAspects_Click() {
+    delete aspects_;
+    aspects_ = new CWAspect(chart_, orbsFile_, context_.printing.messages, this);
+    aspects_->show();
+}
+
+void Wheels::mnuOrbsChange_Click() {
+    if (!IsReadableFile(orbsFile_)) {
+        context_.printing.messages.Tell("Error!", orbsFile_.string() + " cannot be found.",
+                                        MessageIcon::Warning);
+    }
+    const std::string chosen = context_.printing.dialogs.ChooseFile("*.ORB", orbsFile_.string());
+    if (chosen.empty()) return;
+    orbsFile_ = FindPath(PathFromText(chosen));
+    mnuAspects_Click();
+}
+
+void Wheels::mnuPrintChartwheel_Click() {
+    const Answer answer = context_.printing.messages.AskYesNoCancel(
+        "Full page or half page chartwheel",
+        "Click 'YES' for full page chartwheel. Click 'NO' for half page chartwheel.");
+    if (answer == Answer::Yes) PrintFullPage();
+    if (answer == Answer::No) PrintHalfPage();
+    if (isMaximized()) showNormal();
+    canvas_->update();
+}
+
+void Wheels::PrintFullPage() {
+    PageRequest page{chart_, context_.data, context_.options, typeChart_,
+                     ReadPersonalLines(context_.applicationDirectory, context_.options)};
+    if (const Result<void> read = ReadOrbsFile(orbsFile_, page.orbs); !read) {
+        context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Warning);
+        page.orbs = {};
+    }
+    PrintDocument(context_.printing, DocumentName(), [&](QPagedPaintDevice& device, QPainter& painter) {
+        const Hourglass hourglass;
+        page.width = device.width();
+        page.height = device.height();
+        PainterSurface surface(painter, QRectF(0.0, 0.0, page.width, page.height), outlines_);
+        DrawPage(surface, page);
+    });
+}
+
+void Wheels::PrintHalfPage() {
+    // The picture has the shape of the maximised window.
+    const QSizeF window = screen()->availableSize();
+    PrintDocument(context_.printing, DocumentName(), [&](QPagedPaintDevice& device, QPainter& painter) {
+        const Hourglass hourglass;
+        const QSizeF half(device.width(), device.height() / 2.0);
+        const QSizeF size = window.scaled(half, Qt::KeepAspectRatio);
+        const QRectF area(QPointF((half.width() - size.width()) / 2, 0.0), size);
+        PainterSurface surface(painter, area, outlines_);
+        DrawWheel(surface, RequestFor(size, true));
+    });
+}
+
+void Wheels::mnuExport_Click() {
+    const std::string file = context_.printing.dialogs.ChooseSaveFile(
+        {context_.printing.directory, DocumentName() + ".svg", "Pictures", "*.svg *.pdf *.png", "svg"});
+    if (file.empty()) return;
+    const Hourglass hourglass;
+    const Result<void> written = ExportWheel(RequestFor(canvas_->size(), false), PathFromText(file));
+    if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Warning);
+}
+
+std::string Wheels::DocumentName() const {
+    std::string name = chart_.Name.empty() ? "Chartwheel" : chart_.Name;
+    for (char& c : name) {
+        if (std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
+    }
+    return name;
+}
+
+void Wheels::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT mainWindowRequested();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+void Wheels::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton) Q_EMIT mainWindowRequested();
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,83 @@
+#pragma once
+// The wheel window.
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include "platform/qt/painter_surface.h"
+#include "platform/qt/printing.h"
+#include "wheel/qt/aspect_window.h"
+#include "wheel/wheel_drawing.h"
+
+class QAction;
+
+namespace tolvanis {
+
+// What a wheel window works with; all of it outlives the window.
+struct WheelContext {
+    const WheelData& data;
+    const Options& options;
+    Path applicationDirectory;  // symbol font, NATAL.ORB, PERSONAL.NAM
+    PrintServices printing;     // also asks for orbs files and where to export to
+};
+
+// Draws the chart that it is opened with, whatever is computed later. Everything is redrawn on every paint,
+// in proportion to the window and at the screen's own resolution. The current orbs file is NATAL.ORB until
+// the user selects another one.
+class Wheels : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    Wheels(WheelSnapshot chart, const WheelContext& context, int typeChart, QWidget* parent = nullptr);
+
+    const WheelSnapshot& chart() const { return chart_; }
+    const Path& orbsFile() const { return orbsFile_; }
+    CWAspect* aspectWindow() { return aspects_; }
+
+    // Draws the wheel, or nothing but the background when there is no symbol font.
+    void PaintWheel(QPainter& painter, const QRect& area);
+
+  Q_SIGNALS:
+    void typeChartChanged(int typeChart);    // to be kept in the settings
+    void startScaleChanged(int startScale);  // to be kept in the settings
+    void asciiChartRequested();              // write chart() as an ASCII chart and show it
+    void orbsEditRequested(const QString& orbsFile);
+    void helpRequested();        // show WHEELS.HLP
+    void mainWindowRequested();  // Esc or the right mouse button
+
+  public Q_SLOTS:
+    void mnuAspects_Click();
+    void mnuOrbsChange_Click();
+    void mnuPrintChartwheel_Click();
+    void mnuCTAmerican_Click();
+    void mnuCTEuropean_Click();
+    void mnuExport_Click();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    void BuildMenu();
+    void SetTypeChart(int typeChart);
+    void Canvas_Resize(QSize size);
+    WheelRequest RequestFor(QSizeF size, bool halfPage) const;
+    void PrintFullPage();
+    void PrintHalfPage();
+    std::string DocumentName() const;
+
+    friend class WheelCanvas;
+
+    WheelSnapshot chart_;
+    WheelContext context_;
+    int typeChart_;
+    Path orbsFile_;
+    bool hasFont_;
+    TextOutlines outlines_;
+    QWidget* canvas_;
+    QAction* mnuCTAmerican_ = nullptr;
+    QAction* mnuCTEuropean_ = nullptr;
+    QPointer<CWAspect> aspects_;
+};
+
+}  // namespace tolvanis

@@ -1,0 +1,422 @@
+// The program as its user meets it: from start over births, listings, files and editors to exit.
+
+#include "app/qt/desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRadioButton>
+#include <QSignalSpy>
+
+#include "app/qt/editor_window.h"
+#include "app/qt/print_file_window.h"
+#include "app/qt/select_file_window.h"
+#include "app/qt/title_window.h"
+#include "platform/qt/listing_font.h"
+#include "platform/qt/placement.h"
+#include "support/desktop_fixture.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
+
+namespace tolvanis {
+namespace {
+
+TEST_F(DesktopWindow, StartsWithTheMainMenuAndTheNatalInput) {
+    EXPECT_TRUE(desktop_->mainWindow().isVisible());
+    EXPECT_TRUE(input().isVisible());
+    EXPECT_EQ(desktop_->mainWindow().windowTitle().toStdString(), "Tolvanis - 05 Jan 2027     14:07:03");
+    for (const char* item : {"mnuInputData", "mnuData", "mnuWheels", "mnuReportNatal"}) {
+        EXPECT_FALSE(Shown(item)) << item;
+    }
+    EXPECT_TRUE(desktop_->mainWindow().ItemOf("mnuHousePlacidus")->isChecked());
+}
+
+TEST_F(DesktopWindow, ATypedBirthGivesItsListing) {
+    TypeBirth();
+    PressOK();
+    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+    EXPECT_TRUE(ListingHas("  Ann Smith\n  22 Sep 1949    TZ = 4.0      9.05 P.M.   40.45 NORTH"));
+    EXPECT_TRUE(ListingHas("HOUSE CUSPS - Placidus"));
+    EXPECT_TRUE(ListingHas("NATAL PLANET ASPECTS"));
+    EXPECT_FALSE(input().isVisible());
+    EXPECT_TRUE(Shown("mnuData") && Shown("mnuInputData"));
+    EXPECT_EQ(desktop_->dataWindow()->windowTitle(), QStringLiteral("Tolvanis - Data"));
+    Choose("mnuInputData");
+    EXPECT_TRUE(input().isVisible());
+    EXPECT_EQ(desktop_->dataWindow(), nullptr);
+    EXPECT_EQ(input().Entry().name, "Ann Smith");
+}
+
+TEST_F(DesktopWindow, WrongEntriesAreToldOneByOneAndKeepTheLastListing) {
+    TypeBirth();
+    PressOK();
+    input().show();
+    const std::string before = Listing();
+    Type(input(), "txtBirthMinute", "\b");
+    Type(input(), "txtMonth", "13");
+    PressOK();
+    const std::string fault = "Warning!: Error in natal input data section. Please correct.";
+    EXPECT_EQ(messages_.TakeTold(), (std::vector<std::string>{fault, fault}));
+    EXPECT_EQ(Listing(), before);
+    EXPECT_TRUE(input().isVisible()) << "the boxes come up to be corrected";
+
+    EXPECT_EQ(input().focusWidget()->objectName(), QStringLiteral("txtBirthMinute"));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&input()));
+    Type(input(), "txtMonth", "2");
+    Type(input(), "txtDay", "31");
+    Type(input(), "txtBirthMinute", "5");
+    PressOK();
+    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+    EXPECT_TRUE(ListingHas("31 Feb 1949"));
+}
+
+TEST_F(DesktopWindow, AnotherHouseSystemComputesTheSameBirthAgain) {
+    TypeBirth();
+    PressOK();
+    Choose("mnuHouseKoch");
+    EXPECT_TRUE(ListingHas("HOUSE CUSPS - Koch"));
+    EXPECT_TRUE(ListingHas("Ann Smith"));
+    EXPECT_TRUE(desktop_->mainWindow().ItemOf("mnuHouseKoch")->isChecked());
+    EXPECT_FALSE(desktop_->mainWindow().ItemOf("mnuHousePlacidus")->isChecked());
+    Choose("mnuHouseKoch");
+    EXPECT_TRUE(desktop_->mainWindow().ItemOf("mnuHouseKoch")->isChecked());
+    EXPECT_TRUE(ListingHas("HOUSE CUSPS - Koch"));
+
+    Choose("mnuInputData");
+    Type(input(), "txtLatDeg", "80");
+    Choose("mnuHouseEqualMC");
+    ASSERT_EQ(messages_.told.size(), 1U);
+    EXPECT_NE(messages_.TakeTold()[0].find("Your latitude is too high."), std::string::npos);
+    EXPECT_TRUE(input().isVisible());
+    Choose("mnuHouseMeridian");
+    EXPECT_TRUE(ListingHas("HOUSE CUSPS - Meridian"));
+    EXPECT_TRUE(messages_.told.empty());
+}
+
+TEST_F(DesktopWindow, SavesUnderTheProposedNameAndThenWithoutAsking) {
+    TypeBirth();
+    PressOK();
+    dialogs_.answer = (directory_.path() / "Ann.DOC").string();
+    ChooseInData("mnuSave");
+    ASSERT_EQ(dialogs_.saveRequests.size(), 1U);
+    EXPECT_EQ(dialogs_.saveRequests[0].proposedName, "Ann.DOC");
+    EXPECT_NE(FileContent(directory_ / "Ann.DOC").find("  Ann Smith\r\n"), std::string::npos);
+    EXPECT_TRUE(FileContent(directory_ / "Ann.DOC").ends_with("\r\n\f\r\n"));
+    ChooseInData("mnuSave");
+    EXPECT_EQ(dialogs_.saveRequests.size(), 1U);
+    Choose("mnuInputData");
+    PressOK();
+    ChooseInData("mnuSave");
+    EXPECT_EQ(dialogs_.saveRequests.size(), 2U) << "a new input asks for a file again";
+}
+
+TEST_F(DesktopWindow, AFailedSaveNamesFileAndReasonAndKeepsTheData) {
+    TypeBirth();
+    PressOK();
+    const std::size_t lines = state_.buffer.BufferLineCount();
+    const std::pair<std::string, std::string> cases[] = {
+        {(directory_.path() / "gone" / "Ann.DOC").string(), "No such file or directory"},
+        {directory_.path().string(), "Is a directory"},
+        {"/dev/full", "No space left on device"}};
+    for (const auto& [path, reason] : cases) {
+        if (path == "/dev/full" && !std::filesystem::is_character_file(path)) continue;
+        dialogs_.answer = path;
+        ChooseInData("mnuSaveAs");
+        ASSERT_EQ(messages_.told.size(), 1U) << path;
+        EXPECT_NE(messages_.told[0].find(path), std::string::npos) << messages_.told[0];
+        EXPECT_NE(messages_.told[0].find(reason), std::string::npos) << messages_.told[0];
+        messages_.told.clear();
+    }
+    EXPECT_EQ(state_.buffer.BufferLineCount(), lines);
+}
+
+TEST_F(DesktopWindow, AClearedBufferHasNothingToSaveOrPrint) {
+    PressOK();
+    const std::string shown = Listing();
+    ChooseInData("mnuClear");
+    ChooseInData("mnuSave");
+    ChooseInData("mnuPrintData");
+    EXPECT_EQ(messages_.TakeTold(), (std::vector<std::string>{"Information!: All data cleared from buffer.",
+                                                              "Information: No data to write to file.",
+                                                              "Information: No data to print."}));
+    EXPECT_EQ(Listing(), shown);
+    state_.options[165] = 1;
+    Choose("mnuHouseKoch");
+    ChooseInData("mnuSave");
+    EXPECT_EQ(messages_.TakeTold(), std::vector<std::string>{"Information: No data to write to file."});
+}
+
+TEST_F(DesktopWindow, ANearlyFullBufferWarnsAtEveryShowingAndAFullOneOnce) {
+    std::string text;
+    for (int i = 0; i < 1001; ++i) text += "line\r\n";
+    directory_.Write("LONG.HLP", text);
+    desktop_->ShowTextFile("LONG.HLP");
+    EXPECT_EQ(messages_.TakeTold().size(), 1U);
+    ChooseInData("mnuBold");
+    EXPECT_NE(messages_.TakeTold().at(0).find("nearly full"), std::string::npos);
+    ChooseInData("mnuClear");
+    messages_.told.clear();
+    ChooseInData("mnuBold");
+    EXPECT_TRUE(messages_.told.empty());
+
+    for (int i = 0; i < 33; ++i) text += text.substr(0, 6006);
+    directory_.Write("LONG.HLP", text);
+    desktop_->ShowTextFile("LONG.HLP");
+    EXPECT_NE(messages_.TakeTold().at(0).find("The data buffer is full."), std::string::npos);
+    EXPECT_EQ(state_.buffer.BufferLineCount(), DataBuffer::kMostLines);
+    ChooseInData("mnuBold");
+    EXPECT_NE(messages_.TakeTold().at(0).find("nearly full"), std::string::npos);
+}
+
+TEST_F(DesktopWindow, FontCommandsChangeTextAndSettings) {
+    PressOK();
+    auto& text = Find<QPlainTextEdit>(*desktop_->dataWindow(), "Text1");
+    EXPECT_TRUE(IsReallyFixedPitch(text.font()));
+    ChooseInData("mnuIncrease");
+    EXPECT_NEAR(text.font().pointSizeF(), 8.5 + state_.screen.fontStep / 2, 0.1);
+    ChooseInData("mnuBold");
+    EXPECT_TRUE(text.font().bold());
+    EXPECT_EQ(state_.settings.dataView.FontBold, -1.0);
+    ChooseInData("mnuBold");
+    EXPECT_EQ(state_.settings.dataView.FontBold, 0.0);
+    for (int i = 0; i < 20; ++i) ChooseInData("mnuIncrease");
+    EXPECT_FALSE(Find<QAction>(*desktop_->dataWindow(), "mnuIncrease").isEnabled());
+    EXPECT_LT(state_.settings.dataView.FontSize, 12.0 + state_.screen.fontStep);
+}
+
+TEST_F(DesktopWindow, AMinimisedDataWindowKeepsItsTextUntilTheNextShowing) {
+    PressOK();
+    const std::string before = Listing();
+    desktop_->dataWindow()->showMinimized();
+    directory_.Write("HINTS.HLP", "a hint\r\n");
+    Choose("mnuHelpHints");
+    EXPECT_EQ(Listing(), before);
+    desktop_->dataWindow()->showNormal();
+    ChooseInData("mnuItalic");
+    EXPECT_TRUE(ListingHas("a hint"));
+}
+
+TEST_F(DesktopWindow, TextItemsShowTheirFileOrNameTheMissingOne) {
+    directory_.Write("WHAT_AST.TXT", "What is astrology?\r\n");
+    for (const MenuItem& item : MainMenu()) {
+        if (!item.textFile.empty()) std::filesystem::remove(directory_.path() / item.textFile);
+    }
+    directory_.Write("what_ast.txt", "What is astrology?\r\n");
+    for (const MenuItem& item : MainMenu()) {
+        if (item.textFile.empty() || item.textFile == "WHAT_AST.TXT") continue;
+        Choose(item.control.c_str());
+        ASSERT_EQ(messages_.told.size(), 1U) << item.control;
+        EXPECT_EQ(messages_.TakeTold()[0], "Warning!: Cannot find the file called " +
+                                               (directory_.path() / item.textFile).string() + ".");
+    }
+    Choose("mnuPhilosophy01");
+    EXPECT_TRUE(ListingHas("What is astrology?"));
+}
+
+TEST_F(DesktopWindow, PrintsTheListingIntoAPdfFile) {
+    TypeBirth();
+    PressOK();
+    ChooseInData("mnuPrintPage");
+    auto* print = TopWindow<PrntFile>();
+    ASSERT_NE(print, nullptr);
+    EXPECT_EQ(print->windowTitle(), QStringLiteral("Data To Be Printed"));
+    auto& content = Find<QPlainTextEdit>(*print, "txtContent");
+    content.moveCursor(QTextCursor::Start);
+    QTest::keyClicks(&content, QStringLiteral("Printed for Zoe"));
+    dialogs_.answer = (directory_.path() / "out.pdf").string();
+    Press(*print, "btnPrint");
+    const std::vector<std::string> pages = PdfPages("out.pdf");
+    ASSERT_EQ(pages.size(), 2U) << "60 lines a page";
+    EXPECT_NE(pages[0].find("Printed for Zoe"), std::string::npos);
+    EXPECT_NE(pages[0].find("TZ = 4.0"), std::string::npos);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(TopWindow<PrntFile>(), nullptr);
+}
+
+TEST_F(DesktopWindow, HelpIsPrintedSixtyLinesAPageWithNothingCutOff) {
+    std::string help;
+    for (int i = 1; i <= 130; ++i) help += "line " + std::to_string(i) + "\r\n";
+    help += std::string(110, 'x') + "END\r\n";
+    directory_.Write("HELPFILE", help);
+    dialogs_.answer = (directory_.path() / "help.pdf").string();
+    Choose("mnuHelpPrintHelp");
+    const std::vector<std::string> pages = PdfPages("help.pdf");
+    ASSERT_EQ(pages.size(), 3U);
+    EXPECT_NE(pages[0].find("line 60\n"), std::string::npos);
+    EXPECT_NE(pages[1].find("line 61\n"), std::string::npos);
+    EXPECT_NE(pages[2].find("xEND"), std::string::npos);
+    dialogs_.answer = (directory_.path() / "gone" / "help.pdf").string();
+    Choose("mnuHelpPrintHelp");
+    EXPECT_NE(messages_.TakeTold().at(0).find("gone/help.pdf: No such file or directory"), std::string::npos);
+}
+
+TEST_F(DesktopWindow, EditedOptionsAreReadAfreshAndCanBeRestored) {
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->windowTitle(), QStringLiteral("Edit: OPTIONS.OPT"));
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    const std::string delivered = FileContent(directory_ / "OPTIONS.OPT");
+    Press(*editor, "btnSave");
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), delivered)
+        << "saving without a change changes nothing";
+    content.moveCursor(QTextCursor::Start);
+    QTest::keyClicks(&content, QStringLiteral("1"));
+    Press(*editor, "btnSave");
+    EXPECT_EQ(state_.options[1], 18.0F);
+    EXPECT_TRUE(desktop_->mainWindow().windowTitle().startsWith(QStringLiteral("TOLVANIS - ")));
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), FileContent(directory_ / "OPTIONS.MAS"));
+    EXPECT_EQ(state_.options[1], 18.0F) << "restored options are read at the next save or start";
+    std::filesystem::remove(directory_.path() / "OPTIONS.MAS");
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_EQ(messages_.TakeTold().at(0), "Warning!: Error in operation. Cannot do what is requested.");
+}
+
+TEST_F(DesktopWindow, UnsavedChangesAreAskedAboutBeforeAnythingCloses) {
+    directory_.Write("PERSONAL.NAM", "Ann\u00a0Smith\r\n");
+    Choose("mnuHeader");
+    auto* editor = TopWindow<EditorWindow>();
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    QTest::keyClicks(&content, QStringLiteral("x"));
+    messages_.answers = {Answer::Cancel, Answer::Cancel, Answer::Yes};
+    Press(*editor, "btnQuit");
+    EXPECT_TRUE(editor->isVisible());
+    QSignalSpy ended(desktop_.get(), &Desktop::ended);
+    Choose("mnuFileExit");
+    EXPECT_EQ(ended.count(), 0);
+    Choose("mnuFileExit");
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "xAnn\u00a0Smith\r\n");
+}
+
+TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
+    TypeBirth();
+    PressOK();
+    ChooseInData("mnuItalic");
+    desktop_->dataWindow()->move(150, 120);
+    desktop_->dataWindow()->resize(500, 400);
+    QCoreApplication::processEvents();
+    desktop_->mainWindow().move(30, 15);
+    desktop_->mainWindow().close();
+    const Settings kept = state_.settings;
+    EXPECT_EQ(kept.dataView.DataLeft, 2250);
+    EXPECT_EQ(kept.dataView.DataWidth, 7500);
+    EXPECT_EQ(kept.TOLVANISLeft, 450.0);
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(state_.settings, kept);
+    PressOK();
+    EXPECT_EQ(desktop_->dataWindow()->size(), QSize(500, 400));
+    EXPECT_TRUE(Find<QAction>(*desktop_->dataWindow(), "mnuItalic").isChecked());
+    desktop_->mainWindow().close();
+    EXPECT_EQ(state_.settings, kept) << "windows that were not moved keep their settings to the twip";
+}
+
+TEST_F(DesktopWindow, RubbishSettingsStillOpenWindowsInView) {
+    directory_.Write(
+        "Tolvanis.ini",
+        "FontSize=1e300\r\nTOLVANISTop=-1e9\r\nTOLVANISLeft= 1e300\r\nTOLVANISWidth= 1e-9\r\n"
+        "DataTop= 32767\r\nDataLeft=-32768\r\nDataHeight= 1\r\nDataWidth= 32767\r\nDataFile=\xff\r\n");
+    ASSERT_TRUE(Open());
+    PressOK();
+    const QRect screen = UsableScreens().constFirst();
+    for (const QWidget* window :
+         {static_cast<QWidget*>(&desktop_->mainWindow()), static_cast<QWidget*>(desktop_->dataWindow())}) {
+        const QRect shown = window->geometry().intersected(screen);
+        EXPECT_GE(shown.width(), 100);
+        EXPECT_GE(shown.height(), 20);
+    }
+}
+
+TEST_F(DesktopWindow, MissingOptionsAreRestoredOnlyWhenTheUserWantsIt) {
+    for (const char* content : {"", "no file", "\x7F\x45\x4C\x46 nothing\nlike options\n"}) {
+        std::filesystem::remove(directory_.path() / "OPTIONS.OPT");
+        if (std::string(content) != "no file") directory_.Write("OPTIONS.OPT", content);
+        messages_.answers = {Answer::No, Answer::Yes};
+        EXPECT_FALSE(Open());
+        EXPECT_TRUE(Open());
+        EXPECT_EQ(state_.options[22], 40.0F);
+        EXPECT_NE(messages_.asked.back().find("OPTIONS.OPT"), std::string::npos);
+    }
+    std::filesystem::remove(directory_.path() / "OPTIONS.OPT");
+    std::filesystem::remove(directory_.path() / "OPTIONS.MAS");
+    EXPECT_FALSE(Open());
+    EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.MAS is missing"), std::string::npos);
+}
+
+TEST_F(DesktopWindow, OptionsChooseHousesAtStart) {
+    auto lines = *ReadLines(directory_.path() / "OPTIONS.OPT");
+    for (const auto& [value, item] : {std::pair{"3", "mnuHouseKoch"}, {"12", "mnuHousePlacidus"}}) {
+        lines[26] = value;
+        directory_.Write("OPTIONS.OPT", JoinLines(lines) + std::string("\r\n1\r\n"));
+        ASSERT_TRUE(Open());
+        EXPECT_TRUE(desktop_->mainWindow().ItemOf(item)->isChecked()) << value;
+    }
+}
+
+TEST_F(DesktopWindow, AClosedNatalInputCanBeOpenedAgain) {
+    input().close();
+    ASSERT_TRUE(Shown("mnuInputData"));
+    Choose("mnuInputData");
+    EXPECT_TRUE(input().isVisible());
+}
+
+TEST_F(DesktopWindow, ExitWhileTheAtlasRunsIsSafe) {
+    const Path atlas = directory_.Write("ATLAS.EXE", "#!/bin/sh\nsleep 0.5\n");
+    std::filesystem::permissions(atlas, std::filesystem::perms::owner_all);
+    state_.settings.AtlasDir = directory_.path().string() + "/";
+    QTimer::singleShot(100, &desktop_->mainWindow(), [this] { Choose("mnuFileExit"); });
+    Press(input(), "Label2");
+    EXPECT_FALSE(input().isVisible());
+}
+
+TEST(Placement, BringsLostWindowsBack) {
+    const QList<QRect> screens = {{0, 0, 1000, 800}, {1000, 0, 500, 400}};
+    const struct {
+        QRect wanted, want;
+    } cases[] = {{{100, 50, 600, 500}, {100, 50, 600, 500}},   {{-200, 50, 600, 500}, {-200, 50, 600, 500}},
+                 {{-590, -20, 600, 500}, {0, 0, 600, 500}},    {{5000, 3000, 600, 500}, {400, 300, 600, 500}},
+                 {{1100, 30, 300, 200}, {1100, 30, 300, 200}}, {{0, 0, 9000, 0}, {0, 0, 1000, 1}},
+                 {{10, 126, 800, 1100}, {10, 126, 800, 674}},  {{-50, -50, 1200, 900}, {0, 0, 1000, 800}}};
+    for (const auto& test : cases) EXPECT_EQ(BroughtIntoView(test.wanted, screens), test.want);
+    EXPECT_EQ(WhollyInView({800, 700, 300, 200}, screens), QRect(700, 600, 300, 200));
+    EXPECT_EQ(WhollyInView({1400, 100, 300, 200}, screens), QRect(1200, 100, 300, 200));
+}
+
+TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {
+    const ScratchDirectory directory;
+    std::filesystem::create_directory(directory.path() / "sub");
+    for (const char* name : {"A.FIL", "names.fil", "sub/C.FIL", "X.TXT"}) directory.Write(name, "");
+    {
+        SelectFIle chooser(directory.path(), "*.FIL", "C:\\OLD\\NAMES.FIL");
+        EXPECT_EQ(Find<QListWidget>(chooser, "filList").count(), 2);
+        EXPECT_EQ(chooser.windowTitle(), QStringLiteral("Select a File"));
+        Press(chooser, "cmdSelect");
+        EXPECT_EQ(chooser.result(), (directory.path() / "names.fil").string());
+    }
+    {
+        SelectFIle chooser(directory.path(), "*.FIL", "");
+        chooser.show();
+        chooser.activateWindow();
+        auto& directories = Find<QListWidget>(chooser, "dirList");
+        directories.setFocus();
+        QTest::keyClick(&directories, Qt::Key_Down);
+        QTest::keyClick(&directories, Qt::Key_Return);
+        auto& files = Find<QListWidget>(chooser, "filList");
+        ASSERT_EQ(files.count(), 1);
+        files.setFocus();
+        QTest::keyClick(&files, Qt::Key_Return);
+        EXPECT_EQ(chooser.result(), (directory.path() / "sub/C.FIL").string());
+    }
+    SelectFIle chooser(directory.path(), "*.FIL", "");
+    Press(chooser, "cmdSelect");
+    Press(chooser, "cmdCancel");
+    EXPECT_EQ(chooser.result(), "");
+}
+
+}  // namespace
+}  // namespace tolvanis

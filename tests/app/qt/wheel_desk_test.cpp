@@ -1,0 +1,61 @@
+// The wheel as the main menu opens it.
+#include "app/qt/wheel_desk.h"
+
+#include <QSignalSpy>
+
+#include "app/qt/desktop.h"
+#include "platform/qt/symbol_font.h"
+#include "support/desktop_fixture.h"
+
+namespace tolvanis {
+namespace {
+
+class WheelDeskTest : public DesktopWindow {
+  protected:
+    Wheels& wheels() { return *desktop_->wheelDesk().wheels(); }
+    void Trigger(const char* item) { Find<QAction>(wheels(), item).trigger(); }
+    void OpenWheel() {
+        ASSERT_TRUE(LoadSymbolFont(Path(DELIVERED_DATA_DIR).parent_path() / "fonts"));
+        TypeBirth();
+        PressOK();
+        Choose("mnuWheels");
+        ASSERT_NE(desktop_->wheelDesk().wheels(), nullptr);
+    }
+};
+
+TEST_F(WheelDeskTest, ShowsTheComputedChartAndItsTexts) {
+    OpenWheel();
+    EXPECT_EQ(wheels().windowTitle(), QStringLiteral("Natal Chartwheel Ann Smith"));
+    Trigger("mnuAsciiChart");
+    EXPECT_TRUE(ListingHas("     Ann Smith - natal\n     22 Sep 1949\n     9.05 P.M. (4)"));
+    Trigger("mnuHelp");
+    EXPECT_TRUE(ListingHas("THE WHEEL WINDOW"));
+    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+}
+
+TEST_F(WheelDeskTest, ClosesWithTheInputAndKeepsTheTypeForTheNextWheel) {
+    OpenWheel();
+    Trigger("mnuCTEuropean");
+    Trigger("mnuAspects");
+    const QPointer<CWAspect> aspects = wheels().aspectWindow();
+    Choose("mnuInputData");
+    EXPECT_EQ(desktop_->wheelDesk().wheels(), nullptr);
+    EXPECT_EQ(aspects, nullptr);
+    PressOK();
+    Choose("mnuWheels");
+    EXPECT_TRUE(Find<QAction>(wheels(), "mnuCTEuropean").isChecked());
+}
+
+TEST_F(WheelDeskTest, EditsTheOrbsInUse) {
+    OpenWheel();
+    Trigger("mnuOrbsEdit");
+    QWidget* editor = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String("OrbsEdit")) editor = window;
+    }
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->windowTitle().endsWith(QStringLiteral("NATAL.ORB")));
+}
+
+}  // namespace
+}  // namespace tolvanis

@@ -1,0 +1,102 @@
+// The cities and time-zone windows, and an atlas program that really runs.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QTest>
+#include <QTimer>
+
+#include "birthdata/atlas_lookup.h"
+#include "birthdata/qt/cities_window.h"
+#include "birthdata/qt/time_zone_window.h"
+#include "platform/qt/external_program.h"
+#include "support.h"
+#include "support/window_user.h"
+
+namespace tolvanis {
+namespace {
+
+TEST(CitiesWindowTest, ClickGivesThePlaceOfTheFirstSuchCity) {
+    const ScratchDirectory directory;
+    RecordingMessages messages;
+    Geograph window(
+        directory.Write("a.ll", "Bern,CH,07E27,46N57,-1\nRome,IT,12E29,41N54,-1\nBern,CH,99W99,99S99,9\nx")
+            .string(),
+        messages);
+    std::vector<Place> places;
+    QObject::connect(&window, &Geograph::placePicked, [&](const Place& place) { places.push_back(place); });
+    window.show();
+    window.Load();
+    auto& find = Find<QLineEdit>(window, "txtFind");
+    EXPECT_EQ(window.windowTitle(), "Cities");
+    EXPECT_EQ(Find<QLabel>(window, "lblCitiesOnFile").text(), "A.LL");
+    EXPECT_EQ(messages.told.size(), 1U);
+    ClickRow(Find<QListView>(window, "CitiesOnFile"), 2);
+    ASSERT_EQ(places.size(), 1U);
+    EXPECT_EQ(places[0], (Place{Coordinate{"7", "27", true}, Coordinate{"46", "57", false}, "-1"}));
+    EXPECT_TRUE(window.isVisible());
+    QTest::keyClicks(&find, "rom");
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(places.at(1).longitude->degrees, "12");
+}
+
+TEST(TimeZoneWindowTest, DeliveredZonesCanAllBePicked) {
+    RecordingMessages messages;
+    TimeZone window(Path(DELIVERED_DATA_DIR) / "TZ.DAT", messages);
+    window.show();
+    window.Load();
+    const int rows = Find<QListView>(window, "lstTimeZones").model()->rowCount();
+    for (int row = 0; row < rows; ++row) window.lstTimeZones_Click(row);
+    EXPECT_TRUE(messages.told.empty());
+    EXPECT_GT(rows, 60);
+    Press(window, "Command1");
+    EXPECT_FALSE(window.isVisible());
+}
+
+// An atlas that does what its shell script says.
+TEST(AtlasWindowTest, RunsARealProgram) {
+    struct Case {
+        const char* what;
+        std::string script;
+        bool found;
+    };
+    const std::string leave = "printf 'x\\r\\n47N36\\r\\n122W20\\r\\n\\r\\n8\\r\\n' > TSRTEMP.TXT\n";
+    const Case cases[] = {
+        {"a good one", "#!/bin/sh\nsleep 0.2\n" + leave, true},
+        {"one that leaves no file", "#!/bin/sh\n", false},
+        {"one that crashes", "#!/bin/sh\nkill -SEGV $$\n", false},
+        {"one that crashes after its work", "#!/bin/sh\n" + leave + "kill -KILL $$\n", true},
+        {"one that writes rubbish",
+         "#!/bin/sh\nhead -c 5000 /dev/urandom > TSRTEMP.TXT\nprintf '\\n\\n\\n\\n\\n' >> TSRTEMP.TXT\n",
+         true},
+        {"one that cannot be run", "\177ELF rubbish", false},
+    };
+    for (const Case& test : cases) {
+        const ScratchDirectory directory;
+        ::chmod(directory.Write("Atlas.exe", test.script).c_str(), 0755);
+        std::string atlasDir = directory.path().string() + "\\";
+        directory.Write("PCATPATH.TXT", atlasDir + "\r\n");
+        RecordingMessages messages;
+        AtlasLookup lookup(RunAndWait, messages);
+        int ticks = 0;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            ++ticks;
+            EXPECT_FALSE(lookup.LookUp(atlasDir)) << "not while one is running";
+        });
+        timer.start(20);
+        const auto place = lookup.LookUp(atlasDir);
+        timer.stop();
+        EXPECT_EQ(place.has_value(), test.found) << test.what;
+        EXPECT_EQ(messages.told.size(), 1U) << test.what;
+        if (std::string(test.what) == "a good one") {
+            EXPECT_EQ(place->longitude->degrees, "122");
+            EXPECT_GT(ticks, 3) << "the windows stay alive";
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis
