@@ -31,7 +31,7 @@ BENCHMARK(PositionsOnly);
 template <typename Print>
 void Printed(benchmark::State& state, Print print) {
     Options options;
-    if (!ReadOptions(DELIVERED_DATA_DIR, options)) state.SkipWithError("no options");
+    if (!ReadOptions(DataFiles(DELIVERED_DATA_DIR), options)) state.SkipWithError("no options");
     std::int64_t i = 0;
     for (auto _ : state) {
         const NatalData natal = Birth(i++);

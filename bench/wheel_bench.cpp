@@ -1,7 +1,7 @@
 // The wheel without a surface: placement and ASCII chart.
 #include <benchmark/benchmark.h>
 
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 #include "birthdata/name_record.h"
 #include "wheel/ascii_chart.h"
 #include "wheel/wheel_placement.h"

@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 #include "birthdata/name_record.h"
 #include "platform/messages.h"
 

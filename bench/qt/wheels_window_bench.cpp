@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "app/options_file.h"
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 #include "birthdata/name_record.h"
 #include "platform/qt/painter_surface.h"
 #include "platform/qt/symbol_font.h"
@@ -24,9 +24,9 @@ struct Sample {
         const auto entry = EntryFromRecord(*ParseNameRecord("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45"));
         const NatalData natal = ParseNatalData(*entry, HouseSystem::Placidus, 1);
         chart = MakeWheelSnapshot(natal, *ComputePositions(natal));
-        data = *ReadWheelData(DELIVERED_DATA_DIR);
-        (void)ReadOptions(DELIVERED_DATA_DIR, options);
-        LoadSymbolFont(FONTS_DIR);
+        data = *ReadWheelData(DataFiles(DELIVERED_DATA_DIR));
+        (void)ReadOptions(DataFiles(DELIVERED_DATA_DIR), options);
+        LoadSymbolFont(DataFiles(FONTS_DIR));
     }
     WheelRequest Request(int type, double size) const {
         return {chart, data, options, ChartTypeOf(type), size, size};

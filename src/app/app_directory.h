@@ -1,10 +1,10 @@
 #pragma once
-// Where the program's data files are.
+// Which directory is the application directory.
 
 #include <optional>
 #include <string>
 
-#include "platform/files.h"
+#include "platform/data_files.h"
 
 namespace tolvanis {
 
@@ -26,8 +26,9 @@ enum class FirstStart { LeaveAsIs, FillUserDirectory };
 
 // The application directory: the command line's, the environment's, the program's own when it holds
 // OPTIONS.OPT (a portable copy), else the user's. With FillUserDirectory the user's directory is made and
-// receives every delivered file that it does not have yet; with LeaveAsIs a user's directory without
-// OPTIONS.OPT gives way to the installed data, and nothing is written. A fault says what could not be made.
-Result<Path> ApplicationDirectory(const DirectoryHints& hints, FirstStart firstStart);
+// receives the delivered files that a user edits or picks from a list (names, cities, options, orbs, header)
+// where it does not have them yet; with LeaveAsIs a user's directory without OPTIONS.OPT gives way to the
+// installed data, and nothing is written. A fault says what could not be made.
+Result<DataFiles> ApplicationDirectory(const DirectoryHints& hints, FirstStart firstStart);
 
 }  // namespace tolvanis

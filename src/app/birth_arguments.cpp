@@ -74,10 +74,10 @@ void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
 }
 
 // The place that was asked for; the file is looked up as given, then in the application directory.
-Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const Path& appDirectory) {
+Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const DataFiles& files) {
     if (!births.place) return std::optional<Place>();
     const Path asGiven = PathFromText(births.place->file);
-    const Path file = IsReadableFile(asGiven) ? asGiven : FindFile(appDirectory, births.place->file);
+    const Path file = IsReadableFile(asGiven) ? asGiven : files.Own(births.place->file);
     const Result<CityRecord> city = FindCity(file, ToUtf8(births.place->city));
     if (!city) return Fault{births.place->file + ": " + city.message()};
     return std::optional<Place>(PlaceOfCity(*city));
@@ -89,7 +89,7 @@ Result<NatalEntry> EntryOfBirth(const std::string& birth, const std::optional<Pl
     std::string line = ToUtf8(birth);
     if (place && SplitFields(line).size() == kFieldsBeforePlace) line += ",,,";
     Result<NameRecord> record = ParseNameRecord(line);
-    if (!record) return Fault{record.message()};
+    if (!record) return record.fault();
     if (record->name.empty()) return Fault{"the name is empty"};
     if (place) record->timeZone = record->longitude = record->latitude = "0";
     Result<NatalEntry> entry = EntryFromRecord(*record);
@@ -130,9 +130,9 @@ Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births) {
     for (const BirthArgument& argument : kBirthArguments) {
         if (argument.name != reader.name()) continue;
         const Result<std::string> value = reader.Value();
-        if (!value) return Fault{value.message()};
-        const Result<void> set = argument.set(births, *value);
-        return set ? Result<bool>(true) : Result<bool>(Fault{set.message()});
+        if (!value) return value.fault();
+        if (const Result<void> set = argument.set(births, *value); !set) return set.fault();
+        return true;
     }
     return false;
 }
@@ -145,10 +145,10 @@ Result<void> CheckBirthArguments(const BirthArguments& births) {
     return {};
 }
 
-void ReadBirths(const BirthArguments& births, const Options& options, const Path& appDirectory,
+void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files,
                 EntryReceiver& receiver) {
     if (births.namesFile) return ReadNamesFile(births, receiver);
-    const Result<std::optional<Place>> place = RequestedPlace(births, appDirectory);
+    const Result<std::optional<Place>> place = RequestedPlace(births, files);
     if (!place) return receiver.Refuse("--place", place.message());
     if (!births.birth) return receiver.Take(EntryOfNow(options, *place), "--now");
     const Result<NatalEntry> entry = EntryOfBirth(*births.birth, *place);

@@ -8,12 +8,10 @@
 
 #include "birthdata/natal_entry.h"
 #include "chart/house_system.h"
-#include "platform/files.h"
+#include "platform/data_files.h"
 #include "platform/result.h"
 
 namespace tolvanis {
-
-enum ExitStatus : int { kAllComputed = 0, kSomethingRefused = 1, kWrongUsage = 2 };
 
 // A place of a cities file.
 struct PlaceRequest {
@@ -66,7 +64,7 @@ class EntryReceiver {
 };
 
 // Reads the births that the arguments name, holding one at a time.
-void ReadBirths(const BirthArguments& births, const Options& options, const Path& appDirectory,
+void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files,
                 EntryReceiver& receiver);
 
 }  // namespace tolvanis

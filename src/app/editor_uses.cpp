@@ -12,7 +12,7 @@ Result<std::string> EditorText(const Path& path) {
     std::error_code error;
     if (!std::filesystem::exists(FindPath(path), error)) return std::string();
     const Result<std::vector<std::string>> lines = ReadLines(path);
-    if (!lines) return Fault{lines.message()};
+    if (!lines) return lines.fault();
     return JoinLines(*lines);
 }
 

@@ -27,19 +27,19 @@ bool HasDisplay() {
 
 int Run(const DesktopArguments& arguments) {
     MessageBoxes messages;
-    const DirectoryHints hints = HintsOfProcess(arguments.appDirectory);
-    const Result<Path> directory = ApplicationDirectory(hints, FirstStart::FillUserDirectory);
-    if (!directory) {
-        messages.Tell("Error!", directory.message(), MessageIcon::Stop);
+    const Result<DataFiles> files =
+        ApplicationDirectory(HintsOfProcess(arguments.appDirectory), FirstStart::FillUserDirectory);
+    if (!files) {
+        messages.Tell("Error!", files.message(), MessageIcon::Stop);
         return EXIT_FAILURE;
     }
     ProgramState state;
-    state.applicationDirectory = *directory;
+    state.files = *files;
     state.order = HostDateTimeOrder();
-    DesktopFileDialogs dialogs(*directory);
+    DesktopFileDialogs dialogs(files->directory());
     Desktop desktop(state, {messages, dialogs, PresentMoment});
     QObject::connect(&desktop, &Desktop::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    if (!desktop.Start(InstalledDataDirectory(hints.programDirectory))) return EXIT_FAILURE;
+    if (!desktop.Start()) return EXIT_FAILURE;
     return QApplication::exec();
 }
 

@@ -4,26 +4,21 @@
 
 namespace tolvanis {
 
-Result<int> ReadOptions(const Path& applicationDirectory, Options& options) {
-    return ReadNumberLines(FindFile(applicationDirectory, kOptionsFileName), options.table());
+Result<int> ReadOptions(const DataFiles& files, Options& options) {
+    return ReadNumberLines(files.Own(kOptionsFileName), options.table());
 }
 
-Path OptionsMaster(const Path& applicationDirectory, const Path& installedDirectory) {
-    for (const Path& directory : {applicationDirectory, installedDirectory}) {
-        const Path master = FindFile(directory, kOptionsMasterName);
-        if (!directory.empty() && IsReadableFile(master)) return master;
-    }
+Result<void> RestoreOptions(const DataFiles& files) {
+    const Result<std::string> content = ReadBytes(files.Find(kOptionsMasterName));
+    if (!content) return content.fault();
+    return ReplaceFile(files.Own(kOptionsFileName), *content);
+}
+
+Result<void> LoadOptions(const DataFiles& files, Options& options) {
+    if (const Result<int> read = ReadOptions(files, options); !read) return read.fault();
+    const bool any = std::ranges::any_of(options.table(), [](float value) { return value != 0.0F; });
+    if (!any) return Fault{"The file " + files.Own(kOptionsFileName).string() + " holds no options."};
     return {};
-}
-
-Result<void> RestoreOptions(const Path& applicationDirectory, const Path& master) {
-    const Result<std::string> content = ReadBytes(master);
-    if (!content) return Fault{content.message()};
-    return ReplaceFile(FindFile(applicationDirectory, kOptionsFileName), *content);
-}
-
-bool HoldsOptions(const Options& options) {
-    return std::ranges::any_of(options.table(), [](float value) { return value != 0.0F; });
 }
 
 }  // namespace tolvanis

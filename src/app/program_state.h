@@ -4,8 +4,9 @@
 #include <string>
 
 #include "app/settings_file.h"
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 #include "birthdata/names_file.h"
+#include "platform/data_files.h"
 #include "platform/screen_constants.h"
 #include "text/dates.h"
 
@@ -15,7 +16,7 @@ inline constexpr std::string_view kStartTitlePrefix = "Tolvanis - ";
 inline constexpr std::string_view kTitlePrefixAfterOptions = "TOLVANIS - ";  // once options have been saved
 
 struct ProgramState {
-    Path applicationDirectory;
+    DataFiles files;
     Options options;
     Settings settings;
     DateTimeOrder order;
@@ -24,6 +25,7 @@ struct ProgramState {
     HouseSystem houseSystem = HouseSystem::Placidus;  // the ticked one
     NamesState names;
     CurrentChart chart;
+    bool chartComputed = false;
     DataBuffer buffer;
     std::string SaveFileName;  // where Save writes, for listings and reports; empty until the user has chosen
 };

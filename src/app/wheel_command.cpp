@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "app/app_directory.h"
-#include "app/options_file.h"
-#include "astro/chart_driver.h"
+#include "app/command_data.h"
+#include "astro/natal_chart.h"
 #include "platform/clock.h"
 #include "text/numbers.h"
 
@@ -44,27 +43,26 @@ constexpr std::array kWheelArguments = {WheelArgument{kWheelArgument, SetFile},
 
 Result<void> TakeWheelArgument(ArgumentReader& reader, WheelArguments& wheel) {
     const Result<bool> taken = TakeBirthArgument(reader, wheel);
-    if (!taken) return Fault{taken.message()};
+    if (!taken) return taken.fault();
     if (*taken) return {};
     const auto argument = std::ranges::find(kWheelArguments, reader.name(), &WheelArgument::name);
     if (argument == kWheelArguments.end()) return reader.Unknown();
     const Result<std::string> value = reader.Value();
-    return value ? argument->set(wheel, *value) : Result<void>(Fault{value.message()});
+    return value ? argument->set(wheel, *value) : value.fault();
 }
 
 // Keeps the snapshot of the one birth, or what is wrong with it.
 class SnapshotTaker : public EntryReceiver {
   public:
-    explicit SnapshotTaker(HouseSystem houses) : houses_(houses) {}
+    SnapshotTaker(HouseSystem houses, const Options& options) : houses_(houses), options_(options) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
-        const std::vector<InputFault> faults = CheckEntry(entry, houses_);
-        for (const InputFault& fault : faults) Refuse(source, fault.detail);
-        if (!faults.empty()) return;
-        const NatalData natal = ParseNatalData(entry, houses_, HostDateTimeOrder().iDate);
-        const Result<ChartPositions> positions = ComputePositions(natal);
-        if (!positions) return Refuse(source, positions.message());
-        chart_ = MakeWheelSnapshot(natal, *positions);
+        const auto chart = MakeChart(entry, houses_, HostDateTimeOrder().iDate, options_);
+        if (chart) {
+            chart_ = MakeWheelSnapshot(chart->natal, chart->positions);
+            return;
+        }
+        for (const std::string& detail : chart.fault().Details()) Refuse(source, detail);
     }
     void Refuse(const std::string& source, const std::string& fault) override {
         if (!faults_.empty()) faults_ += "\n";
@@ -78,6 +76,7 @@ class SnapshotTaker : public EntryReceiver {
 
   private:
     HouseSystem houses_;
+    const Options& options_;
     std::optional<WheelSnapshot> chart_;
     std::string faults_;
 };
@@ -93,30 +92,23 @@ bool IsWheelCommand(std::span<const std::string_view> arguments) {
 Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arguments) {
     WheelArguments wheel;
     for (ArgumentReader reader(arguments); reader.Next();) {
-        if (const Result<void> taken = TakeWheelArgument(reader, wheel); !taken)
-            return Fault{taken.message()};
+        if (const Result<void> taken = TakeWheelArgument(reader, wheel); !taken) return taken.fault();
     }
-    if (const Result<void> together = CheckBirthArguments(wheel); !together) return Fault{together.message()};
+    if (const Result<void> together = CheckBirthArguments(wheel); !together) return together.fault();
     if (wheel.namesFile && !wheel.name) return Fault{"--names needs --name, since a wheel shows one birth"};
     return wheel;
 }
 
 Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
-    const Result<Path> directory =
-        ApplicationDirectory(HintsOfProcess(arguments.appDirectory), FirstStart::LeaveAsIs);
-    if (!directory) return Fault{directory.message()};
-    WheelPicture picture{*directory, {}, {}, {}};
-    const auto options = ReadOptions(*directory, picture.options);
-    if (!options) return Fault{options.message()};
-    const Result<WheelData> data = ReadWheelData(*directory);
-    if (!data) return Fault{data.message()};
-    picture.data = *data;
-    SnapshotTaker taker(arguments.houses.value_or(HouseSystemOfOption(picture.options[27])));
-    ReadBirths(arguments, picture.options, *directory, taker);
+    const Result<CommandData> opened = OpenCommandData(arguments.appDirectory);
+    if (!opened) return opened.fault();
+    const Result<WheelData> data = ReadWheelData(opened->files);
+    if (!data) return data.fault();
+    SnapshotTaker taker(arguments.houses.value_or(HouseSystemOfOption(opened->options[27])), opened->options);
+    ReadBirths(arguments, opened->options, opened->files, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
-    if (!chart) return Fault{chart.message()};
-    picture.chart = *chart;
-    return picture;
+    if (!chart) return chart.fault();
+    return WheelPicture{opened->files, opened->options, *data, *chart};
 }
 
 }  // namespace tolvanis

@@ -7,6 +7,7 @@
 
 #include "app/birth_arguments.h"
 #include "chart/options.h"
+#include "platform/data_files.h"
 #include "wheel/wheel_placement.h"
 
 namespace tolvanis {
@@ -25,7 +26,7 @@ Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arg
 
 // All that the picture shows.
 struct WheelPicture {
-    Path applicationDirectory;
+    DataFiles files;
     Options options;
     WheelData data;
     WheelSnapshot chart;

@@ -4,7 +4,7 @@ namespace tolvanis {
 
 Result<void> ReadOrbsFile(const Path& path, OrbTable& orbs) {
     const Result<int> lines = ReadNumberLines(path, orbs);
-    if (!lines) return Fault{lines.message()};
+    if (!lines) return lines.fault();
     if (*lines > kOrbSlotCount) {
         return Fault{path.string() + " has " + std::to_string(*lines) +
                      " lines of orbs; an orbs file has at most " + std::to_string(kOrbSlotCount) + "."};

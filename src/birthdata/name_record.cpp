@@ -85,13 +85,13 @@ std::string FormatNameRecord(const NameRecord& record) {
 
 Result<void> CheckNameRecord(const NameRecord& record) {
     const Result<BirthNumbers> numbers = NumbersOf(record);
-    if (!numbers) return Fault{numbers.message()};
+    if (!numbers) return numbers.fault();
     return {};
 }
 
 Result<NatalEntry> EntryFromRecord(const NameRecord& record) {
     const Result<BirthNumbers> numbers = NumbersOf(record);
-    if (!numbers) return Fault{numbers.message()};
+    if (!numbers) return numbers.fault();
 
     NatalEntry entry;
     entry.name = record.name;

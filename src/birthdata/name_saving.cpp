@@ -184,7 +184,7 @@ Result<std::string> PresentContent(const Path& file) {
 // True when the file was replaced, false when it changed meanwhile.
 Result<bool> TryToSave(const Path& file, const NameRecord& record, ReplaceQuestions& questions) {
     const Result<std::string> present = PresentContent(file);
-    if (!present) return Fault{present.message()};
+    if (!present) return present.fault();
     questions.StartAgain();
     const std::string content = Composer(record, questions).Compose(*present);
     return ReplaceIfUnchanged(file, NamesBackupPath(FindPath(file)), *present, content);

@@ -2,8 +2,7 @@
 
 #include <ostream>
 
-#include "app/app_directory.h"
-#include "app/options_file.h"
+#include "app/command_data.h"
 #include "cli/chart_output.h"
 #include "platform/clock.h"
 
@@ -23,13 +22,12 @@ class ChartPrinter : public EntryReceiver {
           order_(HostDateTimeOrder()) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
-        const std::vector<InputFault> faults = CheckEntry(entry, houses_);
-        for (const InputFault& fault : faults) Refuse(source, fault.detail);
-        if (!faults.empty()) return;
-        const NatalData natal = ParseNatalData(entry, houses_, order_.iDate);
-        const Result<ChartPositions> positions = ComputePositions(natal);
-        if (!positions) return Refuse(source, positions.message());
-        const CurrentChart chart{natal, *positions, FindAspects(*positions, options_), true};
+        const auto made = MakeChart(entry, houses_, order_.iDate, options_);
+        if (!made) {
+            for (const std::string& detail : made.fault().Details()) Refuse(source, detail);
+            return;
+        }
+        const CurrentChart& chart = *made;
         switch (format_) {
             case OutputFormat::Text:
                 return Write(ChartAsText(chart, options_));
@@ -69,19 +67,13 @@ class ChartPrinter : public EntryReceiver {
 }  // namespace
 
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors) {
-    const Result<Path> directory =
-        ApplicationDirectory(HintsOfProcess(request.appDirectory), FirstStart::LeaveAsIs);
-    Options options;
-    if (!directory) {
-        errors << directory.message() << "\n";
+    const Result<CommandData> data = OpenCommandData(request.appDirectory);
+    if (!data) {
+        errors << data.message() << "\n";
         return kSomethingRefused;
     }
-    if (const Result<int> read = ReadOptions(*directory, options); !read) {
-        errors << read.message() << "\n";
-        return kSomethingRefused;
-    }
-    ChartPrinter printer(request, options, output, errors);
-    ReadBirths(request, options, *directory, printer);
+    ChartPrinter printer(request, data->options, output, errors);
+    ReadBirths(request, data->options, data->files, printer);
     return printer.status();
 }
 

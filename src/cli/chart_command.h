@@ -3,6 +3,7 @@
 
 #include <iosfwd>
 
+#include "app/exit_status.h"
 #include "cli/command_line.h"
 #include "platform/files.h"
 

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "app/chart_driver.h"
 #include "chart/angles.h"
 #include "wheel/ascii_chart.h"
 

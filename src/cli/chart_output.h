@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 
 namespace tolvanis {
 

@@ -58,11 +58,11 @@ Result<void> SetFormat(ChartRequest& request, const std::string& name) {
 
 Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {
     const Result<bool> taken = TakeBirthArgument(reader, request);
-    if (!taken) return Fault{taken.message()};
+    if (!taken) return taken.fault();
     if (*taken) return {};
     if (reader.name() != "--format" && reader.name() != "--output") return reader.Unknown();
     const Result<std::string> value = reader.Value();
-    if (!value) return Fault{value.message()};
+    if (!value) return value.fault();
     if (reader.name() == "--format") return SetFormat(request, *value);
     request.output = *value;
     return {};
@@ -76,10 +76,9 @@ Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> argument
         request.help = reader.name() == "--help" || reader.name() == "-h";
         request.version = reader.name() == "--version";
         if (request.help || request.version) return request;
-        if (const Result<void> taken = TakeArgument(reader, request); !taken) return Fault{taken.message()};
+        if (const Result<void> taken = TakeArgument(reader, request); !taken) return taken.fault();
     }
-    if (const Result<void> together = CheckBirthArguments(request); !together)
-        return Fault{together.message()};
+    if (const Result<void> together = CheckBirthArguments(request); !together) return together.fault();
     return request;
 }
 

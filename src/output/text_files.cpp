@@ -40,7 +40,7 @@ std::string ProposedFileName(std::string_view personName, std::string_view exten
 
 Result<int> ListTextFile(DataBuffer& buffer, const Path& path) {
     const Result<std::vector<std::string>> lines = ReadLines(path);
-    if (!lines) return Fault{lines.message()};
+    if (!lines) return lines.fault();
     if (lines->empty()) return 0;
     buffer.StartListing();
     for (const std::string& line : *lines) buffer.AppendLine(line);

@@ -360,13 +360,13 @@ Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::strin
     const DirectoryLock lock(target.parent_path());
     NewFile file(target, lock.held() ? NewFile::NameUse::Alone : NewFile::NameUse::Shared);
     const Result<void> prepared = Prepare(file, path, [&](const Sink& sink) { return sink(content); });
-    if (!prepared) return Fault{prepared.message()};
+    if (!prepared) return prepared.fault();
 
     std::error_code error;
     const bool exists = fs::exists(target, error);
     if (exists) {
         const Result<std::string> present = ReadBytes(target);
-        if (!present) return Fault{present.message()};
+        if (!present) return present.fault();
         if (*present != expected) return false;
         if (!MakeBackup(target, FindPath(backup))) return CannotWrite(backup, Reason(errno));
     } else if (!expected.empty()) {

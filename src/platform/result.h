@@ -11,11 +11,12 @@ struct Fault {
     std::string message;  // a sentence a user can act on
 };
 
-template <typename T>
-class Result {
+// One or the other. `return other.fault();` hands the fault of another result on.
+template <typename T, typename F = Fault>
+class [[nodiscard]] Result {
   public:
     Result(T value) : value_(std::move(value)) {}
-    Result(Fault fault) : fault_(std::move(fault)) {}
+    Result(F fault) : fault_(std::move(fault)) {}
 
     explicit operator bool() const { return value_.has_value(); }
     const T& operator*() const { return *value_; }
@@ -23,10 +24,11 @@ class Result {
     const T* operator->() const { return &*value_; }
     T* operator->() { return &*value_; }
     const std::string& message() const { return fault_.message; }
+    const F& fault() const { return fault_; }
 
   private:
     std::optional<T> value_;
-    Fault fault_;
+    F fault_;
 };
 
 template <>
@@ -37,6 +39,7 @@ class [[nodiscard]] Result<void> {
 
     explicit operator bool() const { return good_; }
     const std::string& message() const { return fault_.message; }
+    const Fault& fault() const { return fault_; }
 
   private:
     Fault fault_;

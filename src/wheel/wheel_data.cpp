@@ -21,9 +21,7 @@ std::size_t TakeNumbers(std::string_view line, std::span<std::int16_t> table) {
 }
 
 // `needed` is the number of elements that are used.
-Result<void> ReadTable(const Path& directory, std::string_view name, std::span<std::int16_t> table,
-                       std::size_t needed) {
-    const Path path = FindFile(directory, name);
+Result<void> ReadTable(const Path& path, std::span<std::int16_t> table, std::size_t needed) {
     LineReader reader(path);
     std::size_t count = 0;
     for (std::string line; count < table.size() && reader.Next(line);) {
@@ -39,12 +37,12 @@ Result<void> ReadTable(const Path& directory, std::string_view name, std::span<s
 
 }  // namespace
 
-Result<WheelData> ReadWheelData(const Path& applicationDirectory) {
+Result<WheelData> ReadWheelData(const DataFiles& files) {
     WheelData data;
-    const auto labels = ReadTable(applicationDirectory, kCuspLabelFile, data.cuspLabels, 120);
-    if (!labels) return Fault{labels.message()};
-    const auto radii = ReadTable(applicationDirectory, kRadiusFile, data.radius, data.radius.size());
-    if (!radii) return Fault{radii.message()};
+    const auto labels = ReadTable(files.Find(kCuspLabelFile), data.cuspLabels, 120);
+    if (!labels) return labels.fault();
+    const auto radii = ReadTable(files.Find(kRadiusFile), data.radius, data.radius.size());
+    if (!radii) return radii.fault();
     return data;
 }
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/files.h"
+#include "platform/data_files.h"
 #include "platform/result.h"
 
 namespace tolvanis {
@@ -27,8 +27,8 @@ struct WheelData {
     std::array<std::int16_t, 361> radius{};
 };
 
-// Reads both files from the application directory: integers separated by line ends or commas, read up to the
+// Reads both files: integers separated by line ends or commas, read up to the
 // end of the table. A fault names the file that cannot be read, or that holds too few numbers.
-Result<WheelData> ReadWheelData(const Path& applicationDirectory);
+Result<WheelData> ReadWheelData(const DataFiles& files);
 
 }  // namespace tolvanis

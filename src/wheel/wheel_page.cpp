@@ -150,9 +150,9 @@ Extent PageExtent(double width, double height, int typeChart) {
     return {kMiddleX - halfWidth, halfHeight + kMiddleY, kMiddleX + halfWidth, kMiddleY - halfHeight};
 }
 
-std::vector<std::string> ReadPersonalLines(const Path& applicationDirectory, const Options& options) {
+std::vector<std::string> ReadPersonalLines(const Path& file, const Options& options) {
     if (options[kPersonalOption] == 0.0F) return {};
-    Result<std::vector<std::string>> lines = ReadLines(FindFile(applicationDirectory, kPersonalBlockName));
+    Result<std::vector<std::string>> lines = ReadLines(file);
     if (!lines) return {};
     for (std::string& line : *lines) line = TrimTrailingBlanks(line);
     while (!lines->empty() && lines->back().empty()) lines->pop_back();

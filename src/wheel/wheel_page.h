@@ -23,7 +23,7 @@ struct PageRequest {
 };
 
 // The lines of the personal block; none when there is no such file or option 174 is 0.
-std::vector<std::string> ReadPersonalLines(const Path& applicationDirectory, const Options& options);
+std::vector<std::string> ReadPersonalLines(const Path& file, const Options& options);
 
 void DrawPage(DrawingSurface& surface, const PageRequest& request);
 

@@ -1,6 +1,6 @@
 // The menu and text tables, the editors' rules, the clock and the command line.
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <map>
 #include <set>
@@ -69,7 +69,7 @@ TEST(OptionsFile, ReadsNumbersUpToTheFirstEmptyLine) {
     directory.Write("options.opt", "  12.5 orb\r\nletters\r\n1234567890\r\n\r\n7\r\n");
     Options options;
     options[4] = 3;
-    EXPECT_EQ(*ReadOptions(directory.path(), options), 3);
+    EXPECT_EQ(*ReadOptions(DataFiles(directory.path()), options), 3);
     EXPECT_EQ(options[1], 12.5F);
     EXPECT_EQ(options[2], 0.0F);
     EXPECT_EQ(options[3], 1234567.0F);
@@ -78,12 +78,22 @@ TEST(OptionsFile, ReadsNumbersUpToTheFirstEmptyLine) {
 
 TEST(OptionsFile, IsRestoredFromItsMaster) {
     const ScratchDirectory directory, installed;
-    EXPECT_TRUE(OptionsMaster(directory.path(), {}).empty());
+    const DataFiles files(directory.path(), installed.path());
+    EXPECT_FALSE(RestoreOptions(files));
     installed.Write("OPTIONS.MAS", "5\r\n");
-    const Path master = OptionsMaster(directory.path(), installed.path());
-    EXPECT_EQ(master, installed.path() / "OPTIONS.MAS");
-    ASSERT_TRUE(RestoreOptions(directory.path(), master));
+    ASSERT_TRUE(RestoreOptions(files));
     EXPECT_EQ(FileContent(directory / "OPTIONS.OPT"), "5\r\n");
+}
+
+TEST(OptionsFile, OfOtherContentIsRefused) {
+    const ScratchDirectory directory;
+    const DataFiles files(directory.path());
+    Options options;
+    EXPECT_FALSE(LoadOptions(files, options));
+    for (const char* content : {"", "Dear diary,\r\n", "0\r\n0\r\n"}) {
+        directory.Write("OPTIONS.OPT", content);
+        EXPECT_THAT(LoadOptions(files, options).message(), testing::HasSubstr("holds no options")) << content;
+    }
 }
 
 TEST(ClockCaption, FollowsTheSystemsClock) {

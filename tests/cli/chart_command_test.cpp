@@ -179,6 +179,17 @@ TEST(ChartCommand, WrongUsageIsExplained) {
     EXPECT_EQ(ParseCommandLine(std::vector<std::string_view>{"--houses=ea"})->houses, HouseSystem::EqualAsc);
 }
 
+std::string ScratchNames(const std::filesystem::path& directory) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(directory)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    std::string text;
+    for (const std::string& name : names) text += (text.empty() ? "" : " ") + name;
+    return text;
+}
+
 TEST(AppDirectory, ChosenInOrder) {
     const ScratchDirectory scratch;
     for (const auto* name : {"given", "environment", "prefix/bin", "prefix/share/tolvanis"}) {
@@ -188,24 +199,58 @@ TEST(AppDirectory, ChosenInOrder) {
     scratch.Write("prefix/share/tolvanis/NAMES.FIL", "delivered\r\n");
     DirectoryHints hints{std::nullopt, std::nullopt, scratch / "prefix/bin", scratch / "home/tolvanis"};
 
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::LeaveAsIs), scratch / "prefix/share/tolvanis");
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::LeaveAsIs)->directory(),
+              scratch / "prefix/share/tolvanis");
     EXPECT_FALSE(std::filesystem::exists(scratch / "home"));
 
     std::filesystem::create_directories(scratch / "home/tolvanis");
     scratch.Write("home/tolvanis/names.fil", "mine\r\n");
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), hints.userDirectory);
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::FillUserDirectory)->directory(), hints.userDirectory);
     EXPECT_EQ(FileContent(scratch / "home/tolvanis/names.fil"), "mine\r\n");
     EXPECT_FALSE(std::filesystem::exists(scratch / "home/tolvanis/NAMES.FIL"));
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::LeaveAsIs), hints.userDirectory);
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::LeaveAsIs)->directory(), hints.userDirectory);
 
     scratch.Write("prefix/bin/options.opt", "portable\r\n");
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), hints.programDirectory);
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::FillUserDirectory)->directory(),
+              hints.programDirectory);
     hints.fromEnvironment = (scratch / "environment").string();
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), scratch / "environment");
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::FillUserDirectory)->directory(),
+              scratch / "environment");
     hints.fromCommandLine = (scratch / "GIVEN").string();
-    EXPECT_EQ(*ApplicationDirectory(hints, FirstStart::FillUserDirectory), scratch / "given");
+    EXPECT_EQ(ApplicationDirectory(hints, FirstStart::FillUserDirectory)->directory(), scratch / "given");
     hints.fromCommandLine = "/no/such/place";
     EXPECT_THAT(ApplicationDirectory(hints, FirstStart::LeaveAsIs).message(), HasSubstr("/no/such/place"));
+}
+
+// A user's directory that an earlier version has filled: what the user edits stays, what is delivered for
+// reading comes from the present version unless the user has changed it.
+TEST(AppDirectory, AnUpgradeReachesTheUser) {
+    const ScratchDirectory scratch;
+    for (const auto* name : {"prefix/bin", "prefix/share/tolvanis", "home"}) {
+        std::filesystem::create_directories(scratch / name);
+    }
+    const std::string formerBlock = FileContent(TEST_DATA_DIR "/former/PRNTFILE.HLP");
+    ASSERT_FALSE(formerBlock.empty());
+    for (const auto* name : {"OPTIONS.OPT", "NATAL.ORB", "PRNTFILE.HLP", "HINTS.HLP", "NEW.HLP", "TZ.DAT"}) {
+        scratch.Write("prefix/share/tolvanis/" + std::string(name), "8 new\r\n");
+    }
+    scratch.Write("home/OPTIONS.OPT", "9 mine\r\n");
+    scratch.Write("home/prntfile.hlp", formerBlock);
+    scratch.Write("home/HINTS.HLP", "my own hints\r\n");
+    const DirectoryHints hints{std::nullopt, std::nullopt, scratch / "prefix/bin", scratch / "home"};
+    const auto files = ApplicationDirectory(hints, FirstStart::FillUserDirectory);
+    ASSERT_TRUE(files) << files.message();
+    EXPECT_EQ(ScratchNames(scratch / "home"), "HINTS.HLP NATAL.ORB OPTIONS.OPT prntfile.hlp");
+    EXPECT_EQ(FileContent(files->Own("OPTIONS.OPT")), "9 mine\r\n");
+    EXPECT_EQ(FileContent(files->FindText("HINTS.HLP")), "my own hints\r\n");
+    for (const auto* name : {"PRNTFILE.HLP", "new.hlp", "TZ.DAT"}) {
+        EXPECT_EQ(FileContent(files->FindText(name)), "8 new\r\n") << name;
+    }
+    // A directory that was named stands for itself where texts are concerned, and borrows tables.
+    const DataFiles named(scratch / "home", scratch / "prefix/share/tolvanis");
+    EXPECT_EQ(FileContent(named.FindText("PRNTFILE.HLP")), formerBlock);
+    EXPECT_FALSE(IsReadableFile(named.FindText("NEW.HLP")));
+    EXPECT_EQ(FileContent(named.Find("TZ.DAT")), "8 new\r\n");
 }
 
 TEST(DeliveredOptions, AreCompleteAndSensible) {
@@ -220,7 +265,7 @@ TEST(DeliveredOptions, AreCompleteAndSensible) {
         EXPECT_GT(line.size(), 15U);
     }
     Options options;
-    ASSERT_TRUE(ReadOptions(DELIVERED_DATA_DIR, options));
+    ASSERT_TRUE(ReadOptions(DataFiles(DELIVERED_DATA_DIR), options));
     EXPECT_EQ(options[31] - options[29], 61);
     const NatalEntry now = FillNow({{2026, 1, 1}, 9, 0, 0}, options);
     EXPECT_TRUE(CheckEntry(now, HouseSystemOfOption(options[27])).empty());

@@ -28,12 +28,12 @@ class DesktopWindow : public testing::Test {
         const DateTimeOrder order = state_.order;
         state_ = ProgramState{};
         state_.order = order;
-        state_.applicationDirectory = directory_.path();
+        state_.files = DataFiles(directory_.path());
         desktop_ =
             std::make_unique<Desktop>(state_, DesktopServices{messages_, dialogs_, [] {
                                                                   return LocalTime{{2027, 1, 5}, 14, 7, 3};
                                                               }});
-        return desktop_->Start({});
+        return desktop_->Start();
     }
 
     InputD& input() { return desktop_->natalInput(); }

@@ -215,9 +215,9 @@ TEST_F(DrawingTest, PageBlocksFollowTheirOptions) {
     EXPECT_EQ(withGrid - surface.lines.size(), 32u);
     const ScratchDirectory directory;
     directory.Write("personal.nam", "Ann\r\n\r\n");
-    EXPECT_THAT(ReadPersonalLines(directory.path(), options), ::testing::ElementsAre("Ann"));
+    EXPECT_THAT(ReadPersonalLines(directory / "PERSONAL.NAM", options), ::testing::ElementsAre("Ann"));
     options[174] = 0.0F;
-    EXPECT_THAT(ReadPersonalLines(directory.path(), options), ::testing::IsEmpty());
+    EXPECT_THAT(ReadPersonalLines(directory / "PERSONAL.NAM", options), ::testing::IsEmpty());
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ TEST(WheelTables, ReadAnySeparatorAndStopAtTheirEnd) {
     const ScratchDirectory directory;
     directory.Write("hcdata.dat", Numbers(60, ",") + "\r\n" + Numbers(90, "\n"));
     directory.Write("RADIUS.DAT", Numbers(400, " ,\r\n"));
-    const auto data = ReadWheelData(directory.path());
+    const auto data = ReadWheelData(DataFiles(directory.path()));
     ASSERT_TRUE(data) << data.message();
     EXPECT_EQ(data->cuspLabels[59], 9);
     EXPECT_EQ(data->cuspLabels[60], -50);
@@ -29,11 +29,11 @@ TEST(WheelTables, ReadAnySeparatorAndStopAtTheirEnd) {
 
 TEST(WheelTables, MissingAndShortFilesAreNamed) {
     const ScratchDirectory directory;
-    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("HCDATA.DAT"));
+    EXPECT_THAT(ReadWheelData(DataFiles(directory.path())).message(), ::testing::HasSubstr("HCDATA.DAT"));
     directory.Write("HCDATA.DAT", Numbers(120, "\n"));
-    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("RADIUS.DAT"));
+    EXPECT_THAT(ReadWheelData(DataFiles(directory.path())).message(), ::testing::HasSubstr("RADIUS.DAT"));
     directory.Write("RADIUS.DAT", Numbers(360, "\n"));
-    EXPECT_THAT(ReadWheelData(directory.path()).message(), ::testing::HasSubstr("360 numbers"));
+    EXPECT_THAT(ReadWheelData(DataFiles(directory.path())).message(), ::testing::HasSubstr("360 numbers"));
 }
 
 TEST(WheelTables, DeliveredGlyphsLieInTheRingAndLabelsOutsideTheCircle) {

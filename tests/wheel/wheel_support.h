@@ -45,12 +45,12 @@ inline WheelSnapshot SnapshotOf(const std::string& record, HouseSystem system = 
 
 inline Options DeliveredOptions() {
     Options options;
-    EXPECT_TRUE(ReadOptions(DELIVERED_DATA_DIR, options));
+    EXPECT_TRUE(ReadOptions(DataFiles(DELIVERED_DATA_DIR), options));
     return options;
 }
 
 inline WheelData DeliveredWheelData() {
-    const auto data = ReadWheelData(DELIVERED_DATA_DIR);
+    const auto data = ReadWheelData(DataFiles(DELIVERED_DATA_DIR));
     EXPECT_TRUE(data) << data.message();
     return data ? *data : WheelData{};
 }

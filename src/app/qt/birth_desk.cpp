@@ -137,7 +137,7 @@ void BirthDesk::OpenCities() {
 
 void BirthDesk::OpenTimeZones() {
     if (zones_ == nullptr) {
-        zones_ = new TimeZone(FindFile(state_.applicationDirectory, kTimeZoneFile), messages_);
+        zones_ = new TimeZone(state_.files.Find(kTimeZoneFile), messages_);
         connect(zones_, &TimeZone::zonePicked, this, [this](const std::string& timeZone, bool east) {
             NatalEntry entry = input_->Entry();
             entry.timeZone = timeZone;

@@ -6,12 +6,14 @@
 #include <QScreen>
 #include <QStyle>
 
+#include "app/chart_driver.h"
 #include "app/clock_caption.h"
 #include "app/options_file.h"
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
 #include "output/text_files.h"
+#include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/text.h"
 #include "text/numbers.h"
@@ -40,7 +42,7 @@ int CaptionHeight() {
 Desktop::Desktop(ProgramState& state, const DesktopServices& services)
     : state_(state),
       services_(services),
-      printing_{services.dialogs, services.messages, state.applicationDirectory} {}
+      printing_{services.dialogs, services.messages, state.files.directory()} {}
 
 Desktop::~Desktop() {
     for (auto& [use, editor] : editors_) delete editor;
@@ -48,11 +50,11 @@ Desktop::~Desktop() {
     delete data_;
 }
 
-bool Desktop::Start(const Path& installedDirectory) {
-    if (!LoadOptions(installedDirectory)) return false;
+bool Desktop::Start() {
+    if (!StartOptions()) return false;
     if (state_.options[kTitleOption] != 0.0F) ShowTitle();
     const Hourglass hourglass;
-    state_.settings = ReadSettings(state_.applicationDirectory);
+    state_.settings = ReadSettings(state_.files.directory());
     MeasureScreen();
     state_.houseSystem = HouseSystemOfOption(state_.options[kHouseSystemOption]);
     MakeWindows();
@@ -63,15 +65,12 @@ bool Desktop::Start(const Path& installedDirectory) {
     return true;
 }
 
-bool Desktop::LoadOptions(const Path& installedDirectory) {
-    const Path& directory = state_.applicationDirectory;
-    Result<int> read = ReadOptions(directory, state_.options);
-    if (read && HoldsOptions(state_.options)) return true;
-    const std::string fault =
-        read ? "The file " + FindFile(directory, kOptionsFileName).string() + " holds no options."
-             : read.message();
-    const Path master = OptionsMaster(directory, installedDirectory);
-    if (master.empty()) {
+bool Desktop::StartOptions() {
+    const Result<void> read = LoadOptions(state_.files, state_.options);
+    if (read) return true;
+    const std::string fault = read.message();
+    const Path master = state_.files.Find(kOptionsMasterName);
+    if (!IsReadableFile(master)) {
         services_.messages.Tell("Error!",
                                 fault + " There is no copy to restore it from either: " +
                                     std::string(kOptionsMasterName) + " is missing.",
@@ -81,12 +80,11 @@ bool Desktop::LoadOptions(const Path& installedDirectory) {
     const Answer answer = services_.messages.AskYesNo(
         "Error!", fault + " The program needs it. Restore it from " + master.string() + "?");
     if (answer != Answer::Yes) return false;
-    if (const Result<void> restored = RestoreOptions(directory, master); !restored) {
+    if (const Result<void> restored = RestoreOptions(state_.files); !restored) {
         services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
         return false;
     }
-    read = ReadOptions(directory, state_.options);
-    return read && HoldsOptions(state_.options);
+    return static_cast<bool>(LoadOptions(state_.files, state_.options));
 }
 
 void Desktop::ShowTitle() {
@@ -180,21 +178,9 @@ void Desktop::FocusMainWindow() {
     main_->menuBar()->setFocus();
 }
 
-void Desktop::SetBusy(bool busy) {
-    if (busy) {
-        if (!hourglass_) hourglass_ = std::make_unique<Hourglass>();
-    } else {
-        hourglass_.reset();
-    }
-}
-
 void Desktop::ShowEntryWindows() {
     // Frames are not known before the window system has made them.
     births_->Show(QRect(main_->pos(), main_->size() + QSize(0, 2 * CaptionHeight())));
-}
-
-void Desktop::HideEntryWindows() {
-    births_->Hide();
 }
 
 void Desktop::InputD_closed() {
@@ -204,10 +190,6 @@ void Desktop::InputD_closed() {
 void Desktop::UnloadChartWindows() {
     wheel_->Close();
     delete data_;
-}
-
-void Desktop::ShowChartMenus() {
-    main_->ShowChartItems();
 }
 
 void Desktop::ShowInputFault(EntryField field) {
@@ -220,7 +202,7 @@ void Desktop::ShowDataBuffer() {
     if (data_ == nullptr) {
         if (state_.buffer.BufferLineCount() == 0) return;
         data_ = new OutputD1({state_.buffer, state_.settings.dataView, state_.options, state_.chart.natal,
-                              state_.applicationDirectory, state_.titlePrefix, state_.SaveFileName,
+                              state_.files.directory(), state_.titlePrefix, state_.SaveFileName,
                               state_.screen.fontStep, state_.screen.twipsPerPixel, services_.messages,
                               services_.dialogs});
         connect(data_, &OutputD1::mainWindowRequested, this, &Desktop::FocusMainWindow);
@@ -231,7 +213,7 @@ void Desktop::ShowDataBuffer() {
 }
 
 void Desktop::ShowTextFile(const std::string& textFileName) {
-    const Path path = FindFile(state_.applicationDirectory, textFileName);
+    const Path path = state_.files.FindText(textFileName);
     const Result<int> read = ListTextFile(state_.buffer, path);
     if (!read) {
         const std::string text = IsReadableFile(path) ? read.message() : MissingFileText(path);
@@ -242,10 +224,19 @@ void Desktop::ShowTextFile(const std::string& textFileName) {
 }
 
 void Desktop::Compute() {
+    const Hourglass hourglass;
     births_->CloseTimeZones();
     state_.buffer.ClearDataBuffer();
-    ComputeChart(natalInput().Entry(), state_.houseSystem, state_.order.iDate, state_.options, state_.chart,
-                 state_.buffer, services_.messages, *this);
+    const ComputeOutcome outcome =
+        ComputeChart(natalInput().Entry(), state_.houseSystem, state_.order.iDate, state_.options,
+                     state_.chart, state_.buffer, services_.messages);
+    if (outcome.toCorrect) return ShowInputFault(*outcome.toCorrect);
+    if (!outcome.computed) return;
+    state_.chartComputed = true;
+    births_->Hide();
+    main_->ShowChartItems();
+    ShowDataBuffer();
+    if (!KeepsListing(state_.options)) state_.buffer.ClearBufferLines();
 }
 
 // What the Input command does before its windows are shown.
@@ -270,17 +261,17 @@ void Desktop::mnuHouse_Click(HouseSystem system) {
 }
 
 void Desktop::mnuDataNatalData_Click() {
-    if (!state_.chart.computed) return;
+    if (!state_.chartComputed) return;
     WriteChart(state_.buffer, state_.chart, state_.options);
     ShowDataBuffer();
 }
 
 void Desktop::mnuOptions_Click() {
-    ShowEditor(EditorUse::Options, FindFile(state_.applicationDirectory, kOptionsFileName));
+    ShowEditor(EditorUse::Options, state_.files.Own(kOptionsFileName));
 }
 
 void Desktop::mnuHeader_Click() {
-    ShowEditor(EditorUse::P_Name, FindFile(state_.applicationDirectory, kPersonalBlockName));
+    ShowEditor(EditorUse::P_Name, state_.files.Own(kPersonalBlockName));
 }
 
 void Desktop::ShowEditor(EditorUse use, const Path& file) {
@@ -302,7 +293,7 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
 void Desktop::EditorSaved(EditorUse use) {
     births_->FileEdited(use);
     if (use != EditorUse::Options) return;
-    const Result<int> read = ReadOptions(state_.applicationDirectory, state_.options);
+    const Result<int> read = ReadOptions(state_.files, state_.options);
     if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
     state_.titlePrefix = kTitlePrefixAfterOptions;
     UpdateClock();
@@ -313,8 +304,7 @@ void Desktop::EditorClosed(EditorUse use) {
 }
 
 void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
-    const Path master = FindFile(state_.applicationDirectory, kOptionsMasterName);
-    if (!RestoreOptions(state_.applicationDirectory, master)) {
+    if (!RestoreOptions(state_.files)) {
         services_.messages.Tell("Warning!", kRestoreFailedText, MessageIcon::Information);
         return;
     }
@@ -332,7 +322,7 @@ void Desktop::mnuHelpAbout_Click() {
 }
 
 void Desktop::mnuHelpPrintHelp_Click() {
-    const Path path = FindFile(state_.applicationDirectory, kHelpPrintFile);
+    const Path path = state_.files.FindText(kHelpPrintFile);
     const Result<std::vector<std::string>> lines = ReadLines(path);
     if (!lines) {
         services_.messages.Tell("Warning!", MissingFileText(path), MessageIcon::Stop);
@@ -348,7 +338,7 @@ void Desktop::Exit() {
     }
     if (std::exchange(ended_, true)) return;
     KeepMainPlacement();
-    if (const Result<void> written = WriteSettings(state_.applicationDirectory, state_.settings); !written) {
+    if (const Result<void> written = WriteSettings(state_.files.directory(), state_.settings); !written) {
         services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
     }
     clock_.stop();

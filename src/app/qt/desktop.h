@@ -17,7 +17,6 @@
 #include "output/qt/data_window.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
-#include "platform/qt/hourglass.h"
 #include "platform/qt/printing.h"
 
 namespace tolvanis {
@@ -35,18 +34,17 @@ struct DesktopServices {
 // Owns the windows and works on the program's state. No window knows another one: each says by signals what
 // its user wants, and the commands here carry it out. An item of the main menu whose name has no command is
 // disabled.
-class Desktop : public QObject, public ChartDesktop {
+class Desktop : public QObject {
     Q_OBJECT
 
   public:
-    // `state` has its application directory set. Nothing is shown yet.
+    // `state` has its data files set. Nothing is shown yet.
     Desktop(ProgramState& state, const DesktopServices& services);
     ~Desktop() override;
 
     // Reads options and settings and opens the first windows. Where options are missing or empty the user is
-    // asked whether to restore them from the master copy, the directory's own or that of
-    // `installedDirectory`. Returns false when the program cannot run.
-    bool Start(const Path& installedDirectory);
+    // asked whether to restore them from the master copy. Returns false when the program cannot run.
+    bool Start();
 
     TOLVANIS& mainWindow() { return *main_; }
     BirthDesk& birthDesk() { return *births_; }
@@ -54,11 +52,7 @@ class Desktop : public QObject, public ChartDesktop {
     InputD& natalInput() { return births_->natalInput(); }
     OutputD1* dataWindow() { return data_; }
 
-    void SetBusy(bool busy) override;
-    void HideEntryWindows() override;
-    void ShowChartMenus() override;
-    void ShowDataBuffer() override;
-    void ShowInputFault(EntryField field) override;
+    void ShowDataBuffer();
 
     // Shows a text file of the application directory in the Data window.
     void ShowTextFile(const std::string& textFileName);
@@ -75,7 +69,7 @@ class Desktop : public QObject, public ChartDesktop {
   private:
     using Command = std::function<void()>;
 
-    bool LoadOptions(const Path& installedDirectory);
+    bool StartOptions();
     void ShowTitle();
     void MeasureScreen();
     void MakeWindows();
@@ -92,6 +86,7 @@ class Desktop : public QObject, public ChartDesktop {
     void RestoreDefaultOptions(EditorWindow& editor);
     void PrepareInput();
     void Compute();
+    void ShowInputFault(EntryField field);
 
     void mnuInputData_Click();
     void mnuHouse_Click(HouseSystem system);
@@ -113,7 +108,6 @@ class Desktop : public QObject, public ChartDesktop {
     QPointer<PrntFile> print_;
     std::map<EditorUse, QPointer<EditorWindow>> editors_;
     std::map<std::string, Command> commands_;
-    std::unique_ptr<Hourglass> hourglass_;
     QTimer clock_;
     QRect mainPlace_;  // where the settings have put the main window
     bool ended_ = false;

@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "app/desktop_arguments.h"
-#include "app/qt/wheel_desk.h"
+#include "platform/qt/symbol_font.h"
 #include "wheel/qt/wheel_export.h"
 
 namespace tolvanis {
@@ -31,9 +31,9 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
         QStringLiteral("default.warning=false"));  // of a desktop that is not there
     int argumentCount = 1;
     const QGuiApplication application(argumentCount, programArguments);
-    if (!LoadSymbolFontOf(picture->applicationDirectory)) {
+    if (!LoadSymbolFont(picture->files)) {
         return Refuse("the symbol font HORARY.ttf cannot be loaded from " +
-                      picture->applicationDirectory.string());
+                      picture->files.directory().string());
     }
     const double size = wheel->size;
     const Result<void> written =

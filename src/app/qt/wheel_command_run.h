@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "app/exit_status.h"
 #include "app/wheel_command.h"
 
 namespace tolvanis {

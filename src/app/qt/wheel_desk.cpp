@@ -1,6 +1,7 @@
 #include "app/qt/wheel_desk.h"
 
-#include "app/app_directory.h"
+#include "aspects/orbs_file.h"
+#include "output/text_files.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/symbol_font.h"
 #include "wheel/ascii_chart.h"
@@ -10,22 +11,17 @@ namespace {
 constexpr const char* kWheelHelpFile = "WHEELS.HLP";
 }  // namespace
 
-bool LoadSymbolFontOf(const Path& applicationDirectory) {
-    if (LoadSymbolFont(applicationDirectory)) return true;
-    const Path installed = InstalledDataDirectory(HintsOfProcess(std::nullopt).programDirectory);
-    return !installed.empty() && LoadSymbolFont(installed);
-}
-
 void WheelDesk::Open() {
-    if (!state_.chart.computed) return;
+    if (!state_.chartComputed) return;
     if (!data_) {
-        const Result<WheelData> read = ReadWheelData(state_.applicationDirectory);
+        const Result<WheelData> read = ReadWheelData(state_.files);
         if (!read) return printing_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
         data_ = *read;
     }
     Close();
-    LoadSymbolFontOf(state_.applicationDirectory);  // the window tells when there is none
-    const WheelContext context{*data_, state_.options, state_.applicationDirectory, printing_};
+    LoadSymbolFont(state_.files);  // the window tells when there is none
+    const WheelContext context{*data_, state_.options, state_.files.Own(kNatalOrbs),
+                               state_.files.Own(kPersonalBlockName), printing_};
     wheels_ = new Wheels(MakeWheelSnapshot(state_.chart.natal, state_.chart.positions), context,
                          state_.settings.TypeChart);
     Connect();

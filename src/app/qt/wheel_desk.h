@@ -11,9 +11,6 @@
 
 namespace tolvanis {
 
-// Loads the symbol font from the application directory or, where that has none, from the delivered data.
-bool LoadSymbolFontOf(const Path& applicationDirectory);
-
 class WheelDesk : public QObject {
     Q_OBJECT
 

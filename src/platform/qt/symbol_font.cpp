@@ -4,13 +4,20 @@
 
 namespace tolvanis {
 
-bool LoadSymbolFont(const Path& directory) {
-    static bool loaded = false;
+namespace {
+bool loaded = false;  // Qt keeps the fonts of a program, not of a caller
+}
+
+bool SymbolFontIsLoaded() {
+    return loaded;
+}
+
+bool LoadSymbolFont(const DataFiles& files) {
     if (loaded) return true;
     bool all = true;
     for (const char* name : {"HORARY.ttf", "HORARY-Bold.ttf"}) {
         // From memory: the file may be replaced or removed while the program runs.
-        const Result<std::string> bytes = ReadBytes(FindFile(directory, name));
+        const Result<std::string> bytes = ReadBytes(files.Find(name));
         all =
             bytes && QFontDatabase::addApplicationFontFromData(QByteArray::fromStdString(*bytes)) >= 0 && all;
     }

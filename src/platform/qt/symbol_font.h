@@ -3,16 +3,17 @@
 
 #include <QFont>
 
-#include "platform/files.h"
+#include "platform/data_files.h"
 #include "platform/messages.h"
 
 namespace tolvanis {
 
 inline constexpr const char* kSymbolFontFamily = "HORARY";
 
-// Makes the font known to this process from HORARY.ttf and HORARY-Bold.ttf in the directory, once. False when
-// one of them cannot be loaded.
-bool LoadSymbolFont(const Path& directory);
+// Makes the font known to this process from HORARY.ttf and HORARY-Bold.ttf, once. False when one of them
+// cannot be loaded.
+bool LoadSymbolFont(const DataFiles& files);
+bool SymbolFontIsLoaded();
 
 // The font at a size in pixels, unhinted, so that outlines keep their shape at every size.
 QFont SymbolFont(double pixels, bool bold);

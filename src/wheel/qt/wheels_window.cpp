@@ -54,8 +54,8 @@ Wheels::Wheels(WheelSnapshot chart, const WheelContext& context, int typeChart, 
       chart_(std::move(chart)),
       context_(context),
       typeChart_(typeChart),
-      orbsFile_(FindFile(context.applicationDirectory, kNatalOrbs)),
-      hasFont_(LoadSymbolFont(context.applicationDirectory)),
+      orbsFile_(context.orbsFile),
+      hasFont_(SymbolFontIsLoaded()),
       canvas_(new WheelCanvas(*this)) {
     setObjectName(QStringLiteral("Wheels"));
     setWindowTitle(QString::fromStdString("Natal Chartwheel " + chart_.Name));
@@ -155,7 +155,7 @@ void Wheels::mnuPrintChartwheel_Click() {
 
 void Wheels::PrintFullPage() {
     PageRequest page{chart_, context_.data, context_.options, typeChart_,
-                     ReadPersonalLines(context_.applicationDirectory, context_.options)};
+                     ReadPersonalLines(context_.personalBlock, context_.options)};
     if (const Result<void> read = ReadOrbsFile(orbsFile_, page.orbs); !read) {
         context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Warning);
         page.orbs = {};

@@ -17,13 +17,14 @@ namespace tolvanis {
 struct WheelContext {
     const WheelData& data;
     const Options& options;
-    Path applicationDirectory;  // symbol font, NATAL.ORB, PERSONAL.NAM
-    PrintServices printing;     // also asks for orbs files and where to export to
+    Path orbsFile;           // the one that the window begins with
+    Path personalBlock;      // its lines stand below a printed page
+    PrintServices printing;  // also asks for orbs files and where to export to
 };
 
 // Draws the chart that it is opened with, whatever is computed later. Everything is redrawn on every paint,
-// in proportion to the window and at the screen's own resolution. The current orbs file is NATAL.ORB until
-// the user selects another one.
+// in proportion to the window and at the screen's own resolution. The current orbs file is the context's
+// until the user selects another one.
 class Wheels : public QMainWindow {
     Q_OBJECT
 

@@ -15,7 +15,7 @@ class WheelDeskTest : public DesktopWindow {
     Wheels& wheels() { return *desktop_->wheelDesk().wheels(); }
     void Trigger(const char* item) { Find<QAction>(wheels(), item).trigger(); }
     void OpenWheel() {
-        ASSERT_TRUE(LoadSymbolFont(Path(DELIVERED_DATA_DIR).parent_path() / "fonts"));
+        ASSERT_TRUE(LoadSymbolFont(DataFiles(Path(DELIVERED_DATA_DIR).parent_path() / "fonts")));
         TypeBirth();
         PressOK();
         Choose("mnuWheels");

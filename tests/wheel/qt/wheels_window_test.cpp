@@ -26,14 +26,18 @@ struct WheelsTest : ::testing::Test {
     Options options = DeliveredOptions();
     WheelData data = DeliveredWheelData();
     WheelSnapshot chart = SnapshotOf(kAnnSmith);
-    WheelContext context{data, options, directory.path(), {dialogs, messages, directory.path()}};
+    WheelContext context{data,
+                         options,
+                         directory / "NATAL.ORB",
+                         directory / "PERSONAL.NAM",
+                         {dialogs, messages, directory.path()}};
 
     void SetUp() override {
         for (const char* name : {"data/NATAL.ORB", "data/HCDATA.DAT", "data/RADIUS.DAT", "fonts/HORARY.ttf",
                                  "fonts/HORARY-Bold.ttf"}) {
             std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/../") + name, directory.path());
         }
-        ASSERT_TRUE(LoadSymbolFont(directory.path()));
+        ASSERT_TRUE(LoadSymbolFont(DataFiles(directory.path())));
     }
     static QAction& Item(Wheels& wheels, const char* name) { return Find<QAction>(wheels, name); }
 };

@@ -1,4 +1,4 @@
-#include "astro/chart_driver.h"
+#include "astro/natal_chart.h"
 
 #include <cmath>
 
@@ -6,12 +6,9 @@
 #include "astro/houses.h"
 #include "astro/planetary_positions.h"
 #include "astro/time_frame.h"
-#include "output/natal_listing.h"
 
 namespace tolvanis {
 namespace {
-
-constexpr int kNotKeptOption = 165;
 
 // Points that lie on the ecliptic and get their declination from the longitude alone.
 void PlaceEclipticPoints(ChartPositions& chart) {
@@ -55,7 +52,7 @@ Result<ChartPositions> ComputePositions(const NatalData& natal) {
     chart.HouseCusps = ComputeHouseCusps(natal.HouseSystem, frame);
 
     if (const Result<void> placed = ComputePlanetaryPositions(frame, chart); !placed) {
-        return Fault{placed.message()};
+        return placed.fault();
     }
     chart.PointLongitude[kAscendant] = chart.Ascendant;
     chart.PointLongitude[kMidheaven] = chart.Midheaven;
@@ -67,40 +64,21 @@ Result<ChartPositions> ComputePositions(const NatalData& natal) {
     return chart;
 }
 
-void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& options) {
-    buffer.StartListing();
-    WriteNatalListing(buffer, chart.natal, chart.positions);
-    WriteAspectGrid(buffer, chart.positions, chart.aspects, options);
+std::vector<std::string> ChartFaults::Details() const {
+    if (!computation.empty()) return {computation};
+    std::vector<std::string> details;
+    for (const InputFault& fault : entry) details.push_back(fault.detail);
+    return details;
 }
 
-bool ComputeChart(const NatalEntry& entry, HouseSystem system, int iDate, const Options& options,
-                  CurrentChart& chart, DataBuffer& buffer, Messages& messages, ChartDesktop& desktop) {
-    const std::vector<InputFault> faults = CheckEntry(entry, system);
-    for (const InputFault& fault : faults) {
-        messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
-    }
-    if (!faults.empty()) {
-        desktop.ShowInputFault(faults.front().field);
-        return false;
-    }
-
-    desktop.SetBusy(true);
+Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, HouseSystem system, int iDate,
+                                            const Options& options) {
+    std::vector<InputFault> faults = CheckEntry(entry, system);
+    if (!faults.empty()) return ChartFaults{std::move(faults), {}};
     const NatalData natal = ParseNatalData(entry, system, iDate);
     const Result<ChartPositions> positions = ComputePositions(natal);
-    if (!positions) {
-        desktop.SetBusy(false);
-        messages.Tell("Error!", "The chart cannot be computed: " + positions.message() + ".",
-                      MessageIcon::Stop);
-        return false;
-    }
-    desktop.HideEntryWindows();
-    chart = {natal, *positions, FindAspects(*positions, options), true};
-    desktop.ShowChartMenus();
-    WriteChart(buffer, chart, options);
-    desktop.ShowDataBuffer();
-    if (options[kNotKeptOption] != 0.0F) buffer.ClearBufferLines();
-    desktop.SetBusy(false);
-    return true;
+    if (!positions) return ChartFaults{{}, positions.message()};
+    return CurrentChart{natal, *positions, FindAspects(*positions, options)};
 }
 
 }  // namespace tolvanis

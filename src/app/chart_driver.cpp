@@ -1,0 +1,39 @@
+#include "app/chart_driver.h"
+
+#include "output/natal_listing.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr int kNotKeptOption = 165;
+
+}  // namespace
+
+void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& options) {
+    buffer.StartListing();
+    WriteNatalListing(buffer, chart.natal, chart.positions);
+    WriteAspectGrid(buffer, chart.positions, chart.aspects, options);
+}
+
+ComputeOutcome ComputeChart(const NatalEntry& entry, HouseSystem system, int iDate, const Options& options,
+                            CurrentChart& chart, DataBuffer& buffer, Messages& messages) {
+    const Result<CurrentChart, ChartFaults> made = MakeChart(entry, system, iDate, options);
+    if (made) {
+        chart = *made;
+        WriteChart(buffer, chart, options);
+        return {.computed = true, .toCorrect = std::nullopt};
+    }
+    const ChartFaults& faults = made.fault();
+    for (const InputFault& fault : faults.entry) {
+        messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
+    }
+    if (!faults.entry.empty()) return {.computed = false, .toCorrect = faults.entry.front().field};
+    messages.Tell("Error!", "The chart cannot be computed: " + faults.computation + ".", MessageIcon::Stop);
+    return {};
+}
+
+bool KeepsListing(const Options& options) {
+    return options[kNotKeptOption] == 0.0F;
+}
+
+}  // namespace tolvanis

@@ -1,0 +1,20 @@
+#pragma once
+// What a command without windows works with.
+
+#include <optional>
+#include <string>
+
+#include "chart/options.h"
+#include "platform/data_files.h"
+
+namespace tolvanis {
+
+struct CommandData {
+    DataFiles files;
+    Options options;
+};
+
+// The application directory and its options; nothing is written. A fault says what is missing or damaged.
+Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirectory);
+
+}  // namespace tolvanis
