@@ -2,7 +2,8 @@
 """Checks the order of dependence between the folders of src/.
 
 A folder includes only from itself and from the folders above it in the list; only the folders named qt and
-app/main.cpp include Qt or a header from a folder named qt. Prints every breach and exits 1.
+app/main.cpp include Qt or a header from a folder named qt. A source file includes its own header first, so that
+every header is known to stand alone. Prints every breach and exits 1.
 """
 import re
 import sys
@@ -18,11 +19,16 @@ def knows_qt(path):
 
 def faults_of(path, root):
     folder = path.parts[0]
+    own = path.with_suffix(".h").as_posix() if path.suffix == ".cpp" and (root / path.with_suffix(".h")).is_file() else None
     for number, line in enumerate((root / path).read_text(encoding="utf-8").splitlines(), 1):
         match = INCLUDE.match(line)
         if not match:
             continue
         quote, target = match.groups()
+        if own:
+            if target != own:
+                yield f"src/{path.as_posix()}:{number}: \"{own}\" is not included first"
+            own = None
         where = f"src/{path.as_posix()}:{number}"
         if quote == "<":
             if re.match(r"Q[A-Z]|Qt", target) and not knows_qt(path):

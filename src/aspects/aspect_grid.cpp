@@ -49,8 +49,7 @@ std::string AspectCell(int code) {
 void WriteRows(DataBuffer& buffer, const ChartPositions& chart, const FoundAspects& aspects,
                float parallelOrb) {
     for (int row = 1; row <= kChartPointCount; ++row) {
-        std::string& line = buffer.CurrentLine;
-        line = "  " + RowLabel(row);
+        std::string line = "  " + RowLabel(row);
         for (int column = kChartPointCount; column >= 1; --column) {
             if (column == row) {
                 line += "***  ";
@@ -61,7 +60,7 @@ void WriteRows(DataBuffer& buffer, const ChartPositions& chart, const FoundAspec
                                      chart.PointDeclination[PointAt(column)], parallelOrb);
             }
         }
-        buffer.AppendLine();
+        buffer.AppendLine(line);
     }
 }
 
@@ -94,14 +93,13 @@ void WriteList(DataBuffer& buffer, const FoundAspects& aspects) {
     for (const FoundAspect& aspect : aspects.list()) {
         const DegreesMinutes separation = Split(aspect.separation);
         const DegreesMinutes fromExact = Split(aspect.fromExact);
-        std::string& line = buffer.CurrentLine;
-        line = "  ";
+        std::string line = "  ";
         line.append(PadRight(NameAt(aspect.row), 11)).append(PadRight(NameAt(aspect.column), 11));
         line.append(PadToThree(std::to_string(separation.degrees))).append("d ");
         line.append(TwoDigits(separation.minutes)).append("m       ");
         line.append(PadSignedToFour(std::to_string(fromExact.degrees))).append("d ");
         line.append(TwoDigits(fromExact.minutes)).append("m");
-        buffer.AppendLine();
+        buffer.AppendLine(line);
     }
 }
 

@@ -12,11 +12,6 @@ namespace {
 
 constexpr std::size_t kFieldCount = 5;
 
-constexpr std::string_view kRecordFaultText =
-    "You have an error in the current cities file. You need to check and see if "
-    "you have entered the data correctly and in the proper amount. Please correct the data by "
-    "clicking on the Edit this List command button in the Cities window and edit the incorrect data.";
-
 std::string FaultOfLine(std::string_view line) {
     const Result<CityRecord> record = ParseCityRecord(line);
     return record ? std::string() : record.message();
@@ -73,7 +68,8 @@ std::vector<std::string> RegionsOf(const std::vector<CityRecord>& records) {
 Fault Ambiguous(std::string_view name, const std::vector<std::string>& regions) {
     std::string text =
         "there are several places \"" + std::string(name) + "\"; add the region after a comma: ";
-    for (const std::string& region : regions) text += (&region == &regions.front() ? "" : ", ") + region;
+    for (const std::string& region : regions) text.append(region).append(", ");
+    text.resize(text.size() - 2);
     return {text};
 }
 
@@ -99,8 +95,7 @@ RecordList ReadCitiesFile(const Path& path) {
 }
 
 void TellCitiesFault(const RecordFault& fault, Messages& messages) {
-    const std::string text = fault.line == 0 ? fault.detail : std::string(kRecordFaultText);
-    messages.Tell("Error!", text, MessageIcon::Stop);
+    TellRecordFault(fault, {"cities", "Cities"}, messages);
 }
 
 std::string CityTextAt(const RecordList& cities, std::size_t index) {

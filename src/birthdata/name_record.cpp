@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "chart/angles.h"
 #include "text/columns.h"
 #include "text/dates.h"
 #include "text/fields.h"
@@ -29,8 +30,7 @@ PackedParts SplitPacked(double value) {
 }
 
 double PackedNumber(const std::string& whole, const std::string& sixtieths, bool negative) {
-    const double value = RoundToInt16(LeadingNumber(whole)) + RoundToInt16(LeadingNumber(sixtieths)) / 100.0;
-    return negative ? -value : value;
+    return PackedOf(RoundToInt16(LeadingNumber(whole)), RoundToInt16(LeadingNumber(sixtieths)), negative);
 }
 
 struct BirthNumbers {

@@ -11,7 +11,6 @@ namespace tolvanis {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Takes the first line off the text, its end included.
 std::string_view TakeLine(std::string_view& text) {
@@ -91,7 +90,8 @@ class Composer {
         const std::string converted = ascii ? std::string() : Converted(bytes);
         const std::string_view line = ascii ? bytes : converted;
         if (!placed_) {
-            const std::string_view text = WithoutByteOrderMark(WithoutLineEnd(line));
+            const std::string_view bare = WithoutLineEnd(line);
+            const std::string_view text = content_.empty() ? WithoutByteOrderMark(bare) : bare;
             const std::string name = FirstField(text);
             if (name.empty()) {
                 PlaceNewRecord();
@@ -106,11 +106,6 @@ class Composer {
     static std::string Converted(std::string_view bytes) {
         const bool marked = bytes.starts_with(kByteOrderMark);
         return (marked ? std::string(kByteOrderMark) : std::string()) + ToUtf8(bytes);
-    }
-
-    std::string_view WithoutByteOrderMark(std::string_view text) const {
-        const bool marked = content_.empty() && text.starts_with(kByteOrderMark);
-        return marked ? text.substr(kByteOrderMark.size()) : text;
     }
 
     bool IsReplaced(const std::string& name, std::string_view text) {

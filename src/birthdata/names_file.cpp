@@ -7,11 +7,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::string_view kRecordFaultText =
-    "You have an error in the current names file. You need to check and see if "
-    "you have entered the data correctly and in the proper amount. Please correct the data by "
-    "clicking on the Edit this List command button in the Names window and edit the incorrect data.";
-
 constexpr int kEntriesAboveRemembered = 12;
 
 std::string FaultOfLine(std::string_view line) {
@@ -28,8 +23,7 @@ RecordList ReadNamesFile(const Path& path) {
 }
 
 void TellNamesFault(const RecordFault& fault, Messages& messages) {
-    const std::string text = fault.line == 0 ? fault.detail : std::string(kRecordFaultText);
-    messages.Tell("Error!", text, MessageIcon::Stop);
+    TellRecordFault(fault, {"names", "Names"}, messages);
 }
 
 std::string NameAt(const RecordList& names, std::size_t index) {

@@ -29,7 +29,6 @@ struct NamesState {
     bool locked = false;      // the list reopens at the remembered entry
     int rememberedIndex = 0;  // counted from 0
     bool justSaved = false;   // a record was appended since the last pick: the position is not restored
-    int currentRecord = -1;   // the record last picked
 };
 
 // Where a locked list of `count` entries reopens: the remembered entry, kept within the list, twelve below

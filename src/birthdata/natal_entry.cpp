@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "chart/angles.h"
 #include "text/columns.h"
 #include "text/numbers.h"
 
@@ -77,8 +78,7 @@ std::int16_t Whole(const std::string& text) {
 }
 
 float Packed(const std::string& degrees, const std::string& minutes, bool negative) {
-    const double packed = Whole(degrees) + Whole(minutes) / 100.0;
-    return static_cast<float>(negative ? -packed : packed);
+    return static_cast<float>(PackedOf(Whole(degrees), Whole(minutes), negative));
 }
 
 }  // namespace
@@ -186,7 +186,7 @@ NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate)
     data.Month = Whole(entry.month);
     data.Year = Whole(entry.year);
     data.DateText = JoinDate(entry.year, entry.month, entry.day, iDate);
-    data.ClockTime = Whole(entry.birthHour) + Whole(entry.birthMinute) / 100.0;
+    data.ClockTime = PackedOf(Whole(entry.birthHour), Whole(entry.birthMinute), false);
     data.AmPm = entry.pm ? "P.M." : "A.M.";
     data.TimeZone = LeadingNumber(entry.timeZone);
     data.Longitude = Packed(entry.longDeg, entry.longMin, entry.east);

@@ -11,17 +11,24 @@ RecordList::RecordList(const Path& path, const Check& check) {
             fault_ = RecordFault{reader.LineNumber(), std::move(problem)};
             return;
         }
-        text_ += line;
-        ends_.push_back(text_.size());
+        lines_.Append(line);
     }
     if (!reader.IsOpen()) {
         fault_ = RecordFault{0, "Cannot read the file " + path.string() + ": " + reader.Problem() + "."};
     }
 }
 
-std::string_view RecordList::Line(std::size_t index) const {
-    const std::size_t start = index == 0 ? 0 : ends_[index - 1];
-    return std::string_view(text_).substr(start, ends_[index] - start);
+void TellRecordFault(const RecordFault& fault, const RecordFileKind& kind, Messages& messages) {
+    if (fault.line == 0) return messages.Tell("Error!", fault.detail, MessageIcon::Stop);
+    const auto text =
+        std::string("You have an error in the current ")
+            .append(kind.file)
+            .append(
+                " file. You need to check and see if you have entered the data correctly and in the proper "
+                "amount. Please correct the data by clicking on the Edit this List command button in the ")
+            .append(kind.window)
+            .append(" window and edit the incorrect data.");
+    messages.Tell("Error!", text, MessageIcon::Stop);
 }
 
 std::string ProblemText(const std::optional<RecordFault>& fault) {

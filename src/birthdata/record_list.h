@@ -5,9 +5,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/files.h"
+#include "platform/messages.h"
+#include "text/text_list.h"
 
 namespace tolvanis {
 
@@ -27,15 +28,22 @@ class RecordList {
     RecordList() = default;
     RecordList(const Path& path, const Check& check);
 
-    std::size_t size() const { return ends_.size(); }
-    std::string_view Line(std::size_t index) const;
+    std::size_t size() const { return lines_.size(); }
+    std::string_view Line(std::size_t index) const { return lines_[index]; }
     const std::optional<RecordFault>& fault() const { return fault_; }
 
   private:
-    std::string text_;
-    std::vector<std::size_t> ends_;  // where each line ends in text_
+    TextList lines_;
     std::optional<RecordFault> fault_;
 };
+
+// Tells the user that a file could not be read, or not to its end. `kind` names it and its window, as in
+// "names" and "Names".
+struct RecordFileKind {
+    std::string_view file;
+    std::string_view window;
+};
+void TellRecordFault(const RecordFault& fault, const RecordFileKind& kind, Messages& messages);
 
 // The fault as a sentence below a list; an empty text without one.
 std::string ProblemText(const std::optional<RecordFault>& fault);

@@ -7,16 +7,8 @@
 namespace tolvanis {
 
 RecordSearch::RecordSearch(std::size_t count, const std::function<std::string(std::size_t)>& textAt) {
-    ends_.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        keys_ += SearchKey(textAt(i));
-        ends_.push_back(keys_.size());
-    }
-}
-
-std::string_view RecordSearch::KeyAt(std::size_t index) const {
-    const std::size_t start = index == 0 ? 0 : ends_[index - 1];
-    return std::string_view(keys_).substr(start, ends_[index] - start);
+    keys_.Reserve(count);
+    for (std::size_t i = 0; i < count; ++i) keys_.Append(SearchKey(textAt(i)));
 }
 
 std::optional<std::size_t> RecordSearch::FindBeginning(std::string_view typed, std::size_t from) const {
@@ -24,7 +16,7 @@ std::optional<std::size_t> RecordSearch::FindBeginning(std::string_view typed, s
     if (key.empty()) return std::nullopt;
     for (std::size_t step = 0; step < size(); ++step) {
         const std::size_t index = (from + step) % size();
-        if (KeyAt(index).starts_with(key)) return index;
+        if (keys_[index].starts_with(key)) return index;
     }
     return std::nullopt;
 }
@@ -35,7 +27,7 @@ std::vector<std::size_t> RecordSearch::FindAll(std::string_view typed) const {
     const std::string wordStart = ' ' + key;
     std::array<std::vector<std::size_t>, 3> groups;
     for (std::size_t i = 0; i < size(); ++i) {
-        const std::string_view text = KeyAt(i);
+        const std::string_view text = keys_[i];
         if (text.find(key) == std::string_view::npos) continue;
         const bool laterWord = text.find(wordStart) != std::string_view::npos;
         groups[text.starts_with(key) ? 0 : laterWord ? 1 : 2].push_back(i);

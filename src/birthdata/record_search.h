@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/text_list.h"
+
 namespace tolvanis {
 
 class RecordSearch {
@@ -15,7 +17,7 @@ class RecordSearch {
     // Prepares the search over `count` texts.
     RecordSearch(std::size_t count, const std::function<std::string(std::size_t)>& textAt);
 
-    std::size_t size() const { return ends_.size(); }
+    std::size_t size() const { return keys_.size(); }
 
     // The first text at or after `from`, going on at the start of the list, that begins with `typed`.
     std::optional<std::size_t> FindBeginning(std::string_view typed, std::size_t from) const;
@@ -25,10 +27,7 @@ class RecordSearch {
     std::vector<std::size_t> FindAll(std::string_view typed) const;
 
   private:
-    std::string_view KeyAt(std::size_t index) const;
-
-    std::string keys_;
-    std::vector<std::size_t> ends_;
+    TextList keys_;
 };
 
 }  // namespace tolvanis

@@ -50,6 +50,12 @@ inline double SignedPackedToDecimal(double packed) {
     return packed < 0 ? -size : size;
 }
 
+// Whole degrees (or hours) and minutes in the packed form.
+inline double PackedOf(double whole, double minutes, bool negative) {
+    const double packed = whole + minutes / 100.0;
+    return negative ? -packed : packed;
+}
+
 // Rectangular and polar coordinates; angles are radians. Zeros that would make an angle indefinite are moved
 // by 1.74533e-9, a ten millionth of a degree.
 struct Rect {

@@ -6,10 +6,6 @@ void DataBuffer::StartListing() {
     listingLines_.clear();
 }
 
-void DataBuffer::AppendLine() {
-    AppendLine(CurrentLine);
-}
-
 void DataBuffer::AppendLine(std::string_view line) {
     for (std::vector<std::string>* lines : {&bufferLines_, &listingLines_}) {
         if (lines->size() < kMostLines) {
@@ -21,8 +17,7 @@ void DataBuffer::AppendLine(std::string_view line) {
 }
 
 void DataBuffer::AppendBlankLine() {
-    CurrentLine.clear();
-    AppendLine();
+    AppendLine({});
 }
 
 void DataBuffer::ClearDataBuffer() {

@@ -15,11 +15,7 @@ class DataBuffer {
     static constexpr std::size_t kMostLines = 32767;
     static constexpr std::size_t kNearlyFull = 1000;  // more lines than this call for a warning
 
-    // The line being composed; producers build it and then append it.
-    std::string CurrentLine;
-
     void StartListing();
-    void AppendLine();  // appends CurrentLine, which stays
     void AppendLine(std::string_view line);
     void AppendBlankLine();
 

@@ -25,41 +25,39 @@ void WriteCusps(DataBuffer& buffer, const NatalData& natal, const HouseCusps& cu
     buffer.AppendBlankLine();
     buffer.AppendLine(std::string("  HOUSE CUSPS - ").append(HouseSystemName(natal.HouseSystem)));
     for (int first = 1; first <= 12; first += 3) {
-        std::string& line = buffer.CurrentLine;
-        line.clear();
+        std::string line;
         for (int position = first; position < first + 3; ++position) {
             line.append(position == first ? "  " : " ").append(HouseOrdinal(position));
             line.append(" house = ").append(FormatDegMin(cusps[position]));
         }
-        buffer.AppendLine();
+        buffer.AppendLine(line);
     }
 }
 
 void WriteAngles(DataBuffer& buffer, const ChartPositions& chart) {
-    const auto line = [&](std::string_view left, double leftAngle, std::string_view right,
-                          double rightAngle) {
-        buffer.CurrentLine = "  ";
-        buffer.CurrentLine.append(left).append(" =  ").append(FormatDegMin(leftAngle));
-        buffer.CurrentLine.append(10, ' ').append(right).append(" =  ").append(FormatDegMin(rightAngle));
-        buffer.AppendLine();
+    const auto write = [&](std::string_view left, double leftAngle, std::string_view right,
+                           double rightAngle) {
+        std::string line = "  ";
+        line.append(left).append(" =  ").append(FormatDegMin(leftAngle));
+        line.append(10, ' ').append(right).append(" =  ").append(FormatDegMin(rightAngle));
+        buffer.AppendLine(line);
     };
     buffer.AppendBlankLine();
-    line("Vertex      ", chart.Vertex, "Equatorial Ascendant", chart.EquatorialAscendant);
-    line("Co-Ascendant", chart.CoAscendant, "Polar Ascendant     ", chart.PolarAscendant);
+    write("Vertex      ", chart.Vertex, "Equatorial Ascendant", chart.EquatorialAscendant);
+    write("Co-Ascendant", chart.CoAscendant, "Polar Ascendant     ", chart.PolarAscendant);
 }
 
 void WritePoints(DataBuffer& buffer, const ChartPositions& chart) {
     buffer.AppendBlankLine();
     for (const int point : kRows) {
-        std::string& line = buffer.CurrentLine;
-        line = "  ";
+        std::string line = "  ";
         line.append(FormatDegMinSec(chart.PointLongitude[point]))
             .append("   ")
             .append(ListingPointName(point));
         line.append(1, chart.RetrogradeFlags[static_cast<std::size_t>(point - 1)]).append("    (");
         line.append(HouseOrdinal(HouseCusps::PositionOfHouse(chart.PointHouse[point]))).append(" HOUSE)    ");
         line.append(FormatDeclination(chart.PointDeclination[point]));
-        buffer.AppendLine();
+        buffer.AppendLine(line);
     }
     buffer.AppendLine(std::string(51, ' ') + "Decl.");
 }

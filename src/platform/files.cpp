@@ -293,7 +293,8 @@ bool LineReader::Next(std::string& line) {
     if (line.ends_with('\r')) line.pop_back();
     const bool ascii = std::all_of(line.begin(), line.end(), [](char c) { return c >= 0; });
     if (!ascii) line = ToUtf8(line);
-    if (std::exchange(first_, false) && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+    if (std::exchange(first_, false) && line.starts_with(kByteOrderMark))
+        line.erase(0, kByteOrderMark.size());
     return true;
 }
 

@@ -4,18 +4,14 @@
 namespace tolvanis {
 
 struct ScreenConstants {
-    int screenWidth = 1024;  // pixels
-    int screenHeight = 768;
     double twipsPerPixel = 15.0;  // 1440 to a logical inch
-    int referenceWidth = 1024;    // pixels
-    int referenceHeight = 768;
-    int windowWidth = 14050;  // twips
+    int windowWidth = 14050;      // twips
     int windowHeight = 11505;
     double fontStep = 1.5;  // points
 };
 
-// The constants for a screen of the given size in pixels and logical resolution in dots per inch; a
+// The constants for a screen of the given width in pixels and logical resolution in dots per inch; a
 // resolution that is not positive counts as 96.
-ScreenConstants ScreenConstantsFor(int widthPixels, int heightPixels, double dotsPerInch);
+ScreenConstants ScreenConstantsFor(int widthPixels, double dotsPerInch);
 
 }  // namespace tolvanis

@@ -164,11 +164,13 @@ bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view prefix)
     return true;
 }
 
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    return text;
+}
+
 std::string ToUtf8(std::string_view bytes) {
-    if (IsUtf8(bytes)) {
-        if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
-        return std::string(bytes);
-    }
+    if (IsUtf8(bytes)) return std::string(WithoutByteOrderMark(bytes));
     std::string text;
     text.reserve(bytes.size() * 2);
     for (const char byte : bytes) {

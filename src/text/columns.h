@@ -31,6 +31,10 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b);
 // Whether the text begins with the prefix, without regard to the case of ASCII letters.
 bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view prefix);
 
+// The mark that some programs put in front of UTF-8 text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+std::string_view WithoutByteOrderMark(std::string_view text);
+
 // The bytes as UTF-8: valid UTF-8 is returned as it is without a byte order mark, anything else is taken as
 // Windows-1252.
 std::string ToUtf8(std::string_view bytes);

@@ -31,7 +31,7 @@ LabelSteps MeasureSteps(const WheelPlan& plan, const TextMeasure& measure, doubl
                       glyph.height + double{options[form.glyphHeightAdd]}},
                      {digit.width + double{options[form.digitWidthAdd]},
                       digit.height + double{options[form.digitHeightAdd]}}};
-    const bool cuts = &form == &kScreenForm || angle <= 75.0 || angle >= 310.0;
+    const bool cuts = !form.onPaper || angle <= 75.0 || angle >= 310.0;
     if (cuts && options[form.minutesSize] >= options[form.largeMinutes]) {
         steps.digit.height -= double{options[form.heightCut]};
     }

@@ -12,6 +12,7 @@ inline constexpr int kWhite = 15;
 // Numbers of options. Sizes are wheel units: one point on a window whose wheel area is 700 pixels high, and,
 // within two hundredths, one point on a page of A4. A colour option of 0 stands for black.
 struct WheelForm {
+    bool onPaper;
     int glyphWidthAdd, digitWidthAdd, glyphHeightAdd, digitHeightAdd;  // to the steps of a planet's label
     double heightRatio;                                                // text heights are divided by it
     int largeMinutes, heightCut;  // minutes of at least this size take that off the digit's height
@@ -22,6 +23,7 @@ struct WheelForm {
 };
 
 inline constexpr WheelForm kScreenForm = {
+    .onPaper = false,
     .glyphWidthAdd = 60,
     .digitWidthAdd = 61,
     .glyphHeightAdd = 62,
@@ -52,6 +54,7 @@ inline constexpr WheelForm kScreenForm = {
 };
 
 inline constexpr WheelForm kPrinterForm = {
+    .onPaper = true,
     .glyphWidthAdd = 64,
     .digitWidthAdd = 65,
     .glyphHeightAdd = 66,

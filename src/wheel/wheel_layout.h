@@ -28,7 +28,7 @@ struct WheelPlan {
     bool halfPage = false;  // the window's image will be printed: white background, black sextiles and trines
 
     int Background() const {
-        return halfPage || &form == &kPrinterForm ? kWhite : ColourOf(options, kBackgroundOption);
+        return halfPage || form.onPaper ? kWhite : ColourOf(options, kBackgroundOption);
     }
 };
 

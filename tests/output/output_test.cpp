@@ -32,8 +32,7 @@ TEST(DataBuffer, ListingsStartAfreshWhileTheBufferKeeps) {
     DataBuffer buffer;
     buffer.AppendLine("one");
     buffer.StartListing();
-    buffer.CurrentLine = "two";
-    buffer.AppendLine();
+    buffer.AppendLine("two");
     buffer.AppendBlankLine();
     EXPECT_EQ(buffer.BufferLineCount(), 3U);
     EXPECT_EQ(buffer.ListingText("\r\n"), "two\r\n\r\n\r\n");

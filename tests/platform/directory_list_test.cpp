@@ -48,7 +48,7 @@ TEST(ScreenConstants, FollowTheScreen) {
                  {800, 120, 8400, 1.2},   {1920, 96, 14050, 1.5}, {1920, 120, 10970, 1.2},
                  {3840, 192, 10970, 1.2}, {1024, 0, 14050, 1.5}};
     for (const auto& test : cases) {
-        const ScreenConstants screen = ScreenConstantsFor(test.width, 768, test.dpi);
+        const ScreenConstants screen = ScreenConstantsFor(test.width, test.dpi);
         EXPECT_EQ(screen.windowWidth, test.windowWidth) << test.width << " at " << test.dpi;
         EXPECT_EQ(screen.fontStep, test.step) << test.width << " at " << test.dpi;
         EXPECT_GT(screen.twipsPerPixel, 0.0);

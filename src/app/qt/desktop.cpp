@@ -95,8 +95,7 @@ void Desktop::ShowTitle() {
 void Desktop::MeasureScreen() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr) return;
-    state_.screen =
-        ScreenConstantsFor(screen->size().width(), screen->size().height(), screen->logicalDotsPerInchX());
+    state_.screen = ScreenConstantsFor(screen->size().width(), screen->logicalDotsPerInchX());
 }
 
 void Desktop::MakeWindows() {

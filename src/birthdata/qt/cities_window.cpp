@@ -13,14 +13,14 @@ Geograph::Geograph(std::string file, Messages& messages, QWidget* parent)
       messages_(messages),
       pane_(new RecordListPane({"CitiesOnFile", "lblCitiesOnFile", "city", "cities"}, this)) {
     setObjectName(QStringLiteral("Geograph"));
-    setWindowTitle(tr("Cities"));
+    setWindowTitle(QStringLiteral("Cities"));
     connect(&pane_->list(), &RecordListView::rowPicked, this, &Geograph::CitiesOnFile_Click);
     // Enter: there is nothing more to open, and the mouse has picked at the first click.
     connect(&pane_->list(), &RecordListView::rowOpened, this, &Geograph::CitiesOnFile_Click);
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(pane_, 1);
-    column->addLayout(ListButtons(*this, tr("Click here for &names"), &Geograph::namesRequested,
+    column->addLayout(ListButtons(*this, QStringLiteral("Click here for &names"), &Geograph::namesRequested,
                                   &Geograph::editListRequested, &Geograph::changeListRequested));
     setFocusProxy(pane_);
 }

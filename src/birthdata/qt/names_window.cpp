@@ -13,11 +13,11 @@ Names::Names(std::string file, NamesState& state, Messages& messages, QWidget* p
       state_(state),
       messages_(messages),
       pane_(new RecordListPane({"NamesOnFile", "lblNamesOnFile", "name", "names"}, this)),
-      Check1_(new QCheckBox(tr("&Lock list"), this)) {
+      Check1_(new QCheckBox(QStringLiteral("&Lock list"), this)) {
     setObjectName(QStringLiteral("Names"));
-    setWindowTitle(tr("Names"));
+    setWindowTitle(QStringLiteral("Names"));
     Check1_->setObjectName(QStringLiteral("Check1"));
-    Check1_->setToolTip(tr("The list opens again where it is now"));
+    Check1_->setToolTip(QStringLiteral("The list opens again where it is now"));
     connect(Check1_, &QCheckBox::clicked, this, &Names::Check1_Click);
     connect(&pane_->list(), &RecordListView::rowPicked, this, &Names::NamesOnFile_Click);
     connect(&pane_->list(), &RecordListView::rowOpened, this, &Names::NamesOnFile_DblClick);
@@ -25,7 +25,7 @@ Names::Names(std::string file, NamesState& state, Messages& messages, QWidget* p
     auto* column = new QVBoxLayout(this);
     column->addWidget(pane_, 1);
     column->addWidget(Check1_);
-    column->addLayout(ListButtons(*this, tr("Click here for &cities"), &Names::citiesRequested,
+    column->addLayout(ListButtons(*this, QStringLiteral("Click here for &cities"), &Names::citiesRequested,
                                   &Names::editListRequested, &Names::changeListRequested));
     setFocusProxy(pane_);
 }
@@ -62,7 +62,6 @@ std::optional<NatalEntry> Names::Pick(int row) {
     state_.justSaved = false;
     const auto record = FindName(names_, pane_->list().records().Text(row));
     if (!record) return std::nullopt;
-    state_.currentRecord = static_cast<int>(*record);
     if (state_.locked) state_.rememberedIndex = row;
     const Result<NatalEntry> entry = EntryFromRecord(NameRecordAt(names_, *record));
     return entry ? std::optional(*entry) : std::nullopt;

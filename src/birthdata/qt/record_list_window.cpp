@@ -151,7 +151,7 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
       find_(new QLineEdit(this)),
       list_(new RecordListView(this)) {
     list_->setObjectName(QLatin1String(wording.list));
-    list_->setAccessibleName(tr("List of %1").arg(QLatin1String(wording.many)));
+    list_->setAccessibleName(QStringLiteral("List of %1").arg(QLatin1String(wording.many)));
     fileLabel_->setObjectName(QLatin1String(wording.label));
     fileLabel_->setTextFormat(Qt::PlainText);
     fileLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -162,14 +162,14 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     problemLabel_->hide();
 
     find_->setObjectName(QStringLiteral("txtFind"));
-    find_->setAccessibleName(tr("Find"));
-    find_->setToolTip(
-        tr("Part of a name, accents and capitals aside. Down and Up go through what fits, Enter picks. "
-           "(Ctrl+F)"));
+    find_->setAccessibleName(QStringLiteral("Find"));
+    find_->setToolTip(QStringLiteral(
+        "Part of a name, accents and capitals aside. Down and Up go through what fits, Enter picks. "
+        "(Ctrl+F)"));
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
     connect(find_, &QLineEdit::textChanged, this, &RecordListPane::FindTyped);
-    auto* findLabel = new QLabel(tr("&Find"), this);
+    auto* findLabel = new QLabel(QStringLiteral("&Find"), this);
     findLabel->setBuddy(find_);
     const auto focusFind = [this] {
         find_->setFocus(Qt::ShortcutFocusReason);
@@ -212,10 +212,10 @@ void RecordListPane::ShowCount() {
         const char* what = count == 1 ? wording_.one : wording_.many;
         countLabel_->setText(locale.toString(count) + QLatin1Char(' ') + QLatin1String(what));
     } else if (matches_.empty()) {
-        countLabel_->setText(tr("nothing found"));
+        countLabel_->setText(QStringLiteral("nothing found"));
     } else {
         countLabel_->setText(
-            tr("%1 of %2")
+            QStringLiteral("%1 of %2")
                 .arg(locale.toString(match_ + 1), locale.toString(static_cast<qulonglong>(matches_.size()))));
     }
 }

@@ -126,8 +126,8 @@ QLayout* ListButtons(Window& window, const QString& otherList, void (Window::*ot
         layout->addWidget(button);
     };
     add(column, "Command1", otherList, other);
-    add(row, "cmdEditList", QObject::tr("&Edit this List"), edit);
-    add(row, "cmdNewFileList", QObject::tr("C&hange List"), change);
+    add(row, "cmdEditList", QStringLiteral("&Edit this List"), edit);
+    add(row, "cmdNewFileList", QStringLiteral("C&hange List"), change);
     column->addLayout(row);
     return column;
 }

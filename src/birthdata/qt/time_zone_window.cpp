@@ -17,11 +17,11 @@ TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
       messages_(messages),
       lstTimeZones_(new RecordListView(this)) {
     setObjectName(QStringLiteral("TimeZone"));
-    setWindowTitle(tr("Time Zones"));
+    setWindowTitle(QStringLiteral("Time Zones"));
     constexpr double kPoints = 10.0;
     constexpr int kColumns = 48;
     lstTimeZones_->setObjectName(QStringLiteral("lstTimeZones"));
-    lstTimeZones_->setAccessibleName(tr("List of time zones"));
+    lstTimeZones_->setAccessibleName(QStringLiteral("List of time zones"));
     lstTimeZones_->setFont(ListingFont(kPoints));
     const int textWidth =
         QFontMetrics(lstTimeZones_->font()).horizontalAdvance(QString(kColumns, QLatin1Char('0')));
@@ -30,7 +30,7 @@ TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
     connect(lstTimeZones_, &RecordListView::rowPicked, this, &TimeZone::lstTimeZones_Click);
     connect(lstTimeZones_, &RecordListView::rowOpened, this, &TimeZone::lstTimeZones_Click);
 
-    auto* Command1 = new QPushButton(tr("&Quit"), this);
+    auto* Command1 = new QPushButton(QStringLiteral("&Quit"), this);
     Command1->setObjectName(QStringLiteral("Command1"));
     connect(Command1, &QPushButton::clicked, this, &QWidget::close);
 

@@ -12,7 +12,7 @@ CWAspect::CWAspect(const WheelSnapshot& chart, const Path& orbsFile, Messages& m
     setWindowTitle(QStringLiteral("Aspects"));
     setAttribute(Qt::WA_DeleteOnClose);
     Text1_.setObjectName(QStringLiteral("Text1"));
-    Text1_.setAccessibleName(tr("Aspects"));
+    Text1_.setAccessibleName(QStringLiteral("Aspects"));
     Text1_.setReadOnly(true);
     Text1_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QFont font(QString::fromLatin1(kSymbolFontFamily));

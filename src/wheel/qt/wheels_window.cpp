@@ -73,22 +73,22 @@ void Wheels::BuildMenu() {
         return action;
     };
     QMenuBar& bar = *menuBar();
-    add(bar, "mnuAsciiChart", tr("AS&CII"), &Wheels::asciiChartRequested);
-    add(bar, "mnuAspects", tr("&Aspects"), &Wheels::mnuAspects_Click);
-    QMenu& orbs = *bar.addMenu(tr("&Orbs"));
-    add(orbs, "mnuOrbsChange", tr("&Select new orb file"), &Wheels::mnuOrbsChange_Click);
-    add(orbs, "mnuOrbsEdit", tr("&Edit orb file"),
+    add(bar, "mnuAsciiChart", QStringLiteral("AS&CII"), &Wheels::asciiChartRequested);
+    add(bar, "mnuAspects", QStringLiteral("&Aspects"), &Wheels::mnuAspects_Click);
+    QMenu& orbs = *bar.addMenu(QStringLiteral("&Orbs"));
+    add(orbs, "mnuOrbsChange", QStringLiteral("&Select new orb file"), &Wheels::mnuOrbsChange_Click);
+    add(orbs, "mnuOrbsEdit", QStringLiteral("&Edit orb file"),
         [this] { Q_EMIT orbsEditRequested(QString::fromStdString(orbsFile_.string())); });
-    add(bar, "mnuPrintChartwheel", tr("&Print"), &Wheels::mnuPrintChartwheel_Click);
-    QMenu& type = *bar.addMenu(tr("&Type"));
-    mnuCTAmerican_ = add(type, "mnuCTAmerican", tr("&American"), &Wheels::mnuCTAmerican_Click);
-    mnuCTEuropean_ = add(type, "mnuCTEuropean", tr("&European"), &Wheels::mnuCTEuropean_Click);
+    add(bar, "mnuPrintChartwheel", QStringLiteral("&Print"), &Wheels::mnuPrintChartwheel_Click);
+    QMenu& type = *bar.addMenu(QStringLiteral("&Type"));
+    mnuCTAmerican_ = add(type, "mnuCTAmerican", QStringLiteral("&American"), &Wheels::mnuCTAmerican_Click);
+    mnuCTEuropean_ = add(type, "mnuCTEuropean", QStringLiteral("&European"), &Wheels::mnuCTEuropean_Click);
     mnuCTAmerican_->setCheckable(true);
     mnuCTEuropean_->setCheckable(true);
     mnuCTAmerican_->setChecked(ChartTypeOf(typeChart_) == ChartType::American);
     mnuCTEuropean_->setChecked(ChartTypeOf(typeChart_) == ChartType::European);
-    add(bar, "mnuHelp", tr("&Help"), &Wheels::helpRequested);
-    add(bar, "mnuExport", tr("&Export"), &Wheels::mnuExport_Click);
+    add(bar, "mnuHelp", QStringLiteral("&Help"), &Wheels::helpRequested);
+    add(bar, "mnuExport", QStringLiteral("&Export"), &Wheels::mnuExport_Click);
 }
 
 void Wheels::PaintWheel(QPainter& painter, const QRect& area) {
