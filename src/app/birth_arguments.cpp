@@ -2,7 +2,6 @@
 
 #include "birthdata/cities_file.h"
 #include "birthdata/name_record.h"
-#include "platform/clock.h"
 #include "text/columns.h"
 #include "text/fields.h"
 #include "text/numbers.h"
@@ -97,8 +96,9 @@ Result<NatalEntry> EntryOfBirth(const std::string& birth, const std::optional<Pl
     return entry;
 }
 
-NatalEntry EntryOfNow(const Options& options, const std::optional<Place>& place) {
-    const LocalTime now = place ? PresentMomentInZone(LeadingNumber(place->timeZone)) : PresentMoment();
+NatalEntry EntryOfNow(std::time_t moment, const Options& options, const std::optional<Place>& place) {
+    const LocalTime now =
+        place ? OnClockOfZone(moment, LeadingNumber(place->timeZone)) : OnHostsClock(moment);
     NatalEntry entry = FillNow(now, options);
     if (place) FillPlace(entry, *place);
     return entry;
@@ -145,12 +145,12 @@ Result<void> CheckBirthArguments(const BirthArguments& births) {
     return {};
 }
 
-void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files,
+void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files, Clock clock,
                 EntryReceiver& receiver) {
     if (births.namesFile) return ReadNamesFile(births, receiver);
     const Result<std::optional<Place>> place = RequestedPlace(births, files);
     if (!place) return receiver.Refuse("--place", place.message());
-    if (!births.birth) return receiver.Take(EntryOfNow(options, *place), "--now");
+    if (!births.birth) return receiver.Take(EntryOfNow(clock(), options, *place), "--now");
     const Result<NatalEntry> entry = EntryOfBirth(*births.birth, *place);
     if (!entry) return receiver.Refuse("--birth", entry.message());
     receiver.Take(*entry, "--birth");

@@ -8,6 +8,7 @@
 
 #include "birthdata/natal_entry.h"
 #include "chart/house_system.h"
+#include "platform/clock.h"
 #include "platform/data_files.h"
 #include "platform/result.h"
 
@@ -64,7 +65,7 @@ class EntryReceiver {
 };
 
 // Reads the births that the arguments name, holding one at a time.
-void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files,
+void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files, Clock clock,
                 EntryReceiver& receiver);
 
 }  // namespace tolvanis

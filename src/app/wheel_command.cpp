@@ -105,7 +105,7 @@ Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
     const Result<WheelData> data = ReadWheelData(opened->files);
     if (!data) return data.fault();
     SnapshotTaker taker(arguments.houses.value_or(HouseSystemOfOption(opened->options[27])), opened->options);
-    ReadBirths(arguments, opened->options, opened->files, taker);
+    ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();
     return WheelPicture{opened->files, opened->options, *data, *chart};

@@ -66,14 +66,15 @@ class ChartPrinter : public EntryReceiver {
 
 }  // namespace
 
-ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors) {
+ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors,
+                           Clock clock) {
     const Result<CommandData> data = OpenCommandData(request.appDirectory);
     if (!data) {
         errors << data.message() << "\n";
         return kSomethingRefused;
     }
     ChartPrinter printer(request, data->options, output, errors);
-    ReadBirths(request, data->options, data->files, printer);
+    ReadBirths(request, data->options, data->files, clock, printer);
     return printer.status();
 }
 
@@ -86,7 +87,7 @@ ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file
             any = true;
             return whole = whole && sink(text);
         };
-        status = RunChartCommand(request, noting, errors);
+        status = RunChartCommand(request, noting, errors, HostClock);
         return whole && (any || status == kAllComputed);
     });
     const bool nothingToWrite = !any && status == kSomethingRefused;  // the reasons have been told

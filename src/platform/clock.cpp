@@ -17,19 +17,26 @@ LocalTime FromParts(const std::tm& parts) {
 
 }  // namespace
 
-LocalTime PresentMoment() {
-    const std::time_t now = std::time(nullptr);
+std::time_t HostClock() {
+    return std::time(nullptr);
+}
+
+LocalTime OnHostsClock(std::time_t moment) {
     std::tm parts{};
-    ::localtime_r(&now, &parts);
+    ::localtime_r(&moment, &parts);
     return FromParts(parts);
 }
 
-LocalTime PresentMomentInZone(double hoursWest) {
+LocalTime OnClockOfZone(std::time_t moment, double hoursWest) {
     constexpr double kSecondsPerHour = 3600.0;
-    const std::time_t now = std::time(nullptr) - std::lround(hoursWest * kSecondsPerHour);
+    const std::time_t shown = moment - std::lround(hoursWest * kSecondsPerHour);
     std::tm parts{};
-    ::gmtime_r(&now, &parts);
+    ::gmtime_r(&shown, &parts);
     return FromParts(parts);
+}
+
+LocalTime PresentMoment() {
+    return OnHostsClock(HostClock());
 }
 
 DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat) {

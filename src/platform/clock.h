@@ -1,6 +1,8 @@
 #pragma once
 // The host's clock and its customs of writing dates and times.
 
+#include <ctime>
+
 #include "text/dates.h"
 
 namespace tolvanis {
@@ -12,11 +14,16 @@ struct LocalTime {
     int second = 0;
 };
 
+// What tells the present moment: seconds of Universal Time since 1970.
+using Clock = std::time_t (*)();
+std::time_t HostClock();
+
+// A moment on a clock in the host's time zone, and on one that runs `hoursWest` hours behind Greenwich.
+LocalTime OnHostsClock(std::time_t moment);
+LocalTime OnClockOfZone(std::time_t moment, double hoursWest);
+
 // The present moment on the host's clock, in the host's time zone.
 LocalTime PresentMoment();
-
-// The present moment on a clock that runs `hoursWest` hours behind Greenwich.
-LocalTime PresentMomentInZone(double hoursWest);
 
 // Order and clock as in the POSIX date and time formats of a locale ("%d.%m.%Y", "%H:%M:%S"); a format
 // without the day, month and year, or without an hour, leaves that value at 1.

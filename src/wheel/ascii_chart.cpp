@@ -118,7 +118,7 @@ std::vector<int> AsciiOrder(const WheelSnapshot& chart) {
     std::vector<int> order = PlacementOrder(chart, kLastPoint);
     for (int moves = 1; moves < kLastPoint; ++moves) {
         if (chart.PointHouse[order.front()] != chart.PointHouse[order.back()]) break;
-        std::ranges::rotate(order, order.end() - 1);
+        std::rotate(order.begin(), order.end() - 1, order.end());
     }
     return order;
 }

@@ -150,7 +150,8 @@ std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& me
     std::vector<WheelText> texts;
     std::vector<Extent> taken;
     for (const AspectLine& aspect : lines) {
-        const auto [from, to] = aspect.line;
+        const Point from = aspect.line.from;
+        const Point to = aspect.line.to;
         const double length = std::hypot(to.x - from.x, to.y - from.y);
         const double reach = length / 2 - font.size;
         const auto at = [&](double offset) {

@@ -34,6 +34,14 @@ struct SaveCase {
     std::string name = "Ann";
 };
 
+TEST(NameSavingTest, MakesAFileThatDoesNotExistYet) {
+    const ScratchDirectory directory;
+    RecordingMessages messages;
+    EXPECT_TRUE(SaveTo(directory / "FIRST.FIL", "Ann", messages));
+    EXPECT_EQ(FileContent(directory / "FIRST.FIL"), "Ann" + kRest);
+    EXPECT_EQ(directory.Names(), std::vector<std::string>{"FIRST.FIL"}) << "there is nothing to back up";
+}
+
 TEST(NameSavingTest, KeepsEveryOtherLineAsItIs) {
     constexpr Answer kYes = Answer::Yes, kNo = Answer::No;
     const std::string ann = "Ann" + kRest, oldAnn = "Ann" + kOld, bob = "Bob" + kOld;

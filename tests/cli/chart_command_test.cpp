@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <regex>
 #include <sstream>
 
 #include "app/app_directory.h"
@@ -21,8 +22,10 @@ struct Outcome {
     std::string errors;
 };
 
-Outcome RunWith(std::vector<std::string_view> arguments) {
-    arguments.insert(arguments.end(), {"--app-dir", DELIVERED_DATA_DIR});
+Outcome RunWith(std::vector<std::string_view> arguments, const Path& appDirectory = DELIVERED_DATA_DIR,
+                Clock clock = HostClock) {
+    const std::string directory = appDirectory.string();
+    arguments.insert(arguments.end(), {"--app-dir", directory});
     const auto request = ParseCommandLine(arguments);
     EXPECT_TRUE(request) << request.message();
     Outcome outcome;
@@ -31,7 +34,7 @@ Outcome RunWith(std::vector<std::string_view> arguments) {
         outcome.output += text;
         return true;
     };
-    outcome.status = RunChartCommand(*request, sink, errors);
+    outcome.status = RunChartCommand(*request, sink, errors, clock);
     outcome.errors = errors.str();
     return outcome;
 }
@@ -53,6 +56,34 @@ TEST(ChartCommand, ApprovedListings) {
         EXPECT_EQ(outcome.output, FileContent(std::string(TEST_DATA_DIR "/listings/").append(c.file)))
             << c.file;
     }
+}
+
+// 2 January 2026, 3.30 hours of Universal Time.
+std::time_t EarlyInTheYear() {
+    return 1767324600;
+}
+
+// Now is read on the clock of the place: west of Greenwich it is earlier, east of it later. Without a place
+// it is the host's clock; the houses are those of option 27.
+TEST(ChartCommand, NowIsThePlacesOwn) {
+    const ScratchDirectory directory;
+    directory.Write("P.LL", "West,X,70W00,10N00,4.5\r\nEast,X,70E00,10S00,-5.75\r\n");
+    std::string options;
+    for (int n = 1; n <= 31; ++n) {
+        options += std::string(n == 18 ? "5" : n == 27 ? "3" : n == 28 ? "2" : "1") + "\r\n";
+    }
+    directory.Write("OPTIONS.OPT", options);
+    const char* kept = std::getenv("TZ");
+    const std::string zone = kept == nullptr ? "" : kept;
+    ::setenv("TZ", "UTC0", 1);
+    const auto run = [&](std::vector<std::string_view> arguments) {
+        return RunWith(std::move(arguments), directory.path(), EarlyInTheYear).output;
+    };
+    EXPECT_THAT(run({"--now", "--place", "P.LL:West"}), HasSubstr("01 Jan 2026    TZ = 4.5      11.00 P.M."));
+    EXPECT_THAT(run({"--now", "--place", "P.LL:East"}), HasSubstr("02 Jan 2026    TZ = -5.8      9.15 A.M."));
+    EXPECT_THAT(run({}), HasSubstr("02 Jan 2026    TZ = 5.0      3.30 A.M."));
+    EXPECT_THAT(run({}), HasSubstr("HOUSE CUSPS - Koch"));
+    kept == nullptr ? ::unsetenv("TZ") : ::setenv("TZ", zone.c_str(), 1);
 }
 
 TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
@@ -102,22 +133,39 @@ TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     EXPECT_THAT(RunWith({"--names", directory.path().native()}).errors, HasSubstr("Is a directory"));
 }
 
-TEST(ChartCommand, JsonHoldsEveryMember) {
-    const std::string json =
-        RunWith({"--birth", "A \"B\" \\,1 Jan 2000,12.00,P,0,000.00,51.30", "--format", "json"}).output;
-    EXPECT_THAT(json, StartsWith("{\"name\":\"A \\\"B\\\" \\\\\",\"year\":2000,"));
-    for (const auto* member :
-         {"\"houseSystem\":\"P\"", "\"julianDay\":2451545,", "\"centuries\":1,", "\"obliquity\":23.439",
-          "\"ramc\":", "\"siderealTime\":\"18H  41M  50S \"", "\"midheaven\":", "\"ascendant\":",
-          "\"vertex\":", "\"equatorialAscendant\":", "\"coAscendant\":", "\"polarAscendant\":",
-          "\"houseCusps\":[", "\"points\":[{\"name\":\"Sun\",\"longitude\":280.3", "\"retrograde\":true",
-          "\"trueNode\":{\"longitude\":", "\"aspects\":[{\"first\":\"Sun\",\"second\":\"",
-          "\"fromExact\":-"}) {
-        EXPECT_THAT(json, HasSubstr(member));
+// A text and its numbers apart, so that the last bits of a mathematics library do not matter.
+std::pair<std::string, std::vector<double>> TakenApart(const std::string& json) {
+    static const std::regex kNumber(R"(-?\d+(\.\d+)?(e[-+]?\d+)?)");
+    std::vector<double> numbers;
+    for (std::sregex_iterator match(json.begin(), json.end(), kNumber), end; match != end; ++match) {
+        numbers.push_back(std::stod(match->str()));
     }
+    return {std::regex_replace(json, kNumber, "#"), numbers};
 }
 
-// A chart with its place from a cities file is the one with that place typed in.
+// Nine births, one in each house system, with every member at full precision, as an independent
+// implementation of the same theory gives them.
+TEST(ChartCommand, ApprovedJson) {
+    const std::string records[] = {
+        "A \"B\" \\,1 Jan 2000,12.00,P,0,000.00,51.30", "Ann,22 Sep 1949,9.05,A,5,073.59,40.45",
+        "South,31 Dec 2099,11.59,P,-11,-151.13,-33.52", "Julian,4 Oct 1582,12.30,A,-0.25,-004.00,52.05",
+        "Early,17 Mar 277,6.45,P,-1.63,-024.31,35.20",  "Equator,29 Feb 1860,3.00,A,5.2,078.31,-00.13",
+        "Sixties,5 Feb 1962,8.10,A,0,000.10,51.30",     "Polar,21 Jun 1931,1.15,P,-1,-025.40,66.00",
+        "Arctic,7 Nov 1913,2.00,A,-12,-179.59,78.13",
+    };
+    std::string json;
+    for (std::size_t i = 0; i < std::size(records); ++i) {
+        json += RunWith({"--birth", records[i], "--houses", HouseSystemCode(kHouseSystems[i].system),
+                         "--format", "json"})
+                    .output;
+    }
+    const auto [text, numbers] = TakenApart(json);
+    const auto [approvedText, approved] = TakenApart(FileContent(TEST_DATA_DIR "/listings/births.jsonl"));
+    EXPECT_EQ(text, approvedText);
+    ASSERT_EQ(numbers.size(), approved.size());
+    for (std::size_t i = 0; i < numbers.size(); ++i) EXPECT_NEAR(numbers[i], approved[i], 1e-9) << i;
+}
+
 TEST(ChartCommand, APlaceStandsForItsCoordinatesAndZone) {
     const std::string_view born = "Ann,22 Sep 1949,9.05,A";
     const std::string expected = RunWith({"--birth", "Ann,22 Sep 1949,9.05,A,-5.75,-085.19,27.42"}).output;

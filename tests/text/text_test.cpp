@@ -17,6 +17,12 @@ TEST(Columns, CountCharactersNotBytes) {
     EXPECT_EQ(PadRight("Zoë", 2), "Zoë");
     EXPECT_EQ(TrimBlanks(" \t a b\t "), "a b");
     EXPECT_EQ(TrimBlanks("  "), "");
+    // Letters of three and four bytes.
+    EXPECT_EQ(CharacterCount("नमस्ते"), 6U);
+    EXPECT_EQ(FirstCharacters("สมชาย", 2), "สม");
+    EXPECT_EQ(PadRight("कखग", 5), "कखग  ");
+    EXPECT_EQ(PadLeft("😀", 3), "  😀");
+    EXPECT_EQ(ToUtf8("สมชาย नमस्ते"), "สมชาย नमस्ते");
 }
 
 TEST(Columns, UpperCaseOfThreeAlphabets) {

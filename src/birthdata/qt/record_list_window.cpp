@@ -110,7 +110,6 @@ bool RecordListView::IsTyping() const {
 
 void RecordListView::keyboardSearch(const QString& typed) {
     typed_ = IsTyping() ? typed_ + typed : typed;
-    lastTyped_.restart();
     // One letter typed again and again goes through the texts that begin with it.
     const bool repeated =
         std::all_of(typed_.begin(), typed_.end(), [&](QChar c) { return c == typed_.front(); });
@@ -118,6 +117,7 @@ void RecordListView::keyboardSearch(const QString& typed) {
     const int from = std::max(0, CurrentRow() + (repeated ? 1 : 0));
     const auto found = model_.Search().FindBeginning(wanted.toStdString(), static_cast<std::size_t>(from));
     if (found) SelectRow(static_cast<int>(*found));
+    lastTyped_.restart();  // the time that the search has taken is no pause of the user's
 }
 
 void RecordListView::keyPressEvent(QKeyEvent* event) {
