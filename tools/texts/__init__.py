@@ -1,0 +1,1 @@
+"""The delivered texts: what asks for them, how they are read, and the rules they keep."""
