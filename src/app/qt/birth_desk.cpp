@@ -43,7 +43,7 @@ BirthDesk::~BirthDesk() {
 void BirthDesk::ConnectInput() {
     connect(input_.get(), &InputD::computeRequested, this, &BirthDesk::computeRequested);
     connect(input_.get(), &InputD::mainWindowRequested, this, &BirthDesk::mainWindowRequested);
-    connect(input_.get(), &InputD::closedByUser, this, &BirthDesk::inputClosed);
+    connect(input_.get(), &InputD::closedByUser, this, &BirthDesk::windowClosed);
     connect(input_.get(), &InputD::saveRequested, this, &BirthDesk::SaveEntry);
     connect(input_.get(), &InputD::timeZoneHelpRequested, this, &BirthDesk::OpenTimeZones);
     connect(input_.get(), &InputD::atlasRequested, this, &BirthDesk::LookUpInAtlas);
@@ -113,6 +113,7 @@ void BirthDesk::OpenNames() {
         Close(names_);
         OpenCities();
     });
+    connect(names_, &Names::closedByUser, this, &BirthDesk::windowClosed);
     PlaceBeside(*names_, InputPlace());
     BringForward(*names_);
     names_->Load();
@@ -130,6 +131,7 @@ void BirthDesk::OpenCities() {
         Close(cities_);
         OpenNames();
     });
+    connect(cities_, &Geograph::closedByUser, this, &BirthDesk::windowClosed);
     PlaceBeside(*cities_, InputPlace());
     BringForward(*cities_);
     cities_->Load();

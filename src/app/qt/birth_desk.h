@@ -48,7 +48,7 @@ class BirthDesk : public QObject {
     void computeRequested();
     void mainWindowRequested();
     void editorRequested(EditorUse use, const Path& file);
-    void inputClosed();  // the user has closed the natal input
+    void windowClosed();  // the user has closed the natal input or one of the two lists
 
   public Q_SLOTS:
     void OpenNames();

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 
@@ -109,7 +108,7 @@ void Desktop::MakeWindows() {
     births_ = std::make_unique<BirthDesk>(state_, services_.messages, services_.dialogs, services_.clock);
     connect(births_.get(), &BirthDesk::computeRequested, this, &Desktop::Compute);
     connect(births_.get(), &BirthDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
-    connect(births_.get(), &BirthDesk::inputClosed, this, &Desktop::InputD_closed);
+    connect(births_.get(), &BirthDesk::windowClosed, this, &Desktop::ShowWayBack);
     connect(births_.get(), &BirthDesk::editorRequested, this, &Desktop::ShowEditor);
     wheel_ = std::make_unique<WheelDesk>(state_, printing_);
     connect(wheel_.get(), &WheelDesk::dataBufferRequested, this, &Desktop::ShowDataBuffer);
@@ -173,8 +172,7 @@ void Desktop::UpdateClock() {
 }
 
 void Desktop::FocusMainWindow() {
-    BringForward(*main_);
-    main_->menuBar()->setFocus();
+    main_->FocusMenu();
 }
 
 void Desktop::ShowEntryWindows() {
@@ -182,8 +180,9 @@ void Desktop::ShowEntryWindows() {
     births_->Show(QRect(main_->pos(), main_->size() + QSize(0, 2 * CaptionHeight())));
 }
 
-void Desktop::InputD_closed() {
-    main_->ShowItem("mnuInputData");  // the way back to it
+// The way back to the natal input and its list.
+void Desktop::ShowWayBack() {
+    main_->ShowItem("mnuInputData");
 }
 
 void Desktop::UnloadChartWindows() {

@@ -95,7 +95,7 @@ class Desktop : public QObject {
     void mnuDataNatalData_Click();
     void mnuHelpAbout_Click();
     void mnuHelpPrintHelp_Click();
-    void InputD_closed();
+    void ShowWayBack();
     void OutputD1_printFileWritten();
 
     ProgramState& state_;

@@ -3,11 +3,12 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 
@@ -42,13 +43,13 @@ void EditorWindow::Build() {
         row->addStretch(1);
     }
     const auto add = [&](const char* name, const char* caption) {
-        auto* button = new QPushButton(QLatin1String(caption));
-        button->setObjectName(QLatin1String(name));
-        button->setAccessibleName(QLatin1String(caption));
+        auto* button = MakePushButton(name, QLatin1String(caption));
         row->addWidget(button);
         return button;
     };
     connect(add("btnSave", "Save"), &QPushButton::clicked, this, &EditorWindow::btnSave_Click);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
+            &EditorWindow::btnSave_Click);
     connect(add("btnQuit", "Quit"), &QPushButton::clicked, this, &EditorWindow::btnQuit_Click);
     if (info_.restoresDefaults) {
         connect(add("cmdRestoreDefault", "Restore Default Settings"), &QPushButton::clicked, this,

@@ -1,15 +1,40 @@
 #include "app/qt/main_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenuBar>
+#include <QPainter>
 
+#include "platform/qt/placement.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
+namespace {
+
+// Frames the item that the arrow keys have reached; many styles mark only one whose menu is open.
+class MainMenuBar : public QMenuBar {
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QMenuBar::paintEvent(event);
+        if (!hasFocus() || activeAction() == nullptr) return;
+        constexpr int kLine = 2;  // pixels
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), kLine));
+        painter.drawRect(actionGeometry(activeAction()).adjusted(1, 1, -1, -1));
+    }
+    void focusInEvent(QFocusEvent* event) override {
+        QMenuBar::focusInEvent(event);
+        update();
+    }
+};
+
+}  // namespace
 
 TOLVANIS::TOLVANIS() : items_(MainMenu()) {
     setObjectName(QStringLiteral("TOLVANIS"));
     setAccessibleName(QStringLiteral("Tolvanis main menu"));
+    setMenuBar(new MainMenuBar);
     menuBar()->setNativeMenuBar(false);
     for (const MenuItem& item : items_) AddItem(item);
     for (const MenuItem& item : items_) {
@@ -68,6 +93,18 @@ void TOLVANIS::ShowChartItems() {
 
 void TOLVANIS::ShowItem(const std::string& control) {
     ItemOf(control)->setVisible(true);
+}
+
+// A menu bar takes the keyboard when the Alt key is pressed and let go, and in no other way.
+void TOLVANIS::FocusMenu() {
+    BringForward(*this);
+    if (menuBar()->activeAction() != nullptr) return;
+    menuBar()->setFocus();
+    for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+        const auto modifiers = type == QEvent::KeyRelease ? Qt::NoModifier : Qt::AltModifier;
+        QKeyEvent alt(type, Qt::Key_Alt, modifiers);
+        QCoreApplication::sendEvent(this, &alt);
+    }
 }
 
 void TOLVANIS::closeEvent(QCloseEvent* event) {

@@ -22,6 +22,10 @@ class TOLVANIS : public QMainWindow {
     void ShowChartItems();
     void ShowItem(const std::string& control);
 
+    // Brings the window forward and gives the keyboard to its menu: the first item is marked and the arrow
+    // keys go on from it.
+    void FocusMenu();
+
   Q_SIGNALS:
     void textFileChosen(const std::string& fileName);
     void houseSystemChosen(tolvanis::HouseSystem system);

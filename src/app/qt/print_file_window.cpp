@@ -2,12 +2,12 @@
 
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/editor_uses.h"
 #include "output/text_files.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 
@@ -21,11 +21,8 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
     txtContent_ = MakeTextArea("txtContent", "Text to be printed");
     auto* hint = new QLabel(ToQt(kClipboardHint));
     hint->setWordWrap(true);
-    auto* print = new QPushButton(QStringLiteral("Print"));
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"));
-    print->setObjectName(QStringLiteral("btnPrint"));
-    cancel->setObjectName(QStringLiteral("btnCancel"));
-    print->setDefault(true);
+    QPushButton* print = MakePushButton("btnPrint", QStringLiteral("Print"));
+    QPushButton* cancel = MakePushButton("btnCancel", QStringLiteral("Cancel"));
     connect(print, &QPushButton::clicked, this, &PrntFile::btnPrint_Click);
     connect(cancel, &QPushButton::clicked, this, &PrntFile::btnCancel_Click);
     auto* row = new QHBoxLayout;
@@ -35,6 +32,7 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(txtContent_);
     layout->addLayout(row);
+    print->setDefault(true);
     const QFontMetrics metrics(txtContent_->font());
     ResizeToFit(*this, {metrics.horizontalAdvance(QLatin1Char('M')) * 88, metrics.lineSpacing() * 34});
     MoveToMiddle(*this);

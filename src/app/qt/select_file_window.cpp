@@ -4,11 +4,11 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QStorageInfo>
 #include <QStyle>
 
 #include "platform/directory_list.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
@@ -49,8 +49,8 @@ void SelectFIle::Build() {
     filList_ = new QListWidget;
     lblPath_ = new QLabel;
     lblPath_->setTextFormat(Qt::PlainText);
-    auto* select = new QPushButton(QStringLiteral("Select"));
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"));
+    QPushButton* select = MakePushButton("cmdSelect", QStringLiteral("Select"));
+    QPushButton* cancel = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
     const auto name = [](QWidget* widget, const char* object, const char* accessible) {
         widget->setObjectName(QLatin1String(object));
         widget->setAccessibleName(QLatin1String(accessible));
@@ -58,10 +58,6 @@ void SelectFIle::Build() {
     name(drvList_, "drvList", "Drives");
     name(dirList_, "dirList", "Directories");
     name(filList_, "filList", "Files");
-    name(select, "cmdSelect", "Select");
-    name(cancel, "cmdCancel", "Cancel");
-    select->setDefault(true);
-    cancel->setAutoDefault(false);
 
     auto* grid = new QGridLayout(this);
     const auto label = [&](const char* caption, QWidget* buddy, int column) {
@@ -83,6 +79,7 @@ void SelectFIle::Build() {
     row->addWidget(select);
     row->addWidget(cancel);
     grid->addLayout(row, 5, 0, 1, 2);
+    select->setDefault(true);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);

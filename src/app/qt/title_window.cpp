@@ -2,8 +2,9 @@
 
 #include <QIcon>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
+
+#include "platform/qt/push_button.h"
 
 namespace tolvanis {
 namespace {
@@ -28,11 +29,10 @@ QLabel* Line(const QString& text, double scale = 1.0) {
 }
 
 QPushButton* CloseButton(QVBoxLayout& layout) {
-    auto* button = new QPushButton(QStringLiteral("OK"));
-    button->setObjectName(QStringLiteral("cmdOK"));
-    button->setDefault(true);
+    QPushButton* button = MakePushButton("cmdOK", QStringLiteral("OK"));
     layout.addSpacing(8);
     layout.addWidget(button, 0, Qt::AlignCenter);
+    button->setDefault(true);
     return button;
 }
 

@@ -1,9 +1,9 @@
 #include "birthdata/qt/cities_window.h"
 
+#include <QCloseEvent>
 #include <QVBoxLayout>
 
 #include "birthdata/qt/record_list_window.h"
-#include "platform/qt/hourglass.h"
 
 namespace tolvanis {
 
@@ -26,13 +26,16 @@ Geograph::Geograph(std::string file, Messages& messages, QWidget* parent)
 }
 
 void Geograph::Load() {
-    {
-        const Hourglass hourglass;
-        cities_ = ReadCitiesFile(PathFromText(file_));
-        pane_->Show(
-            file_, cities_.size(), [this](std::size_t row) { return CityTextAt(cities_, row); },
-            ProblemText(cities_.fault()));
-    }
+    pane_->ShowReading(file_);
+    loader_.Start(PathFromText(file_), ReadCitiesFile,
+                  [this](RecordList cities) { Show(std::move(cities)); });
+}
+
+void Geograph::Show(RecordList cities) {
+    cities_ = std::move(cities);
+    pane_->Show(
+        cities_.size(), [this](std::size_t row) { return CityTextAt(cities_, row); },
+        ProblemText(cities_.fault()));
     if (cities_.fault()) TellCitiesFault(*cities_.fault(), messages_);
 }
 
@@ -44,6 +47,11 @@ void Geograph::ChangeFile(const std::string& file) {
 void Geograph::CitiesOnFile_Click(int row) {
     if (const auto city = FindCityText(cities_, pane_->list().records().Text(row)))
         Q_EMIT placePicked(PlaceOfCity(*city));
+}
+
+void Geograph::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Q_EMIT closedByUser();
 }
 
 }  // namespace tolvanis

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "birthdata/cities_file.h"
+#include "birthdata/qt/record_loader.h"
 
 namespace tolvanis {
 
@@ -18,7 +19,8 @@ class Geograph : public QWidget {
     // `file` is the full path of the current cities file. Nothing is read before Load.
     Geograph(std::string file, Messages& messages, QWidget* parent = nullptr);
 
-    // Reads the file. A fault is told after the good records are in the list.
+    // Reads the file. A fault is told after the good records are in the list. The records of a large file
+    // come into the list later, when the event loop runs.
     void Load();
 
     // Makes another file the current one.
@@ -32,14 +34,21 @@ class Geograph : public QWidget {
     void editListRequested();
     void namesRequested();
 
+    void closedByUser();
+
   public Q_SLOTS:
     void CitiesOnFile_Click(int row);
 
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
   private:
+    void Show(RecordList cities);
     std::string file_;
     Messages& messages_;
     RecordList cities_;
     RecordListPane* pane_;
+    RecordLoader loader_;
 };
 
 }  // namespace tolvanis

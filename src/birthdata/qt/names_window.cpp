@@ -1,10 +1,10 @@
 #include "birthdata/qt/names_window.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QVBoxLayout>
 
 #include "birthdata/qt/record_list_window.h"
-#include "platform/qt/hourglass.h"
 
 namespace tolvanis {
 Names::Names(std::string file, NamesState& state, Messages& messages, QWidget* parent)
@@ -31,17 +31,18 @@ Names::Names(std::string file, NamesState& state, Messages& messages, QWidget* p
 }
 
 void Names::Load() {
-    {
-        const Hourglass hourglass;
-        names_ = ReadNamesFile(PathFromText(file_));
-        pane_->Show(
-            file_, names_.size(), [this](std::size_t row) { return NameAt(names_, row); },
-            ProblemText(names_.fault()));
-        Check1_->setChecked(state_.locked);
-        if (const auto position = RestoredPosition(state_, names_.size())) {
-            state_.rememberedIndex = position->selected;
-            pane_->list().SetPosition(position->top, position->selected);
-        }
+    Check1_->setChecked(state_.locked);
+    pane_->ShowReading(file_);
+    loader_.Start(PathFromText(file_), ReadNamesFile, [this](RecordList names) { Show(std::move(names)); });
+}
+
+void Names::Show(RecordList names) {
+    names_ = std::move(names);
+    pane_->Show(
+        names_.size(), [this](std::size_t row) { return NameAt(names_, row); }, ProblemText(names_.fault()));
+    if (const auto position = RestoredPosition(state_, names_.size())) {
+        state_.rememberedIndex = position->selected;
+        pane_->list().SetPosition(position->top, position->selected);
     }
     if (names_.fault()) TellNamesFault(*names_.fault(), messages_);
 }
@@ -76,6 +77,11 @@ void Names::NamesOnFile_DblClick(int row) {
     if (!entry) return;
     Q_EMIT picked(*entry);
     Q_EMIT computeRequested(*entry);
+}
+
+void Names::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Q_EMIT closedByUser();
 }
 
 }  // namespace tolvanis

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "birthdata/names_file.h"
+#include "birthdata/qt/record_loader.h"
 
 class QCheckBox;
 
@@ -22,6 +23,7 @@ class Names : public QWidget {
     Names(std::string file, NamesState& state, Messages& messages, QWidget* parent = nullptr);
 
     // Reads the file and restores a locked position. A fault is told after the good records are in the list.
+    // The records of a large file come into the list later, when the event loop runs.
     void Load();
 
     // Makes another file the current one.
@@ -37,12 +39,18 @@ class Names : public QWidget {
     void editListRequested();
     void citiesRequested();
 
+    void closedByUser();
+
   public Q_SLOTS:
     void Check1_Click();
     void NamesOnFile_Click(int row);
     void NamesOnFile_DblClick(int row);
 
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
   private:
+    void Show(RecordList names);
     std::optional<NatalEntry> Pick(int row);
 
     std::string file_;
@@ -50,6 +58,7 @@ class Names : public QWidget {
     Messages& messages_;
     RecordList names_;
     RecordListPane* pane_;
+    RecordLoader loader_;
     QCheckBox* Check1_;
 };
 

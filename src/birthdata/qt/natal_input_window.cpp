@@ -4,11 +4,11 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "platform/qt/bevel_frame.h"
 #include "platform/qt/entry_box.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
@@ -27,6 +27,7 @@ InputD::InputD(const Options& options, Messages& messages, Clock clock)
     layout->addWidget(MakeEntryFrame());
     layout->addStretch();
     layout->addLayout(MakeButtonRow());
+    cmdOK_->setDefault(true);  // Enter in a box or on an option
     SetTabOrder();
     connect(optEast_, &QRadioButton::clicked, this, &InputD::optEast_Click);
     connect(optWest_, &QRadioButton::clicked, this, &InputD::optWest_Click);
@@ -68,7 +69,6 @@ QHBoxLayout* InputD::MakeButtonRow() {
     cmdNow_ = MakeButton("cmdNow", "NOW", &InputD::cmdNow_Click);
     cmdOK_ = MakeButton("cmdOK", "OK", &InputD::cmdOK_Click);
     cmdSave_ = MakeButton("cmdSave", "Save to disk", &InputD::cmdSave_Click);
-    cmdOK_->setDefault(true);
     auto* row = new QHBoxLayout;
     row->addWidget(Label2_);
     row->addStretch();
@@ -115,11 +115,7 @@ void InputD::AddPair(QGridLayout& grid, int row, const char* frame, QRadioButton
 }
 
 QPushButton* InputD::MakeButton(const char* name, const char* caption, void (InputD::*handler)()) {
-    auto* button = new QPushButton(QLatin1String(caption));
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QLatin1String(caption));
-    // Enter in a box or on an option presses OK, whichever button stands nearest.
-    button->setAutoDefault(false);
+    QPushButton* button = MakePushButton(name, QLatin1String(caption));
     connect(button, &QPushButton::clicked, this, handler);
     return button;
 }

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "platform/files.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/text.h"
 #include "text/columns.h"
@@ -145,7 +146,7 @@ QSize RecordListView::sizeHint() const {
 RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     : QWidget(parent),
       wording_(wording),
-      fileLabel_(new QLabel(this)),
+      fileLabel_(new ElidedLabel(this)),
       countLabel_(new QLabel(this)),
       problemLabel_(new QLabel(this)),
       find_(new QLineEdit(this)),
@@ -153,8 +154,6 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     list_->setObjectName(QLatin1String(wording.list));
     list_->setAccessibleName(QStringLiteral("List of %1").arg(QLatin1String(wording.many)));
     fileLabel_->setObjectName(QLatin1String(wording.label));
-    fileLabel_->setTextFormat(Qt::PlainText);
-    fileLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     countLabel_->setObjectName(QStringLiteral("lblCount"));
     problemLabel_->setObjectName(QStringLiteral("lblProblem"));
     problemLabel_->setTextFormat(Qt::PlainText);
@@ -192,23 +191,30 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     setFocusProxy(list_);
 }
 
-void RecordListPane::Show(const std::string& file, std::size_t count, RecordListModel::TextAt textAt,
-                          const std::string& problem) {
+void RecordListPane::ShowReading(const std::string& file) {
     fileLabel_->setText(ToQt(UpperCase(FileNamePart(file))));
     fileLabel_->setToolTip(ToQt(file).toHtmlEscaped());
+    list_->SetRecords(0, {});
+    problemLabel_->hide();
+    reading_ = true;
+    find_->clear();
+    FindTyped();
+}
+
+void RecordListPane::Show(std::size_t count, RecordListModel::TextAt textAt, const std::string& problem) {
     list_->SetRecords(count, std::move(textAt));
     problemLabel_->setText(ToQt(problem));
     problemLabel_->setVisible(!problem.empty());
-    const QSignalBlocker quietly(find_);
-    find_->clear();
-    matches_.clear();
-    ShowCount();
+    reading_ = false;
+    FindTyped();
 }
 
 void RecordListPane::ShowCount() {
     const auto count = list_->records().rowCount();
     const QLocale locale;
-    if (find_->text().trimmed().isEmpty()) {
+    if (reading_) {
+        countLabel_->setText(QStringLiteral("reading..."));
+    } else if (find_->text().trimmed().isEmpty()) {
         const char* what = count == 1 ? wording_.one : wording_.many;
         countLabel_->setText(locale.toString(count) + QLatin1Char(' ') + QLatin1String(what));
     } else if (matches_.empty()) {
@@ -221,7 +227,9 @@ void RecordListPane::ShowCount() {
 }
 
 void RecordListPane::FindTyped() {
-    matches_ = list_->records().Search().FindAll(find_->text().toStdString());
+    const QString typed = find_->text();
+    matches_.clear();
+    if (!typed.trimmed().isEmpty()) matches_ = list_->records().Search().FindAll(typed.toStdString());
     match_ = 0;
     GoToMatch(0);
 }

@@ -4,18 +4,20 @@
 #include <QAbstractListModel>
 #include <QElapsedTimer>
 #include <QListView>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "birthdata/record_search.h"
+#include "platform/qt/push_button.h"
 
 class QLabel;
 class QLineEdit;
 
 namespace tolvanis {
+
+class ElidedLabel;
 
 // Texts by row, fetched when they are painted, so that a long list costs nothing until it is seen.
 class RecordListModel : public QAbstractListModel {
@@ -92,9 +94,11 @@ class RecordListPane : public QWidget {
 
     RecordListView& list() { return *list_; }
 
-    // Shows the records of a file; `problem` is shown below the list unless empty.
-    void Show(const std::string& file, std::size_t count, RecordListModel::TextAt textAt,
-              const std::string& problem);
+    // Shows an empty list while a file is being read.
+    void ShowReading(const std::string& file);
+    // Shows the file's records; `problem` is shown below the list unless empty. What the user has typed into
+    // the box meanwhile is looked for.
+    void Show(std::size_t count, RecordListModel::TextAt textAt, const std::string& problem);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -104,11 +108,13 @@ class RecordListPane : public QWidget {
     void ShowCount();
 
     Wording wording_;
-    QLabel *fileLabel_, *countLabel_, *problemLabel_;
+    ElidedLabel* fileLabel_;
+    QLabel *countLabel_, *problemLabel_;
     QLineEdit* find_;
     RecordListView* list_;
     std::vector<std::size_t> matches_;
     int match_ = 0;
+    bool reading_ = false;
 };
 
 // The buttons below the list of a window that shows a file: `Command1` goes to the other list, `cmdEditList`
@@ -120,8 +126,7 @@ QLayout* ListButtons(Window& window, const QString& otherList, void (Window::*ot
     auto* row = new QHBoxLayout;
     const auto add = [&window](QBoxLayout* layout, const char* name, const QString& caption,
                                void (Window::*signal)()) {
-        auto* button = new QPushButton(caption, &window);
-        button->setObjectName(QLatin1String(name));
+        QPushButton* button = MakePushButton(name, caption);
         QObject::connect(button, &QPushButton::clicked, &window, signal);
         layout->addWidget(button);
     };

@@ -1,12 +1,12 @@
 #include "birthdata/qt/time_zone_window.h"
 
-#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "birthdata/qt/record_list_window.h"
 #include "platform/qt/listing_font.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
@@ -30,8 +30,7 @@ TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
     connect(lstTimeZones_, &RecordListView::rowPicked, this, &TimeZone::lstTimeZones_Click);
     connect(lstTimeZones_, &RecordListView::rowOpened, this, &TimeZone::lstTimeZones_Click);
 
-    auto* Command1 = new QPushButton(QStringLiteral("&Quit"), this);
-    Command1->setObjectName(QStringLiteral("Command1"));
+    QPushButton* Command1 = MakePushButton("Command1", QStringLiteral("&Quit"));
     connect(Command1, &QPushButton::clicked, this, &QWidget::close);
 
     auto* buttons = new QHBoxLayout;

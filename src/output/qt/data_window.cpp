@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "output/text_files.h"
 #include "platform/qt/hourglass.h"
@@ -32,6 +33,38 @@ QRect PlaceOf(const DataWindowContext& context) {
     wanted.setSize(wanted.size().expandedTo(kSmallestSize));
     return BroughtIntoView(wanted, UsableScreens());
 }
+
+// Where the reader is in a text: the lines in view and the marked part, kept over a change of letters.
+class ReaderPlace {
+  public:
+    explicit ReaderPlace(const QPlainTextEdit& area)
+        : text_(area.toPlainText()),
+          anchor_(area.textCursor().anchor()),
+          position_(area.textCursor().position()),
+          line_(area.verticalScrollBar()->value()),
+          column_(area.horizontalScrollBar()->value() / LetterWidth(area)) {}
+
+    // Does nothing where the area shows another text by now.
+    void Restore(QPlainTextEdit& area) const {
+        if (!area.toPlainText().startsWith(text_)) return;
+        QTextCursor cursor = area.textCursor();
+        cursor.setPosition(anchor_);
+        cursor.setPosition(position_, QTextCursor::KeepAnchor);
+        area.setTextCursor(cursor);
+        area.verticalScrollBar()->setValue(line_);
+        area.horizontalScrollBar()->setValue(qRound(column_ * LetterWidth(area)));
+    }
+
+  private:
+    static double LetterWidth(const QPlainTextEdit& area) {
+        return QFontMetricsF(area.font()).horizontalAdvance(QLatin1Char('0'));
+    }
+
+    QString text_;
+    int anchor_, position_;
+    int line_;       // the first one in view
+    double column_;  // the first one in view
+};
 
 }  // namespace
 
@@ -126,28 +159,31 @@ void OutputD1::RefreshView() {
     EnableFontItems();
 }
 
-void OutputD1::mnuIncrease_Click() {
-    IncreaseFont(context_.view, context_.fontStep);
+void OutputD1::ShowInNewFont() {
+    const ReaderPlace place(*Text1_);
     ApplyFont();
     RefreshView();
+    place.Restore(*Text1_);
+}
+
+void OutputD1::mnuIncrease_Click() {
+    IncreaseFont(context_.view, context_.fontStep);
+    ShowInNewFont();
 }
 
 void OutputD1::mnuDecrease_Click() {
     DecreaseFont(context_.view, context_.fontStep);
-    ApplyFont();
-    RefreshView();
+    ShowInNewFont();
 }
 
 void OutputD1::mnuBold_Click(bool ticked) {
     context_.view.FontBold = FontFlag(ticked);
-    ApplyFont();
-    RefreshView();
+    ShowInNewFont();
 }
 
 void OutputD1::mnuItalic_Click(bool ticked) {
     context_.view.FontItalic = FontFlag(ticked);
-    ApplyFont();
-    RefreshView();
+    ShowInNewFont();
 }
 
 bool OutputD1::BufferHasData(const std::string& otherwise) {

@@ -68,6 +68,7 @@ class OutputD1 : public QMainWindow {
     void BuildMenu();
     void ApplyFont();
     void RefreshView();
+    void ShowInNewFont();  // the reader stays where he is in the text
     void EnableFontItems();
     void KeepPlacement();
     bool BufferHasData(const std::string& otherwise);

@@ -1,6 +1,7 @@
 #pragma once
 // The hourglass pointer.
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace tolvanis {
