@@ -2,24 +2,31 @@
 
 #include <QRect>
 #include <algorithm>
+#include <limits>
 
 #include "platform/qt/external_program.h"
-#include "platform/qt/placement.h"
 
 namespace tolvanis {
 namespace {
 
-constexpr int kGap = 8;           // pixels between neighbouring windows
+constexpr int kGap = 10;          // pixels between neighbouring windows
 constexpr int kListLetters = 46;  // width of a list window with its frame
 
 // Windows close inside their own signals, so they are deleted later.
 template <typename Window>
-void Close(QPointer<Window>& window) {
+void Close(QPointer<Window>& window, KeptPlace& place) {
     if (window == nullptr) return;
+    place.Note(*window);
     window->disconnect();
     window->hide();
     window->deleteLater();
     window.clear();
+}
+
+// Where a window of this size begins at the bottom of the screen.
+int LowestTop(const QSize& size) {
+    const QRect lowest(QPoint(0, std::numeric_limits<std::int16_t>::max()), size);
+    return WhollyInView(lowest, UsableScreens().mid(0, 1)).top();
 }
 
 }  // namespace
@@ -54,18 +61,21 @@ void BirthDesk::Show(const QRect& anchor) {
         // The list beside it belongs to the room it needs, as far as the screen has it.
         QRect wanted(anchor.bottomLeft(), input_->sizeHint());
         wanted.setWidth(wanted.width() + kGap + input_->fontMetrics().averageCharWidth() * kListLetters);
-        firstPlace_ = WhollyInView(wanted, UsableScreens()).topLeft();
+        const QRect place = WhollyInView(wanted, UsableScreens());
+        firstPlace_ = place.topLeft();
+        // Where there is no room for both side by side, the list gets the room above the buttons.
+        if (place.width() < wanted.width()) firstPlace_.setY(LowestTop(input_->sizeHint()));
         PlaceWindow(*input_, QRect(firstPlace_, input_->sizeHint()));
     }
     BringForward(*input_);
-    Close(cities_);
+    CloseCities();
     OpenNames();
 }
 
 void BirthDesk::Hide() {
     input_->hide();
-    Close(names_);
-    Close(cities_);
+    CloseNames();
+    CloseCities();
 }
 
 bool BirthDesk::IsShown() const {
@@ -74,7 +84,15 @@ bool BirthDesk::IsShown() const {
 }
 
 void BirthDesk::CloseTimeZones() {
-    Close(zones_);
+    Close(zones_, zonesPlace_);
+}
+
+void BirthDesk::CloseNames() {
+    Close(names_, listPlace_);
+}
+
+void BirthDesk::CloseCities() {
+    Close(cities_, listPlace_);
 }
 
 // The frame of the natal input, also before the window system has told how large its borders are.
@@ -83,44 +101,36 @@ QRect BirthDesk::InputPlace() const {
     return known ? input_->frameGeometry() : QRect(firstPlace_, input_->size());
 }
 
-void BirthDesk::PlaceBeside(QWidget& window, const QRect& neighbour) const {
+// The place on the right of a neighbour, where it is free.
+QRect BirthDesk::Beside(const QWidget& window, const QRect& neighbour) const {
     QRect wanted(neighbour.topRight() + QPoint(kGap, 0), window.sizeHint());
     wanted.setHeight(std::max(wanted.height(), input_->height()));
-    QRect right = WhollyInView(wanted, UsableScreens());
-    if (const int covered = neighbour.right() + 1 - right.left(); covered > 0) {
-        right.setLeft(right.left() + std::min(covered, right.width() - window.minimumSizeHint().width()));
-    }
-    // Where there is no room on the right it goes to the left, unless it would cover the entry there.
-    wanted.moveLeft(neighbour.left() - kGap - wanted.width());
-    const QRect left = WhollyInView(wanted, UsableScreens());
-    const bool goesLeft = right.left() <= neighbour.right() && left.right() < neighbour.left() &&
-                          !left.intersects(InputPlace());
-    PlaceWindow(window, goesLeft ? left : right);
+    return wanted;
 }
 
 void BirthDesk::OpenNames() {
-    Close(names_);
+    CloseNames();
     names_ = new Names(state_.settings.DataFile, state_.names, messages_);
     connect(names_, &Names::picked, input_.get(), &InputD::SetEntry);
     connect(names_, &Names::computeRequested, this, [this] {
-        Close(names_);
+        CloseNames();
         Q_EMIT computeRequested();
     });
     connect(names_, &Names::changeListRequested, this, &BirthDesk::ChangeNamesList);
     connect(names_, &Names::editListRequested, this,
             [this] { Q_EMIT editorRequested(EditorUse::NameEdit, PathFromText(state_.settings.DataFile)); });
     connect(names_, &Names::citiesRequested, this, [this] {
-        Close(names_);
+        CloseNames();
         OpenCities();
     });
     connect(names_, &Names::closedByUser, this, &BirthDesk::windowClosed);
-    PlaceBeside(*names_, InputPlace());
+    listPlace_.Apply(*names_, Beside(*names_, InputPlace()));
     BringForward(*names_);
     names_->Load();
 }
 
 void BirthDesk::OpenCities() {
-    Close(cities_);
+    CloseCities();
     cities_ = new Geograph(state_.settings.GeoDataFile, messages_);
     connect(cities_, &Geograph::placePicked, this, &BirthDesk::FillInPlace);
     connect(cities_, &Geograph::changeListRequested, this, &BirthDesk::ChangeCitiesList);
@@ -128,11 +138,11 @@ void BirthDesk::OpenCities() {
         Q_EMIT editorRequested(EditorUse::LongLat, PathFromText(state_.settings.GeoDataFile));
     });
     connect(cities_, &Geograph::namesRequested, this, [this] {
-        Close(cities_);
+        CloseCities();
         OpenNames();
     });
     connect(cities_, &Geograph::closedByUser, this, &BirthDesk::windowClosed);
-    PlaceBeside(*cities_, InputPlace());
+    listPlace_.Apply(*cities_, Beside(*cities_, InputPlace()));
     BringForward(*cities_);
     cities_->Load();
 }
@@ -146,10 +156,10 @@ void BirthDesk::OpenTimeZones() {
             entry.east = east;
             input_->SetEntry(entry);
         });
-        const QWidget* list = cities_ != nullptr ? static_cast<QWidget*>(cities_) : names_;
-        PlaceBeside(*zones_, list != nullptr ? list->frameGeometry() : InputPlace());
-        BringForward(*zones_);
         zones_->Load();
+        const QWidget* list = cities_ != nullptr ? static_cast<QWidget*>(cities_) : names_;
+        const bool listShown = list != nullptr && list->isVisible();
+        zonesPlace_.Apply(*zones_, Beside(*zones_, listShown ? list->frameGeometry() : InputPlace()));
     }
     BringForward(*zones_);
 }
@@ -158,7 +168,7 @@ void BirthDesk::SaveEntry() {
     const auto chooseFile = [this] { return dialogs_.ChooseFile("*.FIL", state_.settings.DataFile); };
     if (!SaveRecord(input_->Entry(), chooseFile, messages_)) return;
     state_.names.justSaved = true;
-    Close(cities_);
+    CloseCities();
     OpenNames();
 }
 

@@ -16,6 +16,7 @@
 #include "birthdata/qt/time_zone_window.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
+#include "platform/qt/placement.h"
 
 namespace tolvanis {
 
@@ -63,14 +64,18 @@ class BirthDesk : public QObject {
     void ChangeNamesList();
     void ChangeCitiesList();
     QRect InputPlace() const;
-    void PlaceBeside(QWidget& window, const QRect& neighbour) const;
+    QRect Beside(const QWidget& window, const QRect& neighbour) const;
+    void CloseNames();
+    void CloseCities();
 
     ProgramState& state_;
     Messages& messages_;
     FileDialogs& dialogs_;
     AtlasLookup atlas_;
     std::unique_ptr<InputD> input_;
-    QPoint firstPlace_;  // where the natal input has been put first
+    QPoint firstPlace_;    // where the natal input has been put first
+    KeptPlace listPlace_;  // of names and cities, which take turns
+    KeptPlace zonesPlace_;
     QPointer<Names> names_;
     QPointer<Geograph> cities_;
     QPointer<TimeZone> zones_;

@@ -39,7 +39,7 @@ QWidget* InputD::MakeEntryFrame() {
     auto* frame = new BevelFrame;
     auto* grid = new QGridLayout(frame);
     const int room = fontMetrics().height();
-    grid->setContentsMargins(room, room, room, room);
+    grid->setContentsMargins(room / 2, room, room / 2, room);
     grid->setHorizontalSpacing(room / 2);
     grid->setVerticalSpacing(room / 2);
     Label1_ = MakeButton("Label1", "TZ Help", &InputD::Label1_Click);
@@ -54,7 +54,9 @@ QWidget* InputD::MakeEntryFrame() {
     txtBirthMinute_ = AddBox(*grid, 2, 2, "txtBirthMinute", "Birth Minute", kDigits, 2);
     AddPair(*grid, 2, "Am/Pm", optAM_, "optAM", "AM", optPM_, "optPM", "PM");
     txtTZ_ = AddBox(*grid, 3, 0, "txtTZ", "Time Zone . . .", kZoneCharacters, 6);
-    grid->addWidget(Label1_, 3, 2, 1, 2, Qt::AlignLeft);
+    // The wide box must not push the columns apart: the window has to fit on small screens.
+    grid->addWidget(txtTZ_, 3, 1, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->addWidget(Label1_, 3, 3, 1, 3, Qt::AlignLeft);
     txtLongDeg_ = AddBox(*grid, 4, 0, "txtLongDeg", "Long Degrees", kDigits, 3);
     txtLongMin_ = AddBox(*grid, 4, 2, "txtLongMin", "Long Minutes", kDigits, 2);
     AddPair(*grid, 4, "Ea/We", optEast_, "optEast", "East", optWest_, "optWest", "West");

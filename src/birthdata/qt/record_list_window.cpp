@@ -135,6 +135,12 @@ void RecordListView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void RecordListView::KeepWidthOfTexts() {
+    const int most = fontMetrics().horizontalAdvance(QLatin1Char('0')) * 64;
+    const int room = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    setMinimumWidth(std::min(sizeHintForColumn(0), most) + room);
+}
+
 // Room for a remembered entry and the twelve above it.
 QSize RecordListView::sizeHint() const {
     constexpr int kRows = 18;

@@ -57,6 +57,9 @@ class RecordListView : public QListView {
     void SelectRow(int row);             // with its neighbours in view
     void SetPosition(int top, int row);  // selects a row with `top` as the first visible one
 
+    // Makes the list at least as wide as its widest text. For short lists: it looks at every text.
+    void KeepWidthOfTexts();
+
     void keyboardSearch(const QString& typed) override;
     QSize sizeHint() const override;
 

@@ -1,7 +1,5 @@
 #include "birthdata/qt/time_zone_window.h"
 
-#include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "birthdata/qt/record_list_window.h"
@@ -19,14 +17,9 @@ TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
     setObjectName(QStringLiteral("TimeZone"));
     setWindowTitle(QStringLiteral("Time Zones"));
     constexpr double kPoints = 10.0;
-    constexpr int kColumns = 48;
     lstTimeZones_->setObjectName(QStringLiteral("lstTimeZones"));
     lstTimeZones_->setAccessibleName(QStringLiteral("List of time zones"));
     lstTimeZones_->setFont(ListingFont(kPoints));
-    const int textWidth =
-        QFontMetrics(lstTimeZones_->font()).horizontalAdvance(QString(kColumns, QLatin1Char('0')));
-    lstTimeZones_->setMinimumWidth(textWidth + lstTimeZones_->verticalScrollBar()->sizeHint().width() +
-                                   4 * lstTimeZones_->frameWidth());
     connect(lstTimeZones_, &RecordListView::rowPicked, this, &TimeZone::lstTimeZones_Click);
     connect(lstTimeZones_, &RecordListView::rowOpened, this, &TimeZone::lstTimeZones_Click);
 
@@ -45,6 +38,7 @@ TimeZone::TimeZone(Path file, Messages& messages, QWidget* parent)
 void TimeZone::Load() {
     zones_ = ReadTimeZones(file_);
     lstTimeZones_->SetRecords(zones_.size(), [this](std::size_t row) { return TimeZoneLineAt(zones_, row); });
+    lstTimeZones_->KeepWidthOfTexts();
     if (zones_.fault()) TellTimeZoneFault(*zones_.fault(), messages_);
 }
 

@@ -17,7 +17,8 @@ class TimeZone : public QWidget {
     // `file` is the table's path. Nothing is read before Load.
     TimeZone(Path file, Messages& messages, QWidget* parent = nullptr);
 
-    // Reads the table. A fault is told after the good zones are in the list.
+    // Reads the table; the window then is at least as wide as its lines. A fault is told after the good zones
+    // are in the list.
     void Load();
 
   Q_SIGNALS:

@@ -1,11 +1,16 @@
 #include "platform/qt/placement.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+#include <vector>
 
 namespace tolvanis {
 namespace {
@@ -23,10 +28,85 @@ int VisibleArea(const QRect& window, const QRect& screen) {
     return shown.isEmpty() ? 0 : shown.width() * shown.height();
 }
 
+constexpr int kGap = 8;  // pixels between neighbouring windows
+
+int CaptionHeight() {
+    return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+}
+
 QRect ScreenOf(const QRect& window, const QList<QRect>& screens) {
     return *std::max_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
         return VisibleArea(window, a) < VisibleArea(window, b);
     });
+}
+
+// A part of one axis of the screen, in pixels; both ends belong to it.
+struct Stretch {
+    int first = 0, last = 0;
+};
+
+Stretch Horizontally(const QRect& rect) {
+    return {rect.left(), rect.right()};
+}
+
+Stretch Vertically(const QRect& rect) {
+    return {rect.top(), rect.bottom()};
+}
+
+// What stands along one axis.
+std::vector<Stretch> Along(Stretch (*axis)(const QRect&), const QList<QRect>& rects) {
+    std::vector<Stretch> shown;
+    for (const QRect& rect : rects) shown.push_back(axis(rect));
+    return shown;
+}
+
+struct WantedStretch {
+    int start = 0, length = 0, shortest = 0;
+};
+
+// Where a window can begin and end along one axis so that it starts where it is wanted, or at the edge of the
+// screen or of something that is shown.
+std::vector<Stretch> Stretches(const WantedStretch& wanted, const Stretch& screen,
+                               const std::vector<Stretch>& shown) {
+    std::vector<int> starts = {wanted.start, screen.first};
+    std::vector<int> ends = {screen.last};
+    for (const Stretch& other : shown) {
+        starts.push_back(other.last + kGap);
+        ends.push_back(other.first - kGap);
+    }
+    const int shortest = std::min(wanted.shortest, screen.last - screen.first + 1);
+    std::vector<Stretch> found;
+    const auto add = [&](int first, int last) {
+        if (first >= screen.first && last <= screen.last && last - first + 1 >= shortest)
+            found.push_back({first, last});
+    };
+    for (const int end : ends) {
+        for (const int start : starts) add(start, std::min(end, start + wanted.length - 1));
+        add(end - wanted.length + 1, end);
+        add(end - shortest + 1, end);
+    }
+    return found;
+}
+
+int CoveredArea(const QRect& place, const QList<QRect>& others) {
+    int area = 0;
+    for (const QRect& other : others) area += VisibleArea(place, other);
+    return area;
+}
+
+// A window's frame and controls, also before the window system has told how large its borders are.
+void AddShown(ShownWindows& shown, const QWidget& window) {
+    const bool framed = window.frameGeometry().size() != window.size();
+    const QPoint inside(0, framed ? 0 : CaptionHeight());
+    shown.frames.append(framed ? window.frameGeometry()
+                               : QRect(window.pos(), window.size() + QSize(0, CaptionHeight())));
+    const auto add = [&](const QWidget* control) {
+        const QRect rect(control->mapToGlobal(QPoint()) + inside, control->size());
+        if (control->isVisible()) shown.controls.append(rect);
+    };
+    for (const auto* button : window.findChildren<QPushButton*>()) add(button);
+    for (const auto* box : window.findChildren<QCheckBox*>()) add(box);
+    for (const auto* menu : window.findChildren<QMenuBar*>()) add(menu);
 }
 
 }  // namespace
@@ -64,11 +144,65 @@ QRect WhollyInView(QRect wanted, const QList<QRect>& screens) {
     return wanted;
 }
 
+QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows& others,
+                 const QList<QRect>& screens) {
+    const QRect start = WhollyInView(wanted, screens);
+    if (screens.isEmpty() || CoveredArea(start, others.frames) == 0) return start;
+    const QRect screen = ScreenOf(start, screens);
+    const auto horizontal = Stretches({wanted.left(), wanted.width(), smallest.width()},
+                                      {screen.left(), screen.right()}, Along(&Horizontally, others.frames));
+    const auto vertical =
+        Stretches({wanted.top(), wanted.height(), smallest.height()}, {screen.top(), screen.bottom()},
+                  Along(&Vertically, others.frames + others.controls));
+    const auto cost = [&](const QRect& place) {
+        return std::tuple(CoveredArea(place, others.controls), CoveredArea(place, others.frames),
+                          -place.width() * place.height(),
+                          (place.topLeft() - wanted.topLeft()).manhattanLength());
+    };
+    QRect best = start;
+    for (const Stretch& across : horizontal) {
+        for (const Stretch& down : vertical) {
+            const QRect place(QPoint(across.first, down.first), QPoint(across.last, down.last));
+            if (cost(place) < cost(best)) best = place;
+        }
+    }
+    return best;
+}
+
+void PlaceBesideOthers(QWidget& window, const QRect& wanted) {
+    ShownWindows others;
+    for (const QWidget* other : QApplication::topLevelWidgets()) {
+        if (other != &window && other->isVisible() && !other->isMinimized()) AddShown(others, *other);
+    }
+    QList<QRect> screens = UsableScreens();
+    for (QRect& screen : screens) screen.setHeight(screen.height() + CaptionHeight());
+    const QSize caption(0, CaptionHeight());
+    const QRect frame(wanted.topLeft(), wanted.size() + caption);
+    // A window that shows next to nothing is of no use: it shrinks by half of what it can.
+    const QSize smallest = (window.minimumSizeHint() + wanted.size()) / 2;
+    const QRect place = ClearPlace(frame, smallest + caption, others, screens);
+    PlaceWindow(window, QRect(place.topLeft(), place.size() - caption));
+}
+
+void KeptPlace::Apply(QWidget& window, const QRect& otherwise) {
+    if (wish_) {
+        PlaceWindow(window, BroughtIntoView(*wish_, UsableScreens()));
+    } else {
+        PlaceBesideOthers(window, otherwise);
+    }
+    given_ = QRect(window.pos(), window.size());
+}
+
+void KeptPlace::Note(const QWidget& window) {
+    if (window.isMinimized() || window.isMaximized() || window.isFullScreen()) return;
+    const QRect place(window.pos(), window.size());
+    if (place != given_) wish_ = place;
+}
+
 QList<QRect> UsableScreens() {
-    const int caption = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
     QList<QRect> areas;
     for (const QScreen* screen : QGuiApplication::screens()) {
-        areas.append(screen->availableGeometry().adjusted(0, 0, 0, -caption));
+        areas.append(screen->availableGeometry().adjusted(0, 0, 0, -CaptionHeight()));
     }
     return areas;
 }

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QRect>
+#include <optional>
 
 class QWidget;
 
@@ -23,6 +24,35 @@ QRect BroughtIntoView(const QRect& wanted, const QList<QRect>& screens);
 
 // The rectangle, moved onto the screen that shows most of it and cut where it is larger.
 QRect WhollyInView(QRect wanted, const QList<QRect>& screens);
+
+// What a new window had better not cover.
+struct ShownWindows {
+    QList<QRect> frames;
+    QList<QRect> controls;  // their push buttons, check boxes and menu bars
+};
+
+// The rectangle for a new window where it covers as little as can be of others' controls, then of their
+// windows. Where several do, it keeps its size as far as can be and comes as near as can be to where it is
+// wanted. It becomes no smaller than `smallest` and stays on one screen.
+QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows& others,
+                 const QList<QRect>& screens);
+
+// Places a window that is not shown yet so, beside the program's others. The position is that of its frame,
+// the size that of its inside.
+void PlaceBesideOthers(QWidget& window, const QRect& wanted);
+
+// The place that the user has given a window, kept from one window to the next of its kind.
+class KeptPlace {
+  public:
+    // Places the window where the user wants it, or else beside the others.
+    void Apply(QWidget& window, const QRect& otherwise);
+    // To be called before the window goes.
+    void Note(const QWidget& window);
+
+  private:
+    QRect given_;  // by the program
+    std::optional<QRect> wish_;
+};
 
 // The areas of all screens in which the insides of windows fit below their captions, the primary one first.
 QList<QRect> UsableScreens();
