@@ -12,9 +12,26 @@
 namespace tolvanis {
 namespace {
 
-// Frames the item that the arrow keys have reached; many styles mark only one whose menu is open.
+// A menu bar that shows where the keyboard is as soon as it has it: the first item is marked, and the arrow
+// keys go on from there.
 class MainMenuBar : public QMenuBar {
+  public:
+    // Qt gives a menu bar the keyboard when the Alt key is pressed and let go, and in no other way.
+    void MarkFirstItem() {
+        if (activeAction() != nullptr) return;
+        for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent alt(type, Qt::Key_Alt, type == QEvent::KeyRelease ? Qt::NoModifier : Qt::AltModifier);
+            QCoreApplication::sendEvent(window(), &alt);
+        }
+    }
+
   protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QMenuBar::focusInEvent(event);
+        MarkFirstItem();
+        update();
+    }
+    // Many styles mark only an item whose menu is open.
     void paintEvent(QPaintEvent* event) override {
         QMenuBar::paintEvent(event);
         if (!hasFocus() || activeAction() == nullptr) return;
@@ -22,10 +39,6 @@ class MainMenuBar : public QMenuBar {
         QPainter painter(this);
         painter.setPen(QPen(palette().color(QPalette::Highlight), kLine));
         painter.drawRect(actionGeometry(activeAction()).adjusted(1, 1, -1, -1));
-    }
-    void focusInEvent(QFocusEvent* event) override {
-        QMenuBar::focusInEvent(event);
-        update();
     }
 };
 
@@ -95,16 +108,10 @@ void TOLVANIS::ShowItem(const std::string& control) {
     ItemOf(control)->setVisible(true);
 }
 
-// A menu bar takes the keyboard when the Alt key is pressed and let go, and in no other way.
 void TOLVANIS::FocusMenu() {
     BringForward(*this);
-    if (menuBar()->activeAction() != nullptr) return;
     menuBar()->setFocus();
-    for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-        const auto modifiers = type == QEvent::KeyRelease ? Qt::NoModifier : Qt::AltModifier;
-        QKeyEvent alt(type, Qt::Key_Alt, modifiers);
-        QCoreApplication::sendEvent(this, &alt);
-    }
+    if (menuBar()->hasFocus()) static_cast<MainMenuBar*>(menuBar())->MarkFirstItem();
 }
 
 void TOLVANIS::closeEvent(QCloseEvent* event) {

@@ -8,6 +8,8 @@
 #include <QStyle>
 
 #include "platform/directory_list.h"
+#include "platform/qt/elided_label.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
@@ -24,10 +26,27 @@ bool HoldsFiles(const QStorageInfo& volume) {
            !below("/run/") && !below("/snap") && !below("/boot");
 }
 
-QListWidgetItem* DirectoryItem(const QString& caption, const Path& path) {
-    auto* item = new QListWidgetItem(caption);
+// A list in which a long name goes on in a second line; what still has no room is in the tool tip.
+QListWidget* MakeList() {
+    auto* list = new QListWidget;
+    const int side = list->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    list->setIconSize({side, side});
+    list->setWordWrap(true);
+    list->setResizeMode(QListView::Adjust);
+    list->setTextElideMode(Qt::ElideMiddle);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setMinimumWidth(list->fontMetrics().averageCharWidth() * 26);
+    // Two lists share the window's width evenly, whatever they hold.
+    list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    return list;
+}
+
+void AddItem(QListWidget& list, QStyle::StandardPixmap icon, const std::string& name, int level,
+             const Path& path) {
+    const QString indent(2 * level, QLatin1Char(' '));
+    auto* item = new QListWidgetItem(list.style()->standardIcon(icon), indent + ToQt(name), &list);
     item->setData(kPathRole, ToQt(path.string()));
-    return item;
+    item->setToolTip(ToQt(name).toHtmlEscaped());
 }
 
 }  // namespace
@@ -45,10 +64,10 @@ SelectFIle::SelectFIle(const Path& applicationDirectory, const std::string& patt
 
 void SelectFIle::Build() {
     drvList_ = new QComboBox;
-    dirList_ = new QListWidget;
-    filList_ = new QListWidget;
-    lblPath_ = new QLabel;
-    lblPath_->setTextFormat(Qt::PlainText);
+    drvList_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    dirList_ = MakeList();
+    filList_ = MakeList();
+    lblPath_ = new ElidedLabel;
     QPushButton* select = MakePushButton("cmdSelect", QStringLiteral("Select"));
     QPushButton* cancel = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
     const auto name = [](QWidget* widget, const char* object, const char* accessible) {
@@ -88,8 +107,7 @@ void SelectFIle::Build() {
     setTabOrder(drvList_, select);
     setTabOrder(select, cancel);
     const int letter = fontMetrics().averageCharWidth();
-    filList_->setMinimumWidth(letter * 26);
-    resize(letter * 72, fontMetrics().lineSpacing() * 24);
+    ResizeToFit(*this, {letter * 84, fontMetrics().lineSpacing() * 24});
 
     connect(select, &QPushButton::clicked, this, &SelectFIle::cmdSelect_Click);
     connect(cancel, &QPushButton::clicked, this, &SelectFIle::cmdCancel_Click);
@@ -114,7 +132,7 @@ void SelectFIle::FillDrives() {
 void SelectFIle::ShowDirectory(const Path& directory) {
     directory_ = directory;
     lblPath_->setText(ToQt(directory_.string()));
-    lblPath_->setToolTip(lblPath_->text());
+    lblPath_->setToolTip(lblPath_->text().toHtmlEscaped());
     FillDirectories();
     FillFiles();
 }
@@ -122,23 +140,16 @@ void SelectFIle::ShowDirectory(const Path& directory) {
 // The directories from the root down to the one shown, then those inside it, each level set further in.
 void SelectFIle::FillDirectories() {
     dirList_->clear();
-    const QIcon closed = style()->standardIcon(QStyle::SP_DirIcon);
-    const QIcon open = style()->standardIcon(QStyle::SP_DirOpenIcon);
     Path path;
-    QString indent;
+    int level = 0;
     for (const Path& part : directory_) {
         path /= part;
         if (part.empty()) continue;
-        auto* item = DirectoryItem(indent + ToQt(part.string()), path);
-        item->setIcon(open);
-        dirList_->addItem(item);
-        indent += QLatin1String("  ");
+        AddItem(*dirList_, QStyle::SP_DirIcon, part.string(), level++, path);
     }
     dirList_->setCurrentRow(dirList_->count() - 1);
     for (const std::string& name : DirectoriesIn(directory_)) {
-        auto* item = DirectoryItem(indent + ToQt(name), directory_ / name);
-        item->setIcon(closed);
-        dirList_->addItem(item);
+        AddItem(*dirList_, QStyle::SP_DirIcon, name, level, directory_ / name);
     }
     dirList_->scrollToItem(dirList_->currentItem());
 }
@@ -146,7 +157,7 @@ void SelectFIle::FillDirectories() {
 void SelectFIle::FillFiles() {
     filList_->clear();
     const std::vector<std::string> names = FilesIn(directory_, pattern_);
-    for (const std::string& name : names) filList_->addItem(ToQt(name));
+    for (const std::string& name : names) AddItem(*filList_, QStyle::SP_FileIcon, name, 0, directory_ / name);
     if (names.empty()) return;
     filList_->setCurrentRow(static_cast<int>(IndexOfPathEnd(names, currentPath_)));
 }

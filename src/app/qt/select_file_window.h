@@ -7,11 +7,12 @@
 #include "platform/files.h"
 
 class QComboBox;
-class QLabel;
 class QListWidget;
 class QListWidgetItem;
 
 namespace tolvanis {
+
+class ElidedLabel;
 
 // A modal dialog of drives, directories and the files that fit a pattern. It starts at the application
 // directory.
@@ -45,7 +46,7 @@ class SelectFIle : public QDialog {
     QComboBox* drvList_;
     QListWidget* dirList_;
     QListWidget* filList_;
-    QLabel* lblPath_;
+    ElidedLabel* lblPath_;
 };
 
 }  // namespace tolvanis

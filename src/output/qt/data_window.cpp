@@ -25,13 +25,21 @@ constexpr const char* kOverflowText =
 
 constexpr QSize kSmallestSize = {200, 100};
 
+bool HasDefaultPlace(const DataViewSettings& view) {
+    const DataViewSettings standard;
+    return view.DataTop == standard.DataTop && view.DataLeft == standard.DataLeft &&
+           view.DataHeight == standard.DataHeight && view.DataWidth == standard.DataWidth;
+}
+
 QRect PlaceOf(const DataWindowContext& context) {
     const DataViewSettings& view = context.view;
     QRect wanted = ToPixels(
         {double(view.DataTop), double(view.DataLeft), double(view.DataHeight), double(view.DataWidth)},
         context.twipsPerPixel);
     wanted.setSize(wanted.size().expandedTo(kSmallestSize));
-    return BroughtIntoView(wanted, UsableScreens());
+    // Only its user puts the window partly beside the screen.
+    return HasDefaultPlace(view) ? WhollyInView(wanted, UsableScreens())
+                                 : BroughtIntoView(wanted, UsableScreens());
 }
 
 // Where the reader is in a text: the lines in view and the marked part, kept over a change of letters.

@@ -119,6 +119,54 @@ TEST_F(BirthDeskWindow, LeavingTheEditorShowsTheEditedList) {
     EXPECT_EQ(Find<QListView>(*desk().names(), "NamesOnFile").model()->rowCount(), 1);
 }
 
+TEST_F(BirthDeskWindow, AClosedListCanBeOpenedAgainBeforeTheFirstChart) {
+    for (const bool cities : {false, true}) {
+        ASSERT_TRUE(Open());
+        EXPECT_FALSE(Shown("mnuInputData"));
+        if (cities) {
+            Press(*desk().names(), "Command1");
+            Settle();
+            desk().cities()->close();
+        } else {
+            desk().names()->close();
+        }
+        ASSERT_TRUE(Shown("mnuInputData")) << cities;
+        Choose("mnuInputData");
+        EXPECT_TRUE(desk().names()->isVisible());
+    }
+}
+
+TEST_F(BirthDeskWindow, ListsOpenWhereTheirUserHasPutThem) {
+    const QRect place(311, 222, 333, 401);
+    const auto placeOf = [](const QWidget& window) { return QRect(window.pos(), window.size()); };
+    const QRect first = placeOf(*desk().names());
+    Choose("mnuInputData");
+    EXPECT_EQ(placeOf(*desk().names()), first);
+    PlaceWindow(*desk().names(), place);
+    ClickRow(*desk().names(), "NamesOnFile", "Albert Einstein", true);
+    Settle();
+    Choose("mnuInputData");
+    EXPECT_EQ(placeOf(*desk().names()), place);
+    Press(*desk().names(), "Command1");
+    Settle();
+    EXPECT_EQ(placeOf(*desk().cities()), place) << "the lists take turns in one place";
+    desk().cities()->showMaximized();
+    Press(*desk().cities(), "Command1");
+    Settle();
+    EXPECT_EQ(placeOf(*desk().names()), place);
+    PlaceWindow(*desk().names(), {9000, 9000, 333, 401});
+    desk().names()->close();
+    Choose("mnuInputData");
+    EXPECT_TRUE(UsableScreens().constFirst().intersects(desk().names()->geometry())) << "never out of sight";
+
+    Press(input(), "Label1");
+    desk().timeZones()->move(5, 250);
+    Choose("mnuHouseKoch");
+    Choose("mnuInputData");
+    Press(input(), "Label1");
+    EXPECT_EQ(desk().timeZones()->pos(), QPoint(5, 250));
+}
+
 TEST_F(BirthDeskWindow, AWrongEntryComesBackWithItsList) {
     Type(input(), "txtMonth", "13");
     PressOK();

@@ -5,10 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyle>
 
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
@@ -302,15 +305,24 @@ TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
     desktop_->dataWindow()->resize(500, 400);
     QCoreApplication::processEvents();
     desktop_->mainWindow().move(30, 15);
+    desktop_->mainWindow().resize(700, 40);
     desktop_->mainWindow().close();
     const Settings kept = state_.settings;
-    EXPECT_EQ(kept.dataView.DataLeft, 2250);
-    EXPECT_EQ(kept.dataView.DataWidth, 7500);
-    EXPECT_EQ(kept.TOLVANISLeft, 450.0);
+    const int caption = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    EXPECT_EQ(std::vector<int>({kept.dataView.DataTop, kept.dataView.DataLeft, kept.dataView.DataHeight,
+                                kept.dataView.DataWidth}),
+              std::vector<int>({1800, 2250, 6000, 7500}));
+    EXPECT_EQ(
+        std::vector<double>({kept.TOLVANISTop, kept.TOLVANISLeft, kept.TOLVANISHeight, kept.TOLVANISWidth}),
+        std::vector<double>({225, 450, 15.0 * (40 + caption), 10500}));
     ASSERT_TRUE(Open());
     EXPECT_EQ(state_.settings, kept);
     PressOK();
-    EXPECT_EQ(desktop_->dataWindow()->size(), QSize(500, 400));
+    EXPECT_EQ(QRect(desktop_->dataWindow()->pos(), desktop_->dataWindow()->size()),
+              QRect(150, 120, 500, 400));
+    EXPECT_EQ(QRect(desktop_->mainWindow().pos(), desktop_->mainWindow().size()), QRect(30, 15, 700, 40));
+    desktop_->dataWindow()->showMaximized();
+    QCoreApplication::processEvents();
     EXPECT_TRUE(Find<QAction>(*desktop_->dataWindow(), "mnuItalic").isChecked());
     desktop_->mainWindow().close();
     EXPECT_EQ(state_.settings, kept) << "windows that were not moved keep their settings to the twip";
@@ -385,6 +397,176 @@ TEST(Placement, BringsLostWindowsBack) {
     for (const auto& test : cases) EXPECT_EQ(BroughtIntoView(test.wanted, screens), test.want);
     EXPECT_EQ(WhollyInView({800, 700, 300, 200}, screens), QRect(700, 600, 300, 200));
     EXPECT_EQ(WhollyInView({1400, 100, 300, 200}, screens), QRect(1200, 100, 300, 200));
+}
+
+TEST(Placement, NewWindowsKeepOffTheButtonsOfOthers) {
+    const QSize smallest(200, 150);
+    // A menu along the top, and a window with a row of buttons at its bottom.
+    const QRect menu(0, 0, 640, 45), window(0, 180, 500, 300), buttons(10, 440, 480, 25);
+    const ShownWindows others = {{menu, window}, {menu, buttons}};
+    const QList<QRect> screen = {{0, 0, 640, 480}};
+    const QRect place = ClearPlace({508, 180, 250, 400}, smallest, others, screen);
+    EXPECT_TRUE(screen[0].contains(place));
+    EXPECT_FALSE(place.intersects(menu) || place.intersects(buttons));
+    EXPECT_GE(place.width(), smallest.width());
+    EXPECT_GE(place.height(), smallest.height());
+
+    const QList<QRect> large = {{0, 0, 1600, 1000}, {1600, 0, 800, 600}};
+    EXPECT_EQ(ClearPlace({508, 180, 250, 400}, smallest, others, large), QRect(508, 180, 250, 400));
+    const QRect moved = ClearPlace({400, 100, 250, 400}, smallest, others, large);
+    EXPECT_FALSE(moved.intersects(window) || moved.intersects(menu));
+    EXPECT_EQ(moved.size(), QSize(250, 400)) << "nothing shrinks where there is room";
+    EXPECT_EQ(moved.topLeft(), QPoint(507, 100)) << "and it goes no further than it must";
+    EXPECT_EQ(ClearPlace({10, 10, 900, 900}, {2000, 2000}, others, screen).size(), QSize(640, 480));
+    EXPECT_EQ(ClearPlace({10, 10, 90, 90}, smallest, others, {}), QRect(10, 10, 90, 90));
+}
+
+TEST_F(DesktopWindow, NoWindowOpensOverAnothersButtons) {
+    const auto place = [](const QWidget& window) { return QRect(window.pos(), window.size()); };
+    Press(input(), "Label1");
+    const QWidget* const windows[] = {&desktop_->mainWindow(), &input(), desktop_->birthDesk().names(),
+                                      desktop_->birthDesk().timeZones()};
+    for (const QWidget* front : windows) {
+        for (const QWidget* behind : windows) {
+            for (const auto* button : behind->findChildren<QPushButton*>()) {
+                const QRect at(button->mapToGlobal(QPoint()), button->size());
+                EXPECT_TRUE(front == behind || !place(*front).intersects(at))
+                    << front->objectName().toStdString() << " covers " << button->text().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(DesktopWindow, EscapeLeadsToAMenuThatTheArrowsMoveIn) {
+    auto* menu = desktop_->mainWindow().menuBar();
+    const QImage before = menu->grab().toImage();
+    for (int time = 0; time < 2; ++time) {
+        QTest::keyClick(&Find<QLineEdit>(input(), "txtName"), Qt::Key_Escape);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop_->mainWindow()));
+        EXPECT_TRUE(menu->hasFocus());
+        ASSERT_NE(menu->activeAction(), nullptr) << time;
+        EXPECT_EQ(menu->activeAction()->objectName(), QStringLiteral("mnuFile"));
+        EXPECT_NE(menu->grab().toImage(), before) << "the item is marked";
+        QTest::keyClick(menu, Qt::Key_Right);
+        EXPECT_EQ(menu->activeAction()->objectName(), QStringLiteral("mnuChanges"));
+        input().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&input()));
+    }
+}
+
+TEST_F(DesktopWindow, LettersOfAnotherSizeKeepTheReadersPlace) {
+    TypeBirth();
+    PressOK();
+    auto& text = Find<QPlainTextEdit>(*desktop_->dataWindow(), "Text1");
+    desktop_->dataWindow()->resize(300, 300);
+    QCoreApplication::processEvents();
+    QTextCursor cursor = text.textCursor();
+    cursor.setPosition(400);
+    cursor.setPosition(420, QTextCursor::KeepAnchor);
+    text.setTextCursor(cursor);
+    text.verticalScrollBar()->setValue(40);
+    text.horizontalScrollBar()->setValue(text.horizontalScrollBar()->maximum() / 2);
+    const auto firstColumn = [&] { return text.cursorForPosition({0, 5}).positionInBlock(); };
+    const int column = firstColumn();
+    EXPECT_GT(column, 0);
+    for (const char* item : {"mnuIncrease", "mnuBold", "mnuItalic", "mnuIncrease", "mnuDecrease"}) {
+        ChooseInData(item);
+        EXPECT_EQ(text.verticalScrollBar()->value(), 40) << item;
+        EXPECT_NEAR(firstColumn(), column, 1) << item;
+        EXPECT_EQ(text.textCursor().anchor(), 400) << item;
+        EXPECT_EQ(text.textCursor().position(), 420) << item;
+    }
+    directory_.Write("HINTS.HLP", "a hint\r\n");
+    Choose("mnuHelpHints");
+    EXPECT_EQ(text.verticalScrollBar()->value(), 0) << "another text begins at its top";
+}
+
+TEST_F(DesktopWindow, EditorsTakeEnterAndCtrlS) {
+    Choose("mnuHeader");
+    auto* editor = TopWindow<EditorWindow>();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    content.setPlainText(QStringLiteral("Zoe"));
+    QTest::keyClick(&content, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "Zoe\r\n");
+    QTest::keyClick(&Find<QPushButton>(*editor, "btnQuit"), Qt::Key_Return);
+    EXPECT_FALSE(TopWindow<EditorWindow>() != nullptr && TopWindow<EditorWindow>()->isVisible());
+}
+
+TEST_F(DesktopWindow, PagesBreakWhereTheOptionsSay) {
+    std::string help;
+    for (int i = 1; i <= 50; ++i) help += "line " + std::to_string(i) + "\r\n";
+    directory_.Write("HINTS.HLP", help);
+    directory_.Write("HELPFILE", help);
+    const struct {
+        float linesPrinted, linesSaved;
+        std::size_t pages;
+        std::vector<int> brokenAfter;  // the lines in front of form feeds in the saved file
+    } cases[] = {{25, 21, 2, {21, 41}}, {20, 31, 3, {31}}, {0, 1, 1, {}}};
+    for (const auto& test : cases) {
+        state_.options[30] = test.linesPrinted;
+        state_.options[45] = test.linesSaved;
+        dialogs_.answer = (directory_ / "help.pdf").string();
+        Choose("mnuHelpPrintHelp");
+        EXPECT_EQ(PdfPages("help.pdf").size(), test.pages);
+        state_.buffer.ClearDataBuffer();
+        Choose("mnuHelpHints");
+        ChooseInData("mnuPrintData");
+        Press(*TopWindow<PrntFile>(), "btnPrint");
+        EXPECT_EQ(PdfPages("help.pdf").size(), test.pages) << "the print dialog";
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        dialogs_.answer = (directory_ / "saved.doc").string();
+        ChooseInData("mnuSaveAs");
+        std::string wanted = FileContent(directory_ / "saved.doc");
+        for (const int line : test.brokenAfter) {
+            const std::string text = "line " + std::to_string(line) + "\r\n";
+            EXPECT_NE(wanted.find(text + "\f\r\n"), std::string::npos) << text;
+        }
+        EXPECT_EQ(std::count(wanted.begin(), wanted.end(), '\f'), std::ssize(test.brokenAfter) + 1);
+    }
+}
+
+TEST_F(DesktopWindow, RestoredOptionsAreShownAndAFailedRestoreChangesNothing) {
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    const QString mine = QStringLiteral("7\nmine");
+    const std::string before = FileContent(directory_ / "OPTIONS.OPT");
+    const std::string master = FileContent(directory_ / "OPTIONS.MAS");
+    std::filesystem::remove(directory_ / "OPTIONS.MAS");
+    content.setPlainText(mine);
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_EQ(messages_.TakeTold(),
+              std::vector<std::string>{"Warning!: Error in operation. Cannot do what is requested."});
+    EXPECT_EQ(content.toPlainText(), mine);
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), before);
+    directory_.Write("OPTIONS.MAS", "3.5 restored\r\n" + master);
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_TRUE(content.toPlainText().startsWith(QStringLiteral("3.5 restored\n")));
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), "3.5 restored\r\n" + master);
+    EXPECT_FALSE(content.document()->isModified()) << "quitting has nothing to ask";
+}
+
+TEST(FileChooser, HasTwoEqualColumnsInWhichLongNamesAreRead) {
+    const ScratchDirectory directory;
+    const std::string longName = "the long list of all the people whom we have ever met in our lives.FIL";
+    for (const std::string& name : {std::string("A.FIL"), longName}) directory.Write(name, "");
+    std::filesystem::create_directory(directory / "sub");
+    SelectFIle chooser(directory.path(), "*.FIL", "");
+    chooser.show();
+    auto& files = Find<QListWidget>(chooser, "filList");
+    auto& directories = Find<QListWidget>(chooser, "dirList");
+    EXPECT_NEAR(files.width(), directories.width(), 1);
+    EXPECT_EQ(files.iconSize(), directories.iconSize());
+    const auto icon = [&](int row) { return directories.item(row)->icon().pixmap(directories.iconSize()); };
+    EXPECT_EQ(icon(0).toImage(), icon(directories.count() - 1).toImage());
+    EXPECT_GT(files.visualItemRect(files.item(1)).height(), files.visualItemRect(files.item(0)).height());
+    EXPECT_LE(files.visualItemRect(files.item(1)).right(), files.viewport()->width());
+    EXPECT_EQ(files.item(1)->toolTip().toStdString(), longName);
+    Find<QPushButton>(chooser, "cmdCancel").setFocus();
+    QTest::keyClick(&Find<QPushButton>(chooser, "cmdCancel"), Qt::Key_Return);
+    EXPECT_EQ(chooser.result(), "") << "Enter on Cancel cancels";
+    EXPECT_FALSE(chooser.isVisible());
 }
 
 TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QTest>
+#include <QThreadPool>
 #include <memory>
 
 #include "support.h"
@@ -140,8 +141,60 @@ TEST_F(NamesWindowTest, TellsAFaultWithTheGoodRecordsShown) {
     EXPECT_EQ(state.rememberedIndex, 0);
 }
 
+TEST_F(NamesWindowTest, EnterPressesTheButtonThatHasTheFocus) {
+    Open("Ann" + kRest);
+    std::string said;
+    QObject::connect(window.get(), &Names::citiesRequested, [&] { said += "cities "; });
+    QObject::connect(window.get(), &Names::editListRequested, [&] { said += "edit "; });
+    QObject::connect(window.get(), &Names::changeListRequested, [&] { said += "change "; });
+    for (const char* button : {"Command1", "cmdEditList", "cmdNewFileList"}) {
+        Find<QPushButton>(button)->setFocus();
+        QTest::keyClick(Find<QPushButton>(button), Qt::Key_Return);
+    }
+    EXPECT_EQ(said, "cities edit change ");
+    EXPECT_TRUE(computed.empty());
+}
+
+TEST_F(NamesWindowTest, ALongFileNameDoesNotWidenTheWindow) {
+    Open("Ann" + kRest);
+    const int width = window->minimumSizeHint().width();
+    window->ChangeFile(directory.Write(std::string(200, 'W') + ".fil", "Ann" + kRest).string());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->minimumSizeHint().width(), width);
+    EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text().size(), 204);
+    EXPECT_TRUE(Find<QLabel>("lblNamesOnFile")->toolTip().endsWith("WW.fil"));
+}
+
+TEST_F(NamesWindowTest, ALargeListIsReadWhileTheWindowLives) {
+    state = {true, 99'990, false};
+    Open("Ann" + kRest);
+    const auto large = directory.Write("large.fil", Persons(100'000)).string();
+    window->ChangeFile(large);
+    state.rememberedIndex = 99'990;
+    EXPECT_EQ(list()->model()->rowCount(), 0) << "not read before the window is painted";
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "reading...");
+    QTest::keyClicks(Find<QLineEdit>("txtFind"), "99999");
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "reading...");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list()->model()->rowCount() == 100'000; }));
+    EXPECT_EQ(Find<QLabel>("lblCount")->text(), "1 of 1") << "what was typed meanwhile is found";
+    QTest::keyClick(Find<QLineEdit>("txtFind"), Qt::Key_Escape);
+    EXPECT_EQ(list()->currentIndex().row(), 99'990);
+
+    window->ChangeFile(large);
+    window->ChangeFile(directory.Write("small.fil", "Ann" + kRest).string());
+    EXPECT_EQ(list()->model()->rowCount(), 1);
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list()->model()->rowCount(), 1) << "a reading that nobody wants any more is dropped";
+    window->ChangeFile(large);
+    window.reset();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+}
+
 TEST_F(NamesWindowTest, FindsANameAmongAHundredThousand) {
     Open(Persons(100'000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list()->model()->rowCount() == 100'000; }));
     QTest::keyClicks(list(), "person 99999");
     EXPECT_EQ(list()->currentIndex().row(), 99'999);
 }

@@ -124,6 +124,32 @@ TEST_F(NatalInputWindow, TabVisitsNamedBoxesInTheirOrder) {
     }
 }
 
+TEST_F(NatalInputWindow, EnterPressesTheFocusedButtonWhichLooksFocused) {
+    std::string said;
+    QObject::connect(window_.get(), &InputD::computeRequested, [&] { said += "compute "; });
+    QObject::connect(window_.get(), &InputD::saveRequested, [&] { said += "save "; });
+    QObject::connect(window_.get(), &InputD::timeZoneHelpRequested, [&] { said += "zones "; });
+    QObject::connect(window_.get(), &InputD::atlasRequested, [&] { said += "atlas "; });
+    const auto& ok = Find<QPushButton>(*window_, "cmdOK");
+    const auto picture = [](QPushButton& button) { return button.grab().toImage(); };
+    const QImage defaultLook = picture(Find<QPushButton>(*window_, "cmdOK"));
+    Type(*window_, "txtName", "Ann");
+    for (const char* name : {"cmdSave", "cmdNow", "Label1", "Label2", "cmdOK"}) {
+        auto& button = Find<QPushButton>(*window_, name);
+        const QImage before = picture(button);
+        button.setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(button.isDefault() && (&button == &ok || !ok.isDefault())) << name;
+        EXPECT_NE(picture(button), before) << name;
+        QTest::keyClick(&button, Qt::Key_Return);
+    }
+    EXPECT_EQ(said, "save zones atlas compute ");
+    EXPECT_EQ(Text("txtName"), "Now");
+    EXPECT_NE(picture(Find<QPushButton>(*window_, "cmdOK")), defaultLook) << "focused, not only the default";
+    Find<QLineEdit>(*window_, "txtDay").setFocus();
+    EXPECT_TRUE(ok.isDefault());
+    EXPECT_EQ(picture(Find<QPushButton>(*window_, "cmdOK")), defaultLook);
+}
+
 TEST_F(NatalInputWindow, EnterInAnyBoxComputesAndEscapeGoesToTheMainWindow) {
     int computed = 0, left = 0;
     QObject::connect(window_.get(), &InputD::computeRequested, [&] { ++computed; });
