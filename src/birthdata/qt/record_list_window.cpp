@@ -164,6 +164,7 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     problemLabel_->setObjectName(QStringLiteral("lblProblem"));
     problemLabel_->setTextFormat(Qt::PlainText);
     problemLabel_->setWordWrap(true);
+    problemLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     problemLabel_->hide();
 
     find_->setObjectName(QStringLiteral("txtFind"));
@@ -210,6 +211,7 @@ void RecordListPane::ShowReading(const std::string& file) {
 void RecordListPane::Show(std::size_t count, RecordListModel::TextAt textAt, const std::string& problem) {
     list_->SetRecords(count, std::move(textAt));
     problemLabel_->setText(ToQt(problem));
+    problemLabel_->setToolTip(ToQt(problem).toHtmlEscaped());
     problemLabel_->setVisible(!problem.empty());
     reading_ = false;
     FindTyped();

@@ -37,9 +37,9 @@ QRect PlaceOf(const DataWindowContext& context) {
         {double(view.DataTop), double(view.DataLeft), double(view.DataHeight), double(view.DataWidth)},
         context.twipsPerPixel);
     wanted.setSize(wanted.size().expandedTo(kSmallestSize));
+    const QRect place = BroughtIntoView(wanted, UsableScreens());
     // Only its user puts the window partly beside the screen.
-    return HasDefaultPlace(view) ? WhollyInView(wanted, UsableScreens())
-                                 : BroughtIntoView(wanted, UsableScreens());
+    return HasDefaultPlace(view) ? WhollyInView(place, UsableScreens()) : place;
 }
 
 // Where the reader is in a text: the lines in view and the marked part, kept over a change of letters.

@@ -163,6 +163,9 @@ TEST_F(NamesWindowTest, ALongFileNameDoesNotWidenTheWindow) {
     EXPECT_EQ(window->minimumSizeHint().width(), width);
     EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text().size(), 204);
     EXPECT_TRUE(Find<QLabel>("lblNamesOnFile")->toolTip().endsWith("WW.fil"));
+    window->ChangeFile("/gone/" + std::string(200, 'W') + ".fil");
+    EXPECT_TRUE(Find<QLabel>("lblProblem")->isVisible());
+    EXPECT_EQ(window->minimumSizeHint().width(), width);
 }
 
 TEST_F(NamesWindowTest, ALargeListIsReadWhileTheWindowLives) {
