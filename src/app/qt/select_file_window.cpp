@@ -24,6 +24,13 @@ bool HoldsFiles(const QStorageInfo& volume) {
            !below("/run/") && !below("/snap") && !below("/boot");
 }
 
+Path StartDirectory(const Path& applicationDirectory, const std::string& currentPath) {
+    const Path current = AbsolutePath(FindPath(PathFromText(currentPath))).parent_path();
+    std::error_code error;
+    const bool exists = !currentPath.empty() && std::filesystem::is_directory(current, error);
+    return exists ? current : FindPath(applicationDirectory);
+}
+
 QListWidgetItem* DirectoryItem(const QString& caption, const Path& path) {
     auto* item = new QListWidgetItem(caption);
     item->setData(kPathRole, ToQt(path.string()));
@@ -38,7 +45,7 @@ SelectFIle::SelectFIle(const Path& applicationDirectory, const std::string& patt
     setObjectName(QStringLiteral("SelectFIle"));
     setWindowTitle(QStringLiteral("Select a File"));
     Build();
-    ShowDirectory(FindPath(applicationDirectory));
+    ShowDirectory(StartDirectory(applicationDirectory, currentPath));
     FillDrives();
     filList_->setFocus();
 }
