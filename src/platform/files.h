@@ -116,9 +116,10 @@ Result<std::vector<std::string>> ReadLines(const Path& path);
 // The bytes of a file as they are; more than kLargestFile are refused.
 Result<std::string> ReadBytes(const Path& path);
 
-// Reads one number a line from its first 7 characters, no larger than 9999999 whatever its exponent, into values[1], values[2] ... up to the first empty
+// Reads one number a line from its first 7 characters into values[1], values[2] ... up to the first empty
 // line, the end of the file or the end of the table; values[0] and entries without a line keep their value.
-// Returns the number of non-empty lines in front of that end, also those beyond the table.
+// With exponents such texts could say anything: beyond 9999999 the value is that, with its sign. Returns the
+// number of non-empty lines in front of that end, also those beyond the table.
 Result<int> ReadNumberLines(const Path& path, std::span<float> values);
 
 // Receives pieces of a file's new content; false when a piece could not be written.

@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <regex>
+#include <set>
 #include <sstream>
 
 #include "app/app_directory.h"
+#include "app/desktop_arguments.h"
 #include "app/options_file.h"
 #include "app/wheel_command.h"
 #include "support.h"
@@ -234,6 +236,19 @@ TEST(ChartCommand, WrongUsageIsExplained) {
         EXPECT_THAT(ParseWheelArguments(c.arguments).message(), HasSubstr(c.fault));
     }
     EXPECT_EQ(ParseCommandLine(std::vector<std::string_view>{"--houses=ea"})->houses, HouseSystem::EqualAsc);
+}
+
+// Every option that a text mentions; in a manual page the hyphens are escaped.
+std::set<std::string> OptionsIn(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '\\'), text.end());
+    const std::regex option("--[a-z-]+");
+    return {std::sregex_token_iterator(text.begin(), text.end(), option), std::sregex_token_iterator()};
+}
+
+TEST(ManualPages, TellEveryOptionOfTheUsageTexts) {
+    const std::string pages = DELIVERED_DATA_DIR "/../packaging/man/";
+    EXPECT_EQ(OptionsIn(FileContent(pages + "tolvanis-chart.1")), OptionsIn(std::string(kUsage)));
+    EXPECT_EQ(OptionsIn(FileContent(pages + "tolvanis.1")), OptionsIn(std::string(kDesktopUsage)));
 }
 
 std::string ScratchNames(const std::filesystem::path& directory) {
