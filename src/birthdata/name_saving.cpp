@@ -53,11 +53,14 @@ class ReplaceQuestions {
     std::vector<Asked> asked_;
 };
 
-// The new content of a names file.
+// The new content of a names file, whose readable records are `list`.
 class Composer {
   public:
-    Composer(const NameRecord& record, ReplaceQuestions& questions)
-        : line_(FormatNameRecord(record)), upperName_(UpperCase(record.name)), questions_(questions) {}
+    Composer(const NameRecord& record, const RecordList& list, ReplaceQuestions& questions)
+        : list_(list),
+          line_(FormatNameRecord(record)),
+          upperName_(UpperCase(record.name)),
+          questions_(questions) {}
 
     std::string Compose(std::string_view content) {
         content_.reserve(content.size() + line_.size() + 2 * kLineEnd.size());
@@ -69,16 +72,15 @@ class Composer {
     }
 
     // Whether the list reads back with every record it had, but for those the user gave up, and the new one.
-    bool ReadsBackWhole(std::string_view before, std::string_view after) const {
-        const RecordList had = NamesOfText(before);
-        const RecordList has = NamesOfText(after);
-        std::size_t place = 0;
-        for (std::size_t i = 0; i < had.size(); ++i) {
-            if (std::ranges::find(replaced_, i) != replaced_.end()) continue;
-            if (place == has.size() || has.Line(place++) != had.Line(i)) return false;
+    bool ReadsBackWhole(std::string_view content) const {
+        std::size_t expected = 0;
+        LineReader reader = LineReader::OfText(content);
+        for (std::string line; reader.Next(line); ++expected) {
+            while (std::ranges::binary_search(replaced_, expected)) ++expected;
+            if (expected >= list_.size()) return line == line_;
+            if (line != list_.Line(expected)) return false;
         }
-        while (place < has.size() && has.Line(place) != line_) ++place;
-        return place < has.size();
+        return false;
     }
 
   private:
@@ -89,19 +91,13 @@ class Composer {
         const std::string name = FirstField(text);
         ended_ = name.empty();
         if (!ended_ && IsReplaced(name, text)) return replaced_.push_back(index_++);
-        ++index_;
-        if (!placed_ && (ended_ || bytes.size() > kLongestLine || !IsRecord(text))) PlaceNewRecord();
+        if (index_++ >= list_.size() && !placed_) PlaceNewRecord();
         if (ended_) {
             content_ += bytes;
             return;
         }
         const std::string_view end = bytes.substr(bare.size());
         content_.append(text).append(end.ends_with('\r') ? kLineEnd : end);
-    }
-
-    static bool IsRecord(std::string_view text) {
-        const Result<NameRecord> record = ParseNameRecord(text);
-        return record && CheckNameRecord(*record);
     }
 
     bool IsReplaced(const std::string& name, std::string_view text) {
@@ -117,11 +113,12 @@ class Composer {
         placed_ = true;
     }
 
+    const RecordList& list_;
     std::string line_;
     std::string upperName_;
     ReplaceQuestions& questions_;
     std::string content_;
-    std::size_t index_ = 0;  // of the next line in the list
+    std::size_t index_ = 0;  // of the next line
     std::vector<std::size_t> replaced_;
     bool placed_ = false;
     bool ended_ = false;
@@ -178,9 +175,10 @@ Result<bool> TryToSave(const Path& file, const NameRecord& record, ReplaceQuesti
     const Result<std::string> present = PresentContent(file);
     if (!present) return present.fault();
     questions.StartAgain();
-    Composer composer(record, questions);
+    const RecordList list = NamesOfText(*present);
+    Composer composer(record, list, questions);
     const std::string content = composer.Compose(*present);
-    if (!composer.ReadsBackWhole(*present, content)) {
+    if (!composer.ReadsBackWhole(content)) {
         return Fault{"The list in " + file.string() +
                      " would not read back whole with the new record. Nothing was saved."};
     }

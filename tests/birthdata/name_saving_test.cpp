@@ -77,7 +77,7 @@ TEST(NameSavingTest, KeepsEveryOtherLineAsItIs) {
         {"a DOS end mark inside", bob + "\x1A\r\n" + oldAnn, bob + ann, {kYes}},
         {"a damaged record replaced",
          "Ann,30 Xxx 2000,12.30,P,-1,-002.21,-33.52\r\n" + bob,
-         bob + ann,
+         ann + bob,
          {kYes}},
         {"a name with control characters",
          "",
