@@ -36,7 +36,7 @@ Result<void> FillFrom(const Path& source, const Path& target) {
     for (fs::directory_iterator entry(source, error), end; !error && entry != end; entry.increment(error)) {
         if (!entry->is_regular_file(error) || !IsUsersFile(entry->path())) continue;
         const std::string name = entry->path().filename().string();
-        if (fs::exists(FindFile(target, name))) continue;
+        if (IsNameTaken(FindFile(target, name))) continue;
         const Result<std::string> content = ReadBytes(entry->path());
         if (!content) return content.fault();
         if (const Result<void> copied = ReplaceFile(target / name, *content); !copied) return copied;
@@ -78,7 +78,7 @@ Result<DataFiles> ApplicationDirectory(const DirectoryHints& hints, FirstStart f
         const Path directory = FindPath(PathFromText(*given));
         std::error_code error;
         if (!fs::is_directory(directory, error)) return Fault{"There is no directory " + *given + "."};
-        return DataFiles(fs::absolute(directory), installed, DataFiles::Directory::Named);
+        return DataFiles(AbsolutePath(directory), installed, DataFiles::Directory::Named);
     }
     if (HasOptions(hints.programDirectory)) {
         return DataFiles(hints.programDirectory, installed, DataFiles::Directory::Named);

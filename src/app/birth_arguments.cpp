@@ -51,13 +51,14 @@ void TakeRecord(const NameRecord& record, const std::string& source, EntryReceiv
 
 void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
     const std::string& file = *births.namesFile;
+    const std::string wanted = ToUtf8(births.name.value_or(std::string()));
     LineReader reader{PathFromText(file)};
     bool found = false;
     for (std::string line; receiver.WantsMore() && !found && reader.Next(line);) {
         const std::string source = file + ":" + std::to_string(reader.LineNumber());
         const Result<NameRecord> record = ParseNameRecord(line);
         if (record && record->name.empty()) break;  // ends the list
-        if (births.name && (!record || record->name != *births.name)) continue;
+        if (births.name && (!record || record->name != wanted)) continue;
         if (record) {
             TakeRecord(*record, source, receiver);
         } else {
@@ -123,7 +124,7 @@ Result<std::string> ArgumentReader::Value() {
 }
 
 Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births) {
-    if (reader.name() == "--now") {
+    if (reader.Is("--now")) {
         births.now = true;
         return true;
     }

@@ -40,6 +40,8 @@ class ArgumentReader {
     std::string_view name() const { return name_; }
     // The value of the present argument; a fault when there is none.
     Result<std::string> Value();
+    // Whether the present argument is this one, which takes no value ("--now=3" is not it).
+    bool Is(std::string_view name) const { return argument_ == name; }
     Fault Unknown() const { return {"unknown argument \"" + std::string(argument_) + "\""}; }
 
   private:

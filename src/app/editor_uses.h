@@ -2,10 +2,7 @@
 // The text-file editors: one window, five uses.
 
 #include <array>
-#include <string>
 #include <string_view>
-
-#include "platform/files.h"
 
 namespace tolvanis {
 
@@ -31,13 +28,5 @@ inline constexpr std::array<EditorUseInfo, 5> kEditorUses = {{
 const EditorUseInfo& InfoOf(EditorUse use);
 
 inline constexpr std::string_view kClipboardHint = "Ctrl-C to copy. Ctrl-X to cut. Ctrl-V to paste.";
-
-// A file's lines, each ending in CR LF. A missing file is an empty text; one that is there and cannot be read
-// gives a fault.
-Result<std::string> EditorText(const Path& path);
-
-// What Save writes for a text with CR LF line ends: the text with a line end at its end. A text of fewer than
-// 2 characters leaves the file empty.
-std::string EditedFile(std::string_view text);
 
 }  // namespace tolvanis

@@ -11,6 +11,7 @@
 #include "app/qt/wheel_command_run.h"
 #include "platform/clock.h"
 #include "platform/qt/message_boxes.h"
+#include "platform/terminal.h"
 
 using namespace tolvanis;
 
@@ -43,24 +44,25 @@ int Run(const DesktopArguments& arguments) {
     return QApplication::exec();
 }
 
+int Print(std::string_view text) {
+    if (WriteToStandardOutput(text) && FlushStandardOutput()) return EXIT_SUCCESS;
+    TellOn(std::cerr, "tolvanis: cannot write to standard output");
+    return EXIT_FAILURE;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    OccupyStandardStreams();
     const std::vector<std::string_view> given(argv + 1, argv + argc);
     if (IsWheelCommand(given)) return RunWheelCommand(given, argv);
     const Result<DesktopArguments> arguments = ParseDesktopArguments(given);
     if (!arguments) {
-        std::cerr << "tolvanis: " << arguments.message() << "\n\n" << kDesktopUsage;
+        TellOn(std::cerr, "tolvanis: " + arguments.message() + "\n\n" + std::string(kDesktopUsage));
         return kWrongUsage;
     }
-    if (arguments->help) {
-        std::cout << kDesktopUsage;
-        return EXIT_SUCCESS;
-    }
-    if (arguments->version) {
-        std::cout << "tolvanis " << TOLVANIS_VERSION << "\n";
-        return EXIT_SUCCESS;
-    }
+    if (arguments->help) return Print(kDesktopUsage);
+    if (arguments->version) return Print("tolvanis " TOLVANIS_VERSION "\n");
     if (!HasDisplay()) {
         std::cerr << "tolvanis: there is no display to open windows on; tolvanis-chart works without one\n";
         return EXIT_FAILURE;

@@ -3,6 +3,24 @@
 #include <algorithm>
 
 namespace tolvanis {
+namespace {
+
+bool BeginsWithNumber(std::string_view line) {
+    const std::size_t first = line.find_first_not_of(" \t+-.");
+    return first != std::string_view::npos && line[first] >= '0' && line[first] <= '9';
+}
+
+// Whether most lines of the file hold no number.
+bool IsForeign(const Path& path) {
+    LineReader reader(path);
+    int numbers = 0, others = 0;
+    for (std::string line; reader.LineNumber() < kOptionCount && reader.Next(line) && !line.empty();) {
+        ++(BeginsWithNumber(line) ? numbers : others);
+    }
+    return others > numbers;
+}
+
+}  // namespace
 
 Result<int> ReadOptions(const DataFiles& files, Options& options) {
     return ReadNumberLines(files.Own(kOptionsFileName), options.table());
@@ -11,13 +29,15 @@ Result<int> ReadOptions(const DataFiles& files, Options& options) {
 Result<void> RestoreOptions(const DataFiles& files) {
     const Result<std::string> content = ReadBytes(files.Find(kOptionsMasterName));
     if (!content) return content.fault();
-    return ReplaceFile(files.Own(kOptionsFileName), *content);
+    const Path file = files.Own(kOptionsFileName);
+    return ReplaceAndKeep(file, BackupPath(file), *content);
 }
 
 Result<void> LoadOptions(const DataFiles& files, Options& options) {
     if (const Result<int> read = ReadOptions(files, options); !read) return read.fault();
     const bool any = std::ranges::any_of(options.table(), [](float value) { return value != 0.0F; });
-    if (!any) return Fault{"The file " + files.Own(kOptionsFileName).string() + " holds no options."};
+    if (!any || IsForeign(files.Own(kOptionsFileName)))
+        return Fault{"The file " + files.Own(kOptionsFileName).string() + " holds no options."};
     return {};
 }
 

@@ -59,6 +59,38 @@ std::string ClosedWithSeparator(const std::string& directory) {
     return JoinPathText(directory, "");
 }
 
+bool IsGone(const Path& path) {
+    std::error_code error;
+    return std::filesystem::status(FindPath(path), error).type() == std::filesystem::file_type::not_found;
+}
+
+// The text in front of the last separator.
+std::string_view DirectoryPart(std::string_view path) {
+    return path.substr(0, path.size() - FileNamePart(path).size());
+}
+
+// Takes a file that is gone from the application directory, where that has one of its name.
+bool FollowMove(const Path& applicationDirectory, std::string& path) {
+    if (path.empty() || !IsGone(PathFromText(path))) return false;
+    std::string_view name = path;
+    if (name.ends_with('/') || name.ends_with('\\')) name.remove_suffix(1);
+    const Path here = FindFile(applicationDirectory, FileNamePart(name));
+    if (FileNamePart(name).empty() || IsGone(here)) return false;
+    path = JoinPathText(applicationDirectory.string(), here.filename().string());
+    return true;
+}
+
+void FollowMove(const Path& applicationDirectory, Settings& settings) {
+    const std::string texts = ClosedWithSeparator(settings.InterpsDir);
+    for (std::string* file : {&settings.DataFile, &settings.GeoDataFile}) {
+        const bool wasWithTexts = DirectoryPart(*file) == texts;
+        const bool moved = FollowMove(applicationDirectory, *file);
+        if (moved && wasWithTexts) settings.InterpsDir = applicationDirectory.string();
+    }
+    FollowMove(applicationDirectory, settings.AtlasDir);
+    FollowMove(applicationDirectory, settings.InterpsDir);
+}
+
 }  // namespace
 
 Settings DefaultSettings(const Path& applicationDirectory) {
@@ -82,6 +114,7 @@ Settings ReadSettings(const Path& applicationDirectory) {
     Settings settings = DefaultSettings(applicationDirectory);
     LineReader reader(FindFile(applicationDirectory, kSettingsFileName));
     for (std::string line; reader.Next(line);) ApplySettingsLine(line, settings);
+    FollowMove(applicationDirectory, settings);
     settings.InterpsDir = ClosedWithSeparator(settings.InterpsDir);
     return settings;
 }

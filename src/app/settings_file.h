@@ -35,7 +35,9 @@ Settings DefaultSettings(const Path& applicationDirectory);
 void ApplySettingsLine(std::string_view line, Settings& settings);
 
 // The defaults overlaid by the settings file of the directory. A missing or unreadable file gives the
-// defaults; InterpsDir gets the host's separator when it ends in neither "/" nor "\".
+// defaults; InterpsDir gets a separator (JoinPathText) when it ends in neither "/" nor "\". Files that are no
+// longer where the settings say, but in the directory, are taken from there, as are the atlas and the texts:
+// a portable copy may have been moved.
 Settings ReadSettings(const Path& applicationDirectory);
 
 // The file's text, lines ending in CR LF.

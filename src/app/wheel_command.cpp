@@ -6,6 +6,7 @@
 #include "astro/natal_chart.h"
 #include "platform/clock.h"
 #include "text/numbers.h"
+#include "wheel/picture_format.h"
 
 namespace tolvanis {
 namespace {
@@ -30,6 +31,7 @@ Result<void> SetSize(WheelArguments& wheel, const std::string& size) {
 }
 
 Result<void> SetFile(WheelArguments& wheel, const std::string& file) {
+    if (!PictureFormatOf(file)) return Fault{NoPictureName(file)};
     wheel.file = file;
     return {};
 }

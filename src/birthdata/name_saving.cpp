@@ -12,24 +12,6 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-// Takes the first line off the text, its end included.
-std::string_view TakeLine(std::string_view& text) {
-    const std::size_t end = text.find('\n');
-    const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
-    text.remove_prefix(line.size());
-    return line;
-}
-
-std::string_view WithoutLineEnd(std::string_view line) {
-    if (line.ends_with('\n')) line.remove_suffix(1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    return line;
-}
-
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
-}
-
 std::string ReplaceQuestion(const NameRecord& record) {
     return "There is already a name on file matching your current name with the following associated data: "
            "\r\n\r\nDate =  " +
@@ -71,41 +53,51 @@ class ReplaceQuestions {
     std::vector<Asked> asked_;
 };
 
-// The new content of a names file.
+// The new content of a names file, whose readable records are `list`.
 class Composer {
   public:
-    Composer(const NameRecord& record, ReplaceQuestions& questions)
-        : line_(FormatNameRecord(record)), upperName_(UpperCase(record.name)), questions_(questions) {}
+    Composer(const NameRecord& record, const RecordList& list, ReplaceQuestions& questions)
+        : list_(list),
+          line_(FormatNameRecord(record)),
+          upperName_(UpperCase(record.name)),
+          questions_(questions) {}
 
     std::string Compose(std::string_view content) {
         content_.reserve(content.size() + line_.size() + 2 * kLineEnd.size());
-        while (!content.empty()) Take(TakeLine(content));
+        if (content.starts_with(kByteOrderMark)) content_ = kByteOrderMark;
+        while (!content.empty() && !ended_) Take(TakeLine(content));
         if (!placed_) PlaceNewRecord();
+        content_ += content;
         return std::move(content_);
+    }
+
+    // Whether the list reads back with every record it had, but for those the user gave up, and the new one.
+    bool ReadsBackWhole(std::string_view content) const {
+        std::size_t expected = 0;
+        LineReader reader = LineReader::OfText(content);
+        for (std::string line; reader.Next(line); ++expected) {
+            while (std::ranges::binary_search(replaced_, expected)) ++expected;
+            if (expected >= list_.size()) return line == line_;
+            if (line != list_.Line(expected)) return false;
+        }
+        return false;
     }
 
   private:
     void Take(std::string_view bytes) {
-        const bool ascii = IsAscii(bytes);
-        const std::string converted = ascii ? std::string() : Converted(bytes);
-        const std::string_view line = ascii ? bytes : converted;
-        if (!placed_) {
-            const std::string_view bare = WithoutLineEnd(line);
-            const std::string_view text = content_.empty() ? WithoutByteOrderMark(bare) : bare;
-            const std::string name = FirstField(text);
-            if (name.empty()) {
-                PlaceNewRecord();
-            } else if (IsReplaced(name, text)) {
-                return;
-            }
+        const std::string text = LineText(bytes);
+        const std::string_view bare = WithoutLineEnd(bytes);
+        if (text.empty() && !bare.empty()) return;  // nothing but marks
+        const std::string name = FirstField(text);
+        ended_ = name.empty();
+        if (!ended_ && IsReplaced(name, text)) return replaced_.push_back(index_++);
+        if (index_++ >= list_.size() && !placed_) PlaceNewRecord();
+        if (ended_) {
+            content_ += bytes;
+            return;
         }
-        content_ += line;
-    }
-
-    // ToUtf8, but with the byte order mark kept.
-    static std::string Converted(std::string_view bytes) {
-        const bool marked = bytes.starts_with(kByteOrderMark);
-        return (marked ? std::string(kByteOrderMark) : std::string()) + ToUtf8(bytes);
+        const std::string_view end = bytes.substr(bare.size());
+        content_.append(text).append(end.ends_with('\r') ? kLineEnd : end);
     }
 
     bool IsReplaced(const std::string& name, std::string_view text) {
@@ -115,16 +107,21 @@ class Composer {
     }
 
     void PlaceNewRecord() {
-        if (!content_.empty() && !content_.ends_with('\n')) content_ += kLineEnd;
+        const bool atStart = content_.empty() || content_ == kByteOrderMark;
+        if (!atStart && !content_.ends_with('\n')) content_ += kLineEnd;
         content_.append(line_).append(kLineEnd);
         placed_ = true;
     }
 
+    const RecordList& list_;
     std::string line_;
     std::string upperName_;
     ReplaceQuestions& questions_;
     std::string content_;
+    std::size_t index_ = 0;  // of the next line
+    std::vector<std::size_t> replaced_;
     bool placed_ = false;
+    bool ended_ = false;
 };
 
 // Whether a reader of the record gets what the entry says.
@@ -151,9 +148,7 @@ std::optional<NameRecord> RecordToSave(const NatalEntry& entry, Messages& messag
         return std::nullopt;
     }
     NameRecord record = RecordFromEntry(entry);
-    for (char& c : record.name) {
-        if (static_cast<unsigned char>(c) < 0x20) c = ' ';
-    }
+    record.name = TrimBlanks(LineText(Printable(record.name)));
     if (!ReadsBack(record, entry)) {
         const InputFault fault{EntryField::Name, "the entry does not read back", false};
         messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
@@ -167,9 +162,8 @@ Result<std::string> PresentContent(const Path& file) {
     std::error_code error;
     const Path found = FindPath(file);
     if (!std::filesystem::exists(found, error)) return std::string();
-    const bool device = std::filesystem::is_other(found, error);
-    Result<std::string> content =
-        device ? Fault{"The file " + file.string() + " is a device."} : ReadBytes(file);
+    if (std::filesystem::is_other(found, error)) return Fault{"The file " + file.string() + " is a device."};
+    Result<std::string> content = ReadBytes(found);
     if (content && content->find('\0') != std::string::npos) {
         return Fault{"The file " + file.string() + " is not a names file: it holds bytes that no text has."};
     }
@@ -181,20 +175,17 @@ Result<bool> TryToSave(const Path& file, const NameRecord& record, ReplaceQuesti
     const Result<std::string> present = PresentContent(file);
     if (!present) return present.fault();
     questions.StartAgain();
-    const std::string content = Composer(record, questions).Compose(*present);
-    return ReplaceIfUnchanged(file, NamesBackupPath(FindPath(file)), *present, content);
+    const RecordList list = NamesOfText(*present);
+    Composer composer(record, list, questions);
+    const std::string content = composer.Compose(*present);
+    if (!composer.ReadsBackWhole(content)) {
+        return Fault{"The list in " + file.string() +
+                     " would not read back whole with the new record. Nothing was saved."};
+    }
+    return ReplaceIfUnchanged(file, BackupPath(FindPath(file)), *present, content);
 }
 
 }  // namespace
-
-Path NamesBackupPath(const Path& file) {
-    constexpr std::size_t kExtension = 3;
-    const std::string name = file.filename().string();
-    if (CharacterCount(name) <= kExtension) return file.string() + ".OLD";
-    const std::string kept(FirstCharacters(name, CharacterCount(name) - kExtension));
-    if (EqualIgnoringCase(kept + "OLD", name)) return file.string() + ".OLD";
-    return file.parent_path() / (kept + "OLD");
-}
 
 bool SaveRecord(const NatalEntry& entry, const std::function<std::string()>& chooseFile, Messages& messages) {
     const std::optional<NameRecord> record = RecordToSave(entry, messages);

@@ -22,6 +22,10 @@ RecordList ReadNamesFile(const Path& path) {
     return RecordList(path, FaultOfLine);
 }
 
+RecordList NamesOfText(std::string_view content) {
+    return RecordList::OfText(content, FaultOfLine);
+}
+
 void TellNamesFault(const RecordFault& fault, Messages& messages) {
     TellRecordFault(fault, {"names", "Names"}, messages);
 }

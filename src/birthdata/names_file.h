@@ -14,6 +14,8 @@ inline constexpr std::string_view kDefaultNamesFile = "NAMES.FIL";
 
 // The readable records of a names file, in file order.
 RecordList ReadNamesFile(const Path& path);
+// The same of such a file's content.
+RecordList NamesOfText(std::string_view content);
 
 // Tells the user that a names file could not be read, or not to its end.
 void TellNamesFault(const RecordFault& fault, Messages& messages);
@@ -39,20 +41,17 @@ struct ListPosition {
 };
 std::optional<ListPosition> RestoredPosition(const NamesState& state, std::size_t count);
 
-// The name under which a names file's previous content is kept: the path with its last three characters
-// replaced by "OLD". Where that would be the file itself, or a name of three characters and less, ".OLD" is
-// appended.
-Path NamesBackupPath(const Path& file);
-
 // Saves an entry in the names file that `chooseFile` names (an empty text ends the saving): for every record
 // of the same name, letter case aside, the user says whether the new one replaces it; the new record goes to
 // the end. Returns whether it was saved; the user has been told why not.
 //
-// Every other line is kept byte for byte, also those that cannot be read as records; only a line that is not
-// UTF-8 is rewritten in it, and a last line without a line end gets one. Where the file has a record with an
-// empty name, which ends the list for every reader, the new record goes in front of that one. The file is
-// replaced as a whole and its previous content kept under NamesBackupPath. When another program changes the
-// file between the reading and the replacing, the saving is done again from its new content.
+// Every other line is kept as it is, also those that cannot be read as records; only in the list itself a
+// line that is not UTF-8 is rewritten in it, one that ends in a bare CR or not at all gets CR LF, and the
+// marks that LineText drops go. A line that ends the list for every reader (one with an empty name, one that
+// is no record) gets the new record in front of it, because behind it nobody would see it. Unless the list
+// then reads back with every record it had and the new one, nothing is saved. The file is replaced as a whole
+// and its previous content kept under BackupPath. When another program changes the file between the reading
+// and the replacing, the saving is done again from its new content.
 //
 // An entry that would not read back as it was typed (an empty name, a year of five digits, a time zone that
 // is no number) is refused, because it would end the list for every reader.

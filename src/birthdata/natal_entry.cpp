@@ -181,7 +181,7 @@ std::vector<InputFault> CheckEntry(const NatalEntry& entry, HouseSystem system) 
 
 NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate) {
     NatalData data;
-    data.Name = entry.name;
+    data.Name = Printable(entry.name);
     data.Day = Whole(entry.day);
     data.Month = Whole(entry.month);
     data.Year = Whole(entry.year);

@@ -6,15 +6,30 @@ namespace tolvanis {
 
 RecordList::RecordList(const Path& path, const Check& check) {
     LineReader reader(path);
+    Read(reader, check);
+    if (!reader.IsOpen()) {
+        fault_ = RecordFault{0, "Cannot read the file " + path.string() + ": " + reader.Problem() + "."};
+    }
+}
+
+RecordList RecordList::OfText(std::string_view content, const Check& check) {
+    LineReader reader = LineReader::OfText(content);
+    RecordList list;
+    list.Read(reader, check);
+    return list;
+}
+
+void RecordList::Read(LineReader& reader, const Check& check) {
+    std::size_t size = 0;
     for (std::string line; reader.Next(line) && !FirstField(line).empty();) {
-        if (std::string problem = check(line); !problem.empty()) {
+        std::string problem = check(line);
+        size += line.size() + 1;
+        if (size > kLargestFile) problem = "the file is too large";
+        if (!problem.empty()) {
             fault_ = RecordFault{reader.LineNumber(), std::move(problem)};
             return;
         }
         lines_.Append(line);
-    }
-    if (!reader.IsOpen()) {
-        fault_ = RecordFault{0, "Cannot read the file " + path.string() + ": " + reader.Problem() + "."};
     }
 }
 

@@ -27,12 +27,16 @@ class RecordList {
 
     RecordList() = default;
     RecordList(const Path& path, const Check& check);
+    // The records of a file's content.
+    static RecordList OfText(std::string_view content, const Check& check);
 
     std::size_t size() const { return lines_.size(); }
     std::string_view Line(std::size_t index) const { return lines_[index]; }
     const std::optional<RecordFault>& fault() const { return fault_; }
 
   private:
+    void Read(LineReader& reader, const Check& check);
+
     TextList lines_;
     std::optional<RecordFault> fault_;
 };

@@ -1,10 +1,9 @@
 #include "cli/chart_command.h"
 
-#include <ostream>
-
 #include "app/command_data.h"
 #include "cli/chart_output.h"
 #include "platform/clock.h"
+#include "platform/terminal.h"
 
 namespace tolvanis {
 namespace {
@@ -39,7 +38,7 @@ class ChartPrinter : public EntryReceiver {
     }
 
     void Refuse(const std::string& source, const std::string& fault) override {
-        errors_ << source << ": " << fault << "\n";
+        TellOn(errors_, source + ": " + fault);
         status_ = kSomethingRefused;
     }
 
@@ -70,7 +69,7 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
                            Clock clock) {
     const Result<CommandData> data = OpenCommandData(request.appDirectory);
     if (!data) {
-        errors << data.message() << "\n";
+        TellOn(errors, data.message());
         return kSomethingRefused;
     }
     ChartPrinter printer(request, data->options, output, errors);
@@ -92,7 +91,7 @@ ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file
     });
     const bool nothingToWrite = !any && status == kSomethingRefused;  // the reasons have been told
     if (written || nothingToWrite) return status;
-    errors << "tolvanis-chart: " << written.message() << "\n";
+    TellOn(errors, "tolvanis-chart: " + written.message());
     return kSomethingRefused;
 }
 

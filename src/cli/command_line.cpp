@@ -73,8 +73,8 @@ Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {
 Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> arguments) {
     ChartRequest request;
     for (ArgumentReader reader(arguments); reader.Next();) {
-        request.help = reader.name() == "--help" || reader.name() == "-h";
-        request.version = reader.name() == "--version";
+        request.help = reader.Is("--help") || reader.Is("-h");
+        request.version = reader.Is("--version");
         if (request.help || request.version) return request;
         if (const Result<void> taken = TakeArgument(reader, request); !taken) return taken.fault();
     }

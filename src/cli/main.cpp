@@ -1,43 +1,37 @@
-#include <cstdio>
 #include <iostream>
 #include <vector>
 
 #include "cli/chart_command.h"
+#include "platform/terminal.h"
 
 using namespace tolvanis;
 
 namespace {
 
-bool WriteToStandardOutput(std::string_view text) {
-    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+// The status, or that of a failure when standard output has not taken everything.
+ExitStatus WithOutputWritten(ExitStatus status) {
+    if (FlushStandardOutput()) return status;
+    TellOn(std::cerr, "tolvanis-chart: cannot write to standard output");
+    return kSomethingRefused;
 }
 
-ExitStatus RunToStandardOutput(const ChartRequest& request) {
-    ExitStatus status = RunChartCommand(request, WriteToStandardOutput, std::cerr);
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        std::cerr << "tolvanis-chart: cannot write to standard output\n";
-        status = kSomethingRefused;
-    }
-    return status;
+ExitStatus Print(std::string_view text) {
+    WriteToStandardOutput(text);
+    return WithOutputWritten(kAllComputed);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    OccupyStandardStreams();
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     const Result<ChartRequest> request = ParseCommandLine(arguments);
     if (!request) {
-        std::cerr << "tolvanis-chart: " << request.message() << "\n\n" << kUsage;
+        TellOn(std::cerr, "tolvanis-chart: " + request.message() + "\n\n" + std::string(kUsage));
         return kWrongUsage;
     }
-    if (request->help) {
-        std::cout << kUsage;
-        return kAllComputed;
-    }
-    if (request->version) {
-        std::cout << "tolvanis-chart " << TOLVANIS_VERSION << "\n";
-        return kAllComputed;
-    }
-    if (!request->output) return RunToStandardOutput(*request);
-    return RunChartCommandIntoFile(*request, PathFromText(*request->output), std::cerr);
+    if (request->help) return Print(kUsage);
+    if (request->version) return Print("tolvanis-chart " TOLVANIS_VERSION "\n");
+    if (request->output) return RunChartCommandIntoFile(*request, *request->output, std::cerr);
+    return WithOutputWritten(RunChartCommand(*request, WriteToStandardOutput, std::cerr));
 }

@@ -3,8 +3,10 @@
 #include <langinfo.h>
 #include <locale.h>
 
+#include <algorithm>
 #include <cmath>
 #include <ctime>
+#include <string>
 
 namespace tolvanis {
 
@@ -13,6 +15,24 @@ namespace {
 LocalTime FromParts(const std::tm& parts) {
     return {
         {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday}, parts.tm_hour, parts.tm_min, parts.tm_sec};
+}
+
+// The letters of a format's conversions, "dBY" for "%d de %B %Y", with those that stand for several of them
+// spelled out.
+std::string ConversionsIn(std::string_view format) {
+    std::string letters;
+    for (std::size_t at = format.find('%'); at != std::string_view::npos; at = format.find('%', at + 1)) {
+        at = format.find_first_not_of("EO-_0^#123456789", at + 1);  // flags, width and modifiers
+        if (at == std::string_view::npos) break;
+        if (format[at] == 'D') {
+            letters += "mdy";
+        } else if (format[at] == 'F') {
+            letters += "Ymd";
+        } else {
+            letters += format[at];
+        }
+    }
+    return letters;
 }
 
 }  // namespace
@@ -29,7 +49,9 @@ LocalTime OnHostsClock(std::time_t moment) {
 
 LocalTime OnClockOfZone(std::time_t moment, double hoursWest) {
     constexpr double kSecondsPerHour = 3600.0;
-    const std::time_t shown = moment - std::lround(hoursWest * kSecondsPerHour);
+    constexpr double kMostHours = 48.0;  // no clock is further off, whatever a damaged file says
+    const double hours = std::isnan(hoursWest) ? 0.0 : std::clamp(hoursWest, -kMostHours, kMostHours);
+    const std::time_t shown = moment - std::lround(hours * kSecondsPerHour);
     std::tm parts{};
     ::gmtime_r(&shown, &parts);
     return FromParts(parts);
@@ -41,17 +63,15 @@ LocalTime PresentMoment() {
 
 DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat) {
     DateTimeOrder order;
-    // The compound conversions stand for their POSIX expansions.
-    if (dateFormat.find("%D") != std::string_view::npos) dateFormat = "%m/%d/%y";
-    if (dateFormat.find("%F") != std::string_view::npos) dateFormat = "%Y-%m-%d";
-    const std::size_t year = dateFormat.find_first_of("yY");
-    const std::size_t month = dateFormat.find_first_of("mbB");
-    const std::size_t day = dateFormat.find_first_of("de");
-    constexpr std::size_t kNone = std::string_view::npos;
+    const std::string date = ConversionsIn(dateFormat);
+    const std::size_t year = date.find_first_of("yYG");
+    const std::size_t month = date.find_first_of("mbBh");
+    const std::size_t day = date.find_first_of("de");
+    constexpr std::size_t kNone = std::string::npos;
     if (year != kNone && month != kNone && day != kNone) {
         order.iDate = year < month ? 2 : month < day ? 0 : 1;
     }
-    const bool twelve = timeFormat.find_first_of("Ilrp") != kNone;
+    const bool twelve = ConversionsIn(timeFormat).find_first_of("IlrpP") != kNone;
     order.iTime = twelve ? 0 : 1;
     return order;
 }

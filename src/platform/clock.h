@@ -25,8 +25,8 @@ LocalTime OnClockOfZone(std::time_t moment, double hoursWest);
 // The present moment on the host's clock, in the host's time zone.
 LocalTime PresentMoment();
 
-// Order and clock as in the POSIX date and time formats of a locale ("%d.%m.%Y", "%H:%M:%S"); a format
-// without the day, month and year, or without an hour, leaves that value at 1.
+// Order and clock as in the conversions of the POSIX date and time formats of a locale ("%d.%m.%Y",
+// "%H:%M:%S"); a format without the day, month and year, or without an hour, leaves that value at 1.
 DateTimeOrder OrderOfFormats(std::string_view dateFormat, std::string_view timeFormat);
 
 // The order that the user's locale (LC_ALL, LC_TIME, LANG) asks for.

@@ -72,16 +72,21 @@ std::vector<std::string> DirectoriesIn(const Path& directory) {
 
 std::string JoinPathText(std::string_view directory, std::string_view name) {
     std::string path(directory);
-    if (!path.ends_with('/') && !path.ends_with('\\')) path += static_cast<char>(Path::preferred_separator);
+    // A directory that was written with the other separator goes on with it.
+    const bool other = path.find('\\') != std::string::npos && path.find('/') == std::string::npos;
+    const char separator = other ? '\\' : static_cast<char>(Path::preferred_separator);
+    if (!path.ends_with('/') && !path.ends_with('\\')) path += separator;
     return path.append(name);
 }
 
 std::size_t IndexOfPathEnd(const std::vector<std::string>& names, std::string_view path) {
-    const std::string wanted = UpperCase(FileNamePart(path));
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (UpperCase(names[i]) == wanted) return i;
+    const std::string_view wanted = FileNamePart(path);
+    auto found = std::ranges::find(names, wanted);
+    if (found == names.end()) {
+        found = std::ranges::find_if(
+            names, [&](const std::string& name) { return EqualIgnoringCase(name, wanted); });
     }
-    return 0;
+    return found == names.end() ? 0 : static_cast<std::size_t>(found - names.begin());
 }
 
 }  // namespace tolvanis

@@ -19,10 +19,12 @@ std::vector<std::string> DirectoriesIn(const Path& directory);
 
 bool FitsPattern(std::string_view name, std::string_view pattern);
 
-// The file's full path as a text: directory, separator where it does not end in one, and name.
+// The file's full path as a text: directory, separator where it does not end in one, and name. The
+// separator is the host's, or "\\" behind a directory that is written with it alone.
 std::string JoinPathText(std::string_view directory, std::string_view name);
 
-// The place of the file in `names` whose name ends the path, without regard to case; 0 when none does.
+// The place of the file in `names` whose name ends the path, in the same letter case or else in another; 0
+// when none does.
 std::size_t IndexOfPathEnd(const std::vector<std::string>& names, std::string_view path);
 
 }  // namespace tolvanis

@@ -1,9 +1,11 @@
 #pragma once
 // The seam through which the program asks the user for files. The desktop shows dialogs; tests answer.
 
+#include <optional>
 #include <string>
 
 #include "platform/files.h"
+#include "platform/messages.h"
 
 namespace tolvanis {
 
@@ -27,5 +29,9 @@ class FileDialogs {
     // cancels.
     virtual std::string ChooseSaveFile(const SaveRequest& request) = 0;
 };
+
+// Asks where to save and gives the very file that the user has named. Where the directory holds the same name
+// in another letter case, the user says whether that file is overwritten. Nothing when the user cancels.
+std::optional<Path> ChooseOutput(FileDialogs& dialogs, Messages& messages, const SaveRequest& request);
 
 }  // namespace tolvanis

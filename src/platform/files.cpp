@@ -1,16 +1,12 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
-#include <cstring>
 #include <system_error>
-#include <thread>
+#include <utility>
 
 #include "text/columns.h"
 #include "text/numbers.h"
@@ -20,216 +16,77 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t kPieceSize = std::size_t{1} << 16;
+constexpr int kMostNumberLines = 100000;
+constexpr double kLargestNumber = 9999999.0;  // seven digits
+constexpr char kDosEndMark = '\x1A';
+
 std::string Reason(int error) {
     return std::generic_category().message(error);
 }
 
-Fault CannotWrite(const Path& path, const std::string& reason) {
-    return {"Cannot write the file " + path.string() + ": " + reason + "."};
+std::string TooLarge(std::string_view what, std::size_t limit) {
+    return std::string(what) + " has more than " + std::to_string(limit) + " bytes";
 }
 
 Fault CannotRead(const Path& path, const std::string& reason) {
     return {"Cannot read the file " + path.string() + ": " + reason + "."};
 }
 
-Path FindEntryIgnoringCase(const Path& directory, const Path& name) {
+// Calls `take` with every entry of a directory; one that cannot be read has none.
+template <typename Take>
+void ForEachEntry(const Path& directory, Take take) {
     std::error_code error;
-    Path found;
-    for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const Path candidate = entry->path().filename();
-        // Of several spellings the first in order is taken, whatever order the system lists them in.
-        const bool fits = EqualIgnoringCase(candidate.string(), name.string());
-        if (fits && (found.empty() || candidate < found.filename())) found = entry->path();
+    for (fs::directory_iterator entry(directory.empty() ? Path(".") : directory, error), end;
+         !error && entry != end; entry.increment(error)) {
+        take(entry->path());
     }
+}
+
+Path FindEntryIgnoringCase(const Path& directory, const Path& name) {
+    Path found;
+    bool foundExists = false;
+    ForEachEntry(directory, [&](const Path& entry) {
+        if (!EqualIgnoringCase(entry.filename().string(), name.string())) return;
+        // Of several spellings the first in order is taken, whatever order the system lists them in; a link
+        // that points nowhere only when there is nothing else.
+        std::error_code error;
+        const bool exists = fs::exists(entry, error);
+        const bool better = exists != foundExists ? exists : entry.filename() < found.filename();
+        if (!found.empty() && !better) return;
+        found = entry;
+        foundExists = exists;
+    });
     return found;
 }
 
-// A file being written beside its target; the destructor removes it unless it has been moved into place.
-class NewFile {
-  public:
-    // With NameUse::Alone the caller sees to it that nobody else writes beside this target; then what a
-    // killed program has left there is used again and never piles up.
-    enum class NameUse { Shared, Alone };
+// The length of the first line with its end, or 0 where more bytes may belong to it.
+std::size_t LineLength(std::string_view bytes) {
+    const auto isEnd = [](char c) { return c == '\n' || c == '\r'; };
+    const auto end =
+        static_cast<std::size_t>(std::find_if(bytes.begin(), bytes.end(), isEnd) - bytes.begin());
+    if (end == bytes.size()) return 0;
+    if (bytes[end] == '\n') return end + 1;
+    const std::size_t after = bytes.find_first_not_of('\r', end);
+    if (after == std::string_view::npos) return 0;
+    return bytes[after] == '\n' ? after + 1 : after;
+}
 
-    NewFile(const Path& target, NameUse use) : target_(target) {
-        const bool alone = use == NameUse::Alone;
-        const std::string suffix = alone ? ".new" : ".XXXXXX";
-        name_ = (target.parent_path() / ("." + target.filename().string() + suffix)).string();
-        if (alone) {
-            ::unlink(name_.c_str());
-            descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+std::string_view WithoutMarks(std::string_view text) {
+    while (text.ends_with(kDosEndMark)) text.remove_suffix(1);
+    while (true) {
+        if (text.starts_with(kByteOrderMark)) {
+            text.remove_prefix(kByteOrderMark.size());
+        } else if (text.starts_with(kDosEndMark)) {
+            text.remove_prefix(1);
         } else {
-            descriptor_ = ::mkostemp(name_.data(), O_CLOEXEC);
-        }
-        made_ = descriptor_ >= 0;
-        if (!made_) error_ = errno;
-    }
-    ~NewFile() {
-        if (descriptor_ >= 0) ::close(descriptor_);
-        if (made_ && !placed_) ::unlink(name_.c_str());
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-
-    int error() const { return error_; }
-    const std::string& name() const { return name_; }
-
-    bool Write(std::string_view bytes) {
-        buffer_ += bytes;
-        return buffer_.size() < kBufferSize || Flush();
-    }
-
-    bool Finish() {
-        if (!Flush()) return false;
-        struct stat status {};
-        const bool exists = ::stat(target_.c_str(), &status) == 0;
-        if (::fchmod(descriptor_, exists ? status.st_mode & 07777 : NewFileMode()) != 0) return Failed();
-        if (::fsync(descriptor_) != 0) return Failed();
-        const int descriptor = descriptor_;
-        descriptor_ = -1;
-        return ::close(descriptor) == 0 || Failed();
-    }
-
-    bool Place() {
-        if (::rename(name_.c_str(), target_.c_str()) != 0) return Failed();
-        placed_ = true;
-        return true;
-    }
-
-  private:
-    static constexpr std::size_t kBufferSize = 1 << 16;
-
-    static mode_t NewFileMode() {
-        const mode_t mask = ::umask(0);
-        ::umask(mask);
-        return 0666 & ~mask;
-    }
-
-    bool Failed() {
-        error_ = errno;
-        return false;
-    }
-
-    bool Flush() {
-        std::string_view rest = buffer_;
-        while (!rest.empty()) {
-            const ssize_t written = ::write(descriptor_, rest.data(), rest.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) return Failed();
-            rest.remove_prefix(static_cast<std::size_t>(written));
-        }
-        buffer_.clear();
-        return true;
-    }
-
-    Path target_;
-    std::string name_;
-    std::string buffer_;
-    int descriptor_ = -1;
-    int error_ = 0;
-    bool made_ = false;
-    bool placed_ = false;
-};
-
-void FlushDirectory(const Path& directory) {
-    const int descriptor = ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-}
-
-// Keeps other programs of this kind from replacing files in the directory. Where the file system has no
-// locks, or another program holds one for too long, the work goes on without.
-class DirectoryLock {
-  public:
-    explicit DirectoryLock(const Path& directory)
-        : descriptor_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-        constexpr auto kPause = std::chrono::milliseconds(5);
-        constexpr int kAttempts = 1000;
-        for (int attempt = 0; descriptor_ >= 0 && !held_ && attempt < kAttempts; ++attempt) {
-            if (attempt > 0) std::this_thread::sleep_for(kPause);
-            held_ = ::flock(descriptor_, LOCK_EX | LOCK_NB) == 0;
-            if (!held_ && errno != EWOULDBLOCK && errno != EINTR) return;
+            return text;
         }
     }
-    ~DirectoryLock() {
-        if (descriptor_ >= 0) ::close(descriptor_);
-    }
-    DirectoryLock(const DirectoryLock&) = delete;
-    DirectoryLock& operator=(const DirectoryLock&) = delete;
-
-    bool held() const { return held_; }
-
-  private:
-    int descriptor_;
-    bool held_ = false;
-};
-
-// The file that is really to be replaced: links followed, letter case as on the disk, an absolute directory.
-Path RealTarget(const Path& path) {
-    std::error_code error;
-    const Path found = fs::absolute(FindPath(path), error);
-    const Path real = fs::weakly_canonical(found, error);
-    return error ? found : real;
 }
 
-bool FlushFile(const std::string& name) {
-    const int descriptor = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
-    const bool flushed = descriptor >= 0 && ::fsync(descriptor) == 0;
-    if (descriptor >= 0) ::close(descriptor);
-    return flushed;
-}
-
-// Gives the file a second name; file systems without hard links get a copy instead.
-bool LinkOrCopy(const Path& target, const std::string& name) {
-    if (::link(target.c_str(), name.c_str()) == 0) return true;
-    std::error_code error;
-    if (fs::copy_file(target, name, fs::copy_options::overwrite_existing, error)) return FlushFile(name);
-    errno = error ? error.value() : EIO;
-    return false;
-}
-
-// Puts the old content under the backup's name without a moment in which the file itself is missing.
-bool MakeBackup(const Path& target, const Path& backup) {
-    const std::string spare = backup.string() + "~";
-    ::unlink(spare.c_str());
-    const bool kept = LinkOrCopy(target, spare) && ::rename(spare.c_str(), backup.c_str()) == 0;
-    const int error = errno;
-    // What a fault has left must go, and so must a second name of one file, which rename leaves.
-    ::unlink(spare.c_str());
-    errno = error;
-    return kept;
-}
-
-// Why the target cannot be replaced, or 0.
-int WhyNotReplaceable(const Path& target) {
-    std::error_code error;
-    if (fs::is_directory(target, error)) return EISDIR;
-    return fs::exists(target, error) && ::access(target.c_str(), W_OK) != 0 ? errno : 0;
-}
-
-using Writer = std::function<bool(const Sink&)>;
-
-// Devices and pipes cannot be replaced, only written to.
-Result<void> WriteInto(const Path& path, const Path& target, const Writer& write) {
-    errno = 0;
-    std::ofstream file(target, std::ios::binary);
-    const auto sink = [&](std::string_view bytes) {
-        return static_cast<bool>(file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())));
-    };
-    const bool written = file && write(sink);
-    file.close();
-    if (!written || !file) return CannotWrite(path, Reason(errno != 0 ? errno : EIO));
-    return {};
-}
-
-// Writes the new content beside its target and flushes it to the disk.
-Result<void> Prepare(NewFile& file, const Path& path, const Writer& write) {
-    if (file.error() != 0) return CannotWrite(path, Reason(file.error()));
-    const bool written = write([&](std::string_view bytes) { return file.Write(bytes); });
-    if (written && file.Finish()) return {};
-    return CannotWrite(path, file.error() != 0 ? Reason(file.error()) : "the content is incomplete");
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
 }
 
 }  // namespace
@@ -251,7 +108,7 @@ Path FindPath(const Path& path) {
             found = exact;
             continue;
         }
-        const Path other = FindEntryIgnoringCase(found.empty() ? Path(".") : found, part);
+        const Path other = FindEntryIgnoringCase(found, part);
         if (other.empty()) return native;
         found = found.empty() ? other.filename() : other;
     }
@@ -260,6 +117,27 @@ Path FindPath(const Path& path) {
 
 Path FindFile(const Path& directory, std::string_view name) {
     return FindPath(directory / PathFromText(name).relative_path());
+}
+
+bool IsNameTaken(const Path& path) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+std::optional<Path> OtherSpelling(const Path& path) {
+    std::optional<Path> other;
+    bool exact = false;
+    ForEachEntry(path.parent_path(), [&](const Path& entry) {
+        exact = exact || entry.filename() == path.filename();
+        if (EqualIgnoringCase(entry.filename().string(), path.filename().string())) other = entry;
+    });
+    return exact ? std::nullopt : other;
+}
+
+Path AbsolutePath(const Path& path) {
+    std::error_code error;
+    Path absolute = fs::absolute(path, error);
+    return error ? path : absolute;
 }
 
 std::string_view FileNamePart(std::string_view path) {
@@ -272,53 +150,105 @@ bool IsReadableFile(const Path& path) {
     return fs::is_regular_file(found, error) && ::access(found.c_str(), R_OK) == 0;
 }
 
-LineReader::LineReader(const Path& path) {
-    const Path found = FindPath(path);
-    std::error_code error;
-    if (fs::is_directory(found, error)) {
-        fault_ = Reason(EISDIR);
-        return;
+std::string_view TakeLine(std::string_view& bytes) {
+    const std::size_t length = LineLength(bytes);
+    const std::string_view line = bytes.substr(0, length == 0 ? bytes.size() : length);
+    bytes.remove_prefix(line.size());
+    return line;
+}
+
+std::string_view WithoutLineEnd(std::string_view line) {
+    return line.substr(0, line.find_last_not_of("\r\n") + 1);
+}
+
+std::string LineText(std::string_view line) {
+    const std::string_view text = WithoutMarks(WithoutLineEnd(line));
+    return IsAscii(text) ? std::string(text) : ToUtf8(text);
+}
+
+ByteReader::ByteReader(const Path& path)
+    : descriptor_(::open(FindPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)) {
+    if (descriptor_ < 0) fault_ = Reason(errno);
+}
+
+ByteReader::~ByteReader() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+std::string_view ByteReader::Next() {
+    if (!fault_.empty()) return {};
+    buffer_.resize(kPieceSize);
+    ssize_t count = 0;
+    do {
+        count = ::read(descriptor_, buffer_.data(), buffer_.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) fault_ = Reason(errno);
+    return {buffer_.data(), count < 0 ? 0 : static_cast<std::size_t>(count)};
+}
+
+LineReader::LineReader(const Path& path)
+    : file_(std::make_unique<ByteReader>(path)), fault_(file_->Problem()) {}
+
+void LineReader::ReadMore() {
+    buffer_.erase(0, buffer_.size() - rest_.size());
+    const std::string_view piece = file_->Next();
+    buffer_ += piece;
+    rest_ = buffer_;
+    fault_ = file_->Problem();
+    if (piece.empty()) file_.reset();
+}
+
+// An empty line without an end says that there is no more.
+std::string_view LineReader::TakeRawLine() {
+    while (IsOpen()) {
+        const std::size_t length = LineLength(rest_);
+        if ((length > 0 ? length : rest_.size()) > kLongestLine) {
+            fault_ = TooLarge("line " + std::to_string(lineNumber_ + 1), kLongestLine);
+            break;
+        }
+        if (length > 0 || file_ == nullptr) return TakeLine(rest_);
+        ReadMore();
     }
-    errno = 0;
-    file_.open(found, std::ios::binary);
-    if (!file_) fault_ = Reason(errno != 0 ? errno : EIO);
+    return {};
 }
 
 bool LineReader::Next(std::string& line) {
-    if (!IsOpen() || !std::getline(file_, line)) {
-        if (IsOpen() && file_.bad()) fault_ = Reason(EIO);
-        return false;
+    while (true) {
+        const std::string_view raw = TakeRawLine();
+        if (raw.empty()) return false;
+        ++lineNumber_;
+        const std::string_view bare = WithoutLineEnd(raw);
+        const std::string_view text = WithoutMarks(bare);
+        if (text.empty() && !bare.empty()) continue;
+        line.assign(text);
+        if (!IsAscii(line)) line = ToUtf8(line);
+        return true;
     }
-    ++lineNumber_;
-    if (line.ends_with('\r')) line.pop_back();
-    const bool ascii = std::all_of(line.begin(), line.end(), [](char c) { return c >= 0; });
-    if (!ascii) line = ToUtf8(line);
-    if (std::exchange(first_, false) && line.starts_with(kByteOrderMark))
-        line.erase(0, kByteOrderMark.size());
-    return true;
 }
 
 Result<std::vector<std::string>> ReadLines(const Path& path) {
     LineReader reader(path);
     std::vector<std::string> lines;
-    for (std::string line; reader.Next(line);) lines.push_back(line);
+    std::size_t size = 0;
+    for (std::string line; reader.Next(line);) {
+        size += line.size() + 1;
+        if (size > kLargestFile) return CannotRead(path, TooLarge("it", kLargestFile));
+        lines.push_back(line);
+    }
     if (!reader.IsOpen()) return CannotRead(path, reader.Problem());
     return lines;
 }
 
 Result<std::string> ReadBytes(const Path& path) {
-    const Path found = FindPath(path);
-    std::error_code error;
-    if (fs::is_directory(found, error)) return CannotRead(path, Reason(EISDIR));
-    errno = 0;
-    std::ifstream file(found, std::ios::binary);
-    if (!file) return CannotRead(path, Reason(errno != 0 ? errno : EIO));
-    const std::uintmax_t size = fs::file_size(found, error);
-    std::string bytes(error ? 0 : size, '\0');  // a first guess: a pipe has no size, a file may grow
-    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<std::size_t>(file.gcount()));
-    if (file) bytes.append(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-    if (file.bad()) return CannotRead(path, Reason(EIO));
+    ByteReader reader(path);
+    std::string bytes;
+    for (std::string_view piece = reader.Next(); !piece.empty(); piece = reader.Next()) {
+        if (bytes.size() + piece.size() > kLargestFile) {
+            return CannotRead(path, TooLarge("it", kLargestFile));
+        }
+        bytes += piece;
+    }
+    if (!reader.Problem().empty()) return CannotRead(path, reader.Problem());
     return bytes;
 }
 
@@ -326,56 +256,15 @@ Result<int> ReadNumberLines(const Path& path, std::span<float> values) {
     LineReader reader(path);
     int count = 0;
     for (std::string line; reader.Next(line) && !line.empty();) {
-        ++count;
+        if (++count == kMostNumberLines) break;
         const auto index = static_cast<std::size_t>(count);
         if (index < values.size()) {
-            values[index] = static_cast<float>(LeadingNumber(FirstCharacters(line, 7)));
+            const double number = LeadingNumber(FirstCharacters(line, 7));
+            values[index] = static_cast<float>(std::clamp(number, -kLargestNumber, kLargestNumber));
         }
     }
     if (!reader.IsOpen()) return CannotRead(path, reader.Problem());
     return count;
-}
-
-Result<void> ReplaceFile(const Path& path, std::string_view content) {
-    return ReplaceFile(path, [&](const Sink& sink) { return sink(content); });
-}
-
-Result<void> ReplaceFile(const Path& path, const Writer& write) {
-    const Path target = RealTarget(path);
-    if (const int refused = WhyNotReplaceable(target)) return CannotWrite(path, Reason(refused));
-    std::error_code error;
-    if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
-        return WriteInto(path, target, write);
-    }
-    NewFile file(target, NewFile::NameUse::Shared);
-    if (const Result<void> prepared = Prepare(file, path, write); !prepared) return prepared;
-    if (!file.Place()) return CannotWrite(path, Reason(file.error()));
-    FlushDirectory(target.parent_path());
-    return {};
-}
-
-Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
-                                std::string_view content) {
-    const Path target = RealTarget(path);
-    if (const int error = WhyNotReplaceable(target)) return CannotWrite(path, Reason(error));
-    const DirectoryLock lock(target.parent_path());
-    NewFile file(target, lock.held() ? NewFile::NameUse::Alone : NewFile::NameUse::Shared);
-    const Result<void> prepared = Prepare(file, path, [&](const Sink& sink) { return sink(content); });
-    if (!prepared) return prepared.fault();
-
-    std::error_code error;
-    const bool exists = fs::exists(target, error);
-    if (exists) {
-        const Result<std::string> present = ReadBytes(target);
-        if (!present) return present.fault();
-        if (*present != expected) return false;
-        if (!MakeBackup(target, FindPath(backup))) return CannotWrite(backup, Reason(errno));
-    } else if (!expected.empty()) {
-        return false;
-    }
-    if (!file.Place()) return CannotWrite(path, Reason(file.error()));
-    FlushDirectory(target.parent_path());
-    return true;
 }
 
 std::string JoinLines(std::span<const std::string> lines) {

@@ -2,9 +2,11 @@
 // The file system as the program sees it: names found without regard to case, "\" and "/" alike, lines that
 // end in CR LF or LF, and files of the user's that are replaced whole or not at all.
 
+#include <cstddef>
 #include <filesystem>
-#include <fstream>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,8 +23,20 @@ Path PathFromText(std::string_view text);
 
 // The file or directory that the path names. A component that does not exist as written is looked up without
 // regard to letter case; where nothing fits, the path is returned as written, so that messages can name it.
+// A link that points nowhere is found too. For reading, and for the files that the program knows by name; a
+// file that the user names anew is the very one given.
 Path FindPath(const Path& path);
 Path FindFile(const Path& directory, std::string_view name);
+
+// Whether the name is taken, be it by a link that points nowhere.
+bool IsNameTaken(const Path& path);
+
+// The file beside `path` whose name is the same but for letter case, where the directory has no entry with
+// the very name; else nothing.
+std::optional<Path> OtherSpelling(const Path& path);
+
+// The path from the root of the file system; as it is when the working directory is gone.
+Path AbsolutePath(const Path& path);
 
 // The part after the last separator of either kind.
 std::string_view FileNamePart(std::string_view path);
@@ -30,37 +44,82 @@ std::string_view FileNamePart(std::string_view path);
 // A regular file that can be opened for reading.
 bool IsReadableFile(const Path& path);
 
-// Reads a text file line by line, holding one line at a time. The ends of lines (CR LF or LF) are taken off;
-// a last line without one counts. A line that is not valid UTF-8 is read as Windows-1252.
-class LineReader {
+// What is read of one line and of one file at most, so that endless input (a device, a pipe) ends in a
+// message and not in a full memory.
+inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
+inline constexpr std::size_t kLargestFile = std::size_t{1} << 28;
+
+// Takes the first line, with its end, off the bytes. A line ends in LF, in CR LF or in CRs alone; any number
+// of CRs counts as one.
+std::string_view TakeLine(std::string_view& bytes);
+std::string_view WithoutLineEnd(std::string_view line);
+
+// The text of a line as every reader gets it: without its end, without the byte order marks and DOS end marks
+// (0x1A) that joined files and old editors leave at its ends, and read as Windows-1252 where it is not valid
+// UTF-8.
+std::string LineText(std::string_view line);
+
+// The bytes of a file, piece by piece.
+class ByteReader {
   public:
     // Finds the file as FindPath does.
-    explicit LineReader(const Path& path);
+    explicit ByteReader(const Path& path);
+    ~ByteReader();
+    ByteReader(const ByteReader&) = delete;
+    ByteReader& operator=(const ByteReader&) = delete;
 
-    bool IsOpen() const { return fault_.empty(); }
+    // The next piece, valid until the next call; empty at the end and after a fault.
+    std::string_view Next();
     // Why the file could not be opened or read to its end ("No such file or directory"); empty when all is
     // well.
+    const std::string& Problem() const { return fault_; }
+
+  private:
+    int descriptor_;
+    std::string fault_;
+    std::vector<char> buffer_;
+};
+
+// Reads a text line by line, holding one line at a time. A last line without an end counts; a line of nothing
+// but marks does not. Gives the lines' texts (LineText).
+class LineReader {
+  public:
+    explicit LineReader(const Path& path);
+    // Reads a text in memory, which outlives the reader.
+    static LineReader OfText(std::string_view text) { return LineReader(InMemory{}, text); }
+    LineReader(const LineReader&) = delete;
+    LineReader& operator=(const LineReader&) = delete;
+
+    bool IsOpen() const { return fault_.empty(); }
+    // Why the text could not be read to its end, as with ByteReader, or because a line is too long.
     const std::string& Problem() const { return fault_; }
 
     bool Next(std::string& line);
     int LineNumber() const { return lineNumber_; }  // of the last line read, counted from 1
 
   private:
-    std::ifstream file_;
+    struct InMemory {};
+    LineReader(InMemory, std::string_view text) : rest_(text) {}
+    std::string_view TakeRawLine();
+    void ReadMore();
+
+    std::unique_ptr<ByteReader> file_;  // until its end
+    std::string buffer_;                // what has been read of it and not been taken
+    std::string_view rest_;             // of the buffer or of the text
     std::string fault_;
     int lineNumber_ = 0;
-    bool first_ = true;
 };
 
-// All lines of a text file.
+// All lines of a text file; one of more than kLargestFile bytes is refused.
 Result<std::vector<std::string>> ReadLines(const Path& path);
 
-// The bytes of a file as they are.
+// The bytes of a file as they are; more than kLargestFile are refused.
 Result<std::string> ReadBytes(const Path& path);
 
 // Reads one number a line from its first 7 characters into values[1], values[2] ... up to the first empty
 // line, the end of the file or the end of the table; values[0] and entries without a line keep their value.
-// Returns the number of non-empty lines in front of that end, also those beyond the table.
+// With exponents such texts could say anything: beyond 9999999 the value is that, with its sign. Returns the
+// number of non-empty lines in front of that end, also those beyond the table.
 Result<int> ReadNumberLines(const Path& path, std::span<float> values);
 
 // Receives pieces of a file's new content; false when a piece could not be written.
@@ -68,19 +127,29 @@ using Sink = std::function<bool(std::string_view)>;
 
 // Replaces the file at `path` (or makes it): the content is written to a new file beside it, flushed to the
 // disk and renamed into place, so that at any moment the old or the new content is there in full. Symbolic
-// links are followed, the mode of an existing file is kept, and a read-only file is refused. A device or a
-// pipe is written to, never replaced. On a fault the old file is untouched and the message names the file and
-// the reason.
+// links are followed, also one that points nowhere yet, the mode of an existing file is kept, and a read-only
+// file is refused. What is no regular file (a device, a pipe, a descriptor such as /dev/stdout) is written
+// to, never replaced. On a fault the old file is untouched and the message names the file and the reason.
+// What killed programs of this user have left beside the file goes.
 Result<void> ReplaceFile(const Path& path, std::string_view content);
 Result<void> ReplaceFile(const Path& path, const std::function<bool(const Sink&)>& write);
 
-// Replaces the file only while its content is still `expected` (a file that does not exist counts as empty),
-// and keeps that content under the name `backup`; an earlier backup is replaced. False, with nothing touched,
-// when another program has changed the file meanwhile. Two programs that call this for files of one directory
-// take turns. At any moment the file holds the old or the new content in full and is never missing; the
-// backup holds the content that was there before, or for an instant the present one.
+// Replaces the file, found as FindPath does, only while its content is still `expected` (a file that does not
+// exist counts as empty), and keeps that content under the name `backup`; an earlier backup is replaced.
+// False, with nothing touched, when another program has changed the file meanwhile. Two programs that call
+// this for files of one directory take turns; a fault says so when the other one does not come to an end. At
+// any moment the file holds the old or the new content in full and is never missing; the backup holds the
+// content that was there before, or for an instant the present one.
 Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
                                 std::string_view content);
+
+// Replaces the file and keeps its content, whatever it is, as ReplaceIfUnchanged does.
+Result<void> ReplaceAndKeep(const Path& path, const Path& backup, std::string_view content);
+
+// The name under which a file's previous content is kept: with its extension, or its last three characters
+// where it has none, replaced by "OLD". Where that would be the file itself, or a name of three characters
+// and less, ".OLD" is appended.
+Path BackupPath(const Path& file);
 
 // Lines joined with CR LF after each.
 std::string JoinLines(std::span<const std::string> lines);

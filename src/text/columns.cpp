@@ -169,6 +169,20 @@ std::string_view WithoutByteOrderMark(std::string_view text) {
     return text;
 }
 
+std::string Printable(std::string_view text) {
+    std::string printable = ToUtf8(text);
+    std::size_t kept = 0;
+    for (std::size_t at = 0; at < printable.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(printable[at]);
+        // U+0080 to U+009F are two bytes.
+        const bool upper = byte == 0xC2 && static_cast<unsigned char>(printable[at + 1]) < 0xA0;
+        printable[kept++] = byte < 0x20 || byte == 0x7F || upper ? ' ' : printable[at];
+        if (upper) ++at;
+    }
+    printable.resize(kept);
+    return printable;
+}
+
 std::string ToUtf8(std::string_view bytes) {
     if (IsUtf8(bytes)) return std::string(WithoutByteOrderMark(bytes));
     std::string text;

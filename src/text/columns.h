@@ -35,6 +35,9 @@ bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view prefix)
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 std::string_view WithoutByteOrderMark(std::string_view text);
 
+// The text with a blank in place of every control character, so that it can do nothing to a terminal.
+std::string Printable(std::string_view text);
+
 // The bytes as UTF-8: valid UTF-8 is returned as it is without a byte order mark, anything else is taken as
 // Windows-1252.
 std::string ToUtf8(std::string_view bytes);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "output/zodiac_text.h"
@@ -135,14 +136,14 @@ void WritePoints(AsciiGrid& grid, const WheelSnapshot& chart) {
     const PerPoint<int> wheelSlots = WheelSlots(chart);
     const std::vector<int> order = AsciiOrder(chart);
     int lastHouse = 0;
-    int slot = 0;
+    int nextSlot = 0;
     for (auto entry = order.rbegin(); entry != order.rend(); ++entry) {
         const int point = *entry;
         const int house = chart.PointHouse[point];
         const int inHouse = counts[static_cast<std::size_t>(house - 1)];
-        slot = house == lastHouse ? slot + 1 : 0;
-        lastHouse = house;
+        if (std::exchange(lastHouse, house) != house) nextSlot = 0;
         if (inHouse > kSlotsPerHouse && (point == kNorthNode || point == kSouthNode)) continue;
+        int slot = nextSlot++;
         if (inHouse == 1 && wheelSlots[point] >= kLatePlace) slot = kLatePlace;
         const auto place = static_cast<std::size_t>((house - 1) * kSlotsPerHouse + slot);
         if (place < kSlotPlaces.size())

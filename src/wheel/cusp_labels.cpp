@@ -88,8 +88,8 @@ constexpr double kMostAside = 130.0;
 // Moves a row that would be cut off by the surface's edge back onto it.
 Point BroughtInside(Point start, const LabelRow& row, const Extent& surface) {
     const double half = row.height / 2;
-    start.x = std::clamp(start.x, surface.left + kLabelGap, surface.right - kLabelGap - row.width);
-    start.y = std::clamp(start.y, surface.bottom + kLabelGap + half, surface.top - kLabelGap - half);
+    start.x = std::max(surface.left + kLabelGap, std::min(start.x, surface.right - kLabelGap - row.width));
+    start.y = std::max(surface.bottom + kLabelGap + half, std::min(start.y, surface.top - kLabelGap - half));
     return start;
 }
 

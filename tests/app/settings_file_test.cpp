@@ -109,5 +109,33 @@ TEST(SettingsFile, ADirectoryThatCannotBeWrittenIsNamed) {
     EXPECT_NE(written.message().find("gone/Tolvanis.ini: No such file or directory"), std::string::npos);
 }
 
+// A portable copy that has been moved finds its files; what lies elsewhere stays there.
+TEST(SettingsFile, FilesOfAMovedDirectoryAreFound) {
+    const ScratchDirectory directory, elsewhere;
+    const std::string here = directory.path().string() + "/";
+    directory.Write("Ann.fil", "");
+    directory.Write("GA_MA.LL", "");
+    directory.Write("NAMES.FIL", "");
+    std::filesystem::create_directory(directory / "ATLAS");
+    const std::string kept = elsewhere.Write("NAMES.FIL", "").string();
+    const auto read = [&](const std::string& content) {
+        directory.Write("Tolvanis.ini", content);
+        return ReadSettings(directory.path());
+    };
+    const Settings moved = read(
+        "DataFile=/old/place/ANN.FIL\r\nGeoDataFile=C:\\OLD\\GA_MA.LL\r\n"
+        "AtlasDir=/old/place/ATLAS/\r\nInterpsDir=/old/place/\r\n");
+    EXPECT_EQ(moved.DataFile, here + "Ann.fil");
+    EXPECT_EQ(moved.GeoDataFile, here + "GA_MA.LL");
+    EXPECT_EQ(moved.AtlasDir, here + "ATLAS");
+    EXPECT_EQ(moved.InterpsDir, here);
+    const Settings stays =
+        read("DataFile=" + kept + "\r\nGeoDataFile=/old/OTHER.LL\r\nInterpsDir=C:\\TEXTS\r\n");
+    EXPECT_EQ(stays.DataFile, kept);
+    EXPECT_EQ(stays.GeoDataFile, "/old/OTHER.LL");
+    EXPECT_EQ(stays.InterpsDir, "C:\\TEXTS\\");
+    EXPECT_NE(SettingsText(stays).find("InterpsDir=C:\\TEXTS\\\r\n"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tolvanis

@@ -7,7 +7,7 @@
 
 #include "app/clock_caption.h"
 #include "app/desktop_arguments.h"
-#include "app/editor_uses.h"
+#include "app/editor_file.h"
 #include "app/menu_table.h"
 #include "app/options_file.h"
 #include "app/study_texts.h"
@@ -56,12 +56,41 @@ TEST(Editors, WriteBackWhatTheyLoaded) {
     } cases[] = {{"a\r\nb\r\n", "a\r\nb\r\n"}, {"a\nb", "a\r\nb\r\n"}, {"", ""}, {"\r\n", "\r\n"}};
     for (const auto& test : cases) {
         directory.Write("F.TXT", test.before);
-        EXPECT_EQ(EditedFile(*EditorText(directory.path() / "f.txt")), test.after);
+        EXPECT_EQ(EditedFile(*EditorFile(directory.path() / "f.txt").Read()), test.after);
     }
     EXPECT_EQ(EditedFile("x"), "");
     EXPECT_EQ(EditedFile("\u00e9"), "");
-    EXPECT_EQ(*EditorText(directory.path() / "GONE.TXT"), "");
-    EXPECT_FALSE(EditorText(directory.path()));
+    EXPECT_EQ(*EditorFile(directory.path() / "GONE.TXT").Read(), "");
+    EXPECT_FALSE(EditorFile(directory.path()).Read());
+}
+
+// Another window or program saves the file while it is open in an editor.
+TEST(Editors, OverwriteNothingThatWasSavedMeanwhile) {
+    const ScratchDirectory directory;
+    const auto path = directory.Write("N.FIL", "Ann\r\nBob\r\n");
+    EditorFile file(path);
+    EXPECT_EQ(*file.Read(), "Ann\r\nBob\r\n");
+    EXPECT_FALSE(file.HasChanged());
+    EXPECT_TRUE(*file.Save("Ann\r\nBob\r\n"));
+    EXPECT_EQ(directory.Names().size(), 1U) << "nothing was changed and no backup lost";
+
+    directory.Write("N.FIL", "Ann\r\nCid\x1B\r\n");
+    EXPECT_TRUE(file.HasChanged());
+    EXPECT_FALSE(*file.Save("Ann\r\nEve\r\n"));
+    EXPECT_EQ(FileContent(path), "Ann\r\nCid\x1B\r\n");
+    EXPECT_EQ(*file.TakeChanges(), "New since then:\r\n    Cid \r\nGone since then:\r\n    Bob\r\n");
+    EXPECT_TRUE(*file.Save("Ann\r\nEve"));
+    EXPECT_EQ(FileContent(path), "Ann\r\nEve\r\n");
+    EXPECT_EQ(FileContent(directory / "N.OLD"), "Ann\r\nCid\x1B\r\n");
+
+    std::filesystem::remove(path);
+    EXPECT_FALSE(*file.Save("Ann\r\nEve\r\nFay\r\n"));
+    EditorFile unread(directory.path());
+    EXPECT_FALSE(unread.Read());
+    EXPECT_FALSE(unread.Save("Ann"));
+    EXPECT_EQ(ChangesBetween("a\nb\n", "b\na\n"), "The order of its lines has changed.\r\n");
+    EXPECT_THAT(ChangesBetween("", "1\n2\n3\n4\n5\n6\n7\n"),
+                testing::EndsWith("    5\r\n    and 2 more\r\n"));
 }
 
 TEST(OptionsFile, ReadsNumbersUpToTheFirstEmptyLine) {
@@ -81,8 +110,12 @@ TEST(OptionsFile, IsRestoredFromItsMaster) {
     const DataFiles files(directory.path(), installed.path());
     EXPECT_FALSE(RestoreOptions(files));
     installed.Write("OPTIONS.MAS", "5\r\n");
-    ASSERT_TRUE(RestoreOptions(files));
-    EXPECT_EQ(FileContent(directory / "OPTIONS.OPT"), "5\r\n");
+    directory.Write("Options.opt", "mine\r\n");
+    for (int again = 0; again < 2; ++again) {
+        ASSERT_TRUE(RestoreOptions(files));
+        EXPECT_EQ(FileContent(directory / "Options.opt"), "5\r\n");
+        EXPECT_EQ(FileContent(directory / "Options.OLD"), "mine\r\n");
+    }
 }
 
 TEST(OptionsFile, OfOtherContentIsRefused) {
@@ -90,7 +123,8 @@ TEST(OptionsFile, OfOtherContentIsRefused) {
     const DataFiles files(directory.path());
     Options options;
     EXPECT_FALSE(LoadOptions(files, options));
-    for (const char* content : {"", "Dear diary,\r\n", "0\r\n0\r\n"}) {
+    for (const char* content :
+         {"", "Dear diary,\r\n", "0\r\n0\r\n", "Dear diary,\r\nit is\r\n8 o'clock\r\n"}) {
         directory.Write("OPTIONS.OPT", content);
         EXPECT_THAT(LoadOptions(files, options).message(), testing::HasSubstr("holds no options")) << content;
     }

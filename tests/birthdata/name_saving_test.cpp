@@ -20,11 +20,21 @@ NatalEntry Entry(const std::string& name) {
     return {name, "9", "22", "1949", "9", "5", false, "5", "73", "59", false, "40", "45", false};
 }
 
-const std::string kOld = ",01 Jan 2000,12.30,P,-1,-002.21,-33.52\r\n";
+const std::string kBare = ",01 Jan 2000,12.30,P,-1,-002.21,-33.52";
+const std::string kOld = kBare + "\r\n";
 
 bool SaveTo(const Path& file, const std::string& name, Messages& messages) {
     return SaveRecord(
         Entry(name), [&] { return file.string(); }, messages);
+}
+
+bool ListShowsTheNewRecord(const Path& file) {
+    const RecordList list = ReadNamesFile(file);
+    bool shown = false;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        shown = shown || kRest == std::string(list.Line(i).substr(list.Line(i).find(','))) + "\r\n";
+    }
+    return shown;
 }
 
 struct SaveCase {
@@ -49,15 +59,33 @@ TEST(NameSavingTest, KeepsEveryOtherLineAsItIs) {
     const std::vector<SaveCase> cases = {
         {"into an empty file", "", ann},
         {"at the end", bob, bob + ann},
-        {"a missing line end", "Bob,1,2", "Bob,1,2\r\n" + ann},
-        {"LF stays LF", "Bob,1\nCid,2\n", "Bob,1\nCid,2\n" + ann},
-        {"quotes, blanks and rubbish stay", "\"Bob\" , 1\r\n?\r\n", "\"Bob\" , 1\r\n?\r\n" + ann},
+        {"a missing line end", "Bob" + kBare, bob + ann},
+        {"LF stays LF", "Bob" + kBare + "\nCid" + kBare + "\n", "Bob" + kBare + "\nCid" + kBare + "\n" + ann},
+        {"quotes, blanks and rubbish stay", "\"Bob\" , 1\r\n?\r\n", ann + "\"Bob\" , 1\r\n?\r\n"},
         {"in front of an empty name", bob + "\r\n\r\nnote\r\n", bob + ann + "\r\n\r\nnote\r\n"},
         {"replaced", "ANN" + kOld + bob, bob + ann, {kYes}},
         {"not replaced", "ANN" + kOld, "ANN" + kOld + ann, {kNo}},
         {"asked for each", oldAnn + "ann" + kOld, oldAnn + ann, {kNo, kYes}},
         {"one of two equal records", oldAnn + oldAnn, oldAnn + ann, {kYes, kNo}},
-        {"a damaged record of the same name", "Ann,1\r\n", "Ann,1\r\n" + ann},
+        {"in front of a damaged record", bob + "Ann,1\r\n" + bob, bob + ann + "Ann,1\r\n" + bob},
+        {"a bare CR at the end", "Bob,1,2\r", ann + "Bob,1,2\r\n"},
+        {"bare CRs", "Bob" + kBare + "\rCid" + kBare + "\r", bob + "Cid" + kOld + ann},
+        {"two CRs and no LF", "Bob" + kBare + "\r\r", bob + ann},
+        {"a mark inside", bob + byteOrderMark + oldAnn, bob + ann, {kYes}},
+        {"a line of a mark", bob + byteOrderMark + "\r\n" + bob, bob + bob + ann},
+        {"the DOS end mark", bob + "\x1A", bob + ann},
+        {"a DOS end mark inside", bob + "\x1A\r\n" + oldAnn, bob + ann, {kYes}},
+        {"a damaged record replaced",
+         "Ann,30 Xxx 2000,12.30,P,-1,-002.21,-33.52\r\n" + bob,
+         ann + bob,
+         {kYes}},
+        {"a name with control characters",
+         "",
+         "A B" + kRest,
+         {},
+         "\xEF\xBB\xBF"
+         "A\x1B"
+         "B\x07"},
         {"Windows-1252 becomes UTF-8", "Ren\xE9" + kOld, "René" + kOld + ann},
         {"accents in either case", "René" + kOld, "RENÉ" + kRest, {kYes}, "RENÉ"},
         {"a byte order mark", byteOrderMark + bob, byteOrderMark + bob + ann},
@@ -72,6 +100,7 @@ TEST(NameSavingTest, KeepsEveryOtherLineAsItIs) {
         EXPECT_TRUE(SaveTo(file, test.name, messages)) << test.what;
         EXPECT_EQ(FileContent(directory / "MY.FIL"), test.after) << test.what;
         EXPECT_EQ(FileContent(directory / "MY.OLD"), test.before) << test.what;
+        EXPECT_TRUE(ListShowsTheNewRecord(file)) << test.what;
         EXPECT_EQ(messages.told.size(), test.answers.size()) << test.what;
         EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"})) << test.what;
     }
@@ -125,13 +154,6 @@ TEST(NameSavingTest, WritesNothingOverABinaryFileOrADirectory) {
     EXPECT_FALSE(SaveTo("/dev/full", "Ann", messages));
     EXPECT_EQ(messages.told.size(), 3U);
     EXPECT_EQ(FileContent(directory / "MY.FIL"), binary);
-}
-
-TEST(NameSavingTest, NeverMakesTheFileItsOwnBackup) {
-    EXPECT_EQ(NamesBackupPath("/a/NAMES.FIL"), Path("/a/NAMES.OLD"));
-    EXPECT_EQ(NamesBackupPath("/a/names.old"), Path("/a/names.old.OLD"));
-    EXPECT_EQ(NamesBackupPath("/a/FIL"), Path("/a/FIL.OLD"));
-    EXPECT_EQ(NamesBackupPath("/a/N\u00C4MEN.\u00C4\u00D6\u00DC"), Path("/a/N\u00C4MEN.OLD"));
 }
 
 TEST(NameSavingTest, KeepsWhatAnotherProgramWritesMeanwhile) {
@@ -278,6 +300,9 @@ TEST(NameSavingTest, SurvivesBeingKilledAtAnyMoment) {
     }
     EXPECT_GT(count, kKills / 10) << "saves did happen";
     EXPECT_LE(directory.Names().size(), 4U) << "what killed programs leave does not pile up";
+    RecordingMessages messages;
+    EXPECT_TRUE(SaveTo(file, "Person " + std::to_string(count), messages));
+    EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"}));
 }
 
 TEST(NameSavingTest, TwoProgramsThatSaveAtOnceLoseNothing) {

@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <regex>
+#include <set>
 #include <sstream>
 
 #include "app/app_directory.h"
+#include "app/desktop_arguments.h"
 #include "app/options_file.h"
 #include "app/wheel_command.h"
 #include "support.h"
@@ -130,6 +132,12 @@ TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     EXPECT_THAT(RunWith({"--names", file.native(), "--name", "good"}).errors,
                 HasSubstr("no record with the name \"good\""));
     EXPECT_THAT(RunWith({"--names", (directory / "NONE.FIL").native()}).errors, HasSubstr("No such file"));
+    EXPECT_THAT(RunWith({"--names", "/dev/zero"}).errors, HasSubstr("/dev/zero: cannot be read: line 1 has"));
+    directory.Write("LATIN.FIL", "Ren\xE9\x1B[2J,22 Sep 1949,9.05,A,5,073.59,40.45\r\n");
+    const Outcome latin =
+        RunWith({"--names", (directory / "LATIN.FIL").native(), "--name", "Ren\xE9\x1B[2J"});
+    EXPECT_EQ(latin.status, kAllComputed) << latin.errors;
+    EXPECT_THAT(latin.output, HasSubstr("  René [2J\n"));
     EXPECT_THAT(RunWith({"--names", directory.path().native()}).errors, HasSubstr("Is a directory"));
 }
 
@@ -208,6 +216,8 @@ TEST(ChartCommand, WrongUsageIsExplained) {
                           {{"--houses", "X"}, "unknown house system \"X\""},
                           {{"--format", "xml"}, "unknown format \"xml\""},
                           {{"--now", "--birth", "x"}, "only one of"},
+                          {{"--now=3"}, "unknown argument \"--now=3\""},
+                          {{"--help=3"}, "unknown argument \"--help=3\""},
                           {{"--name", "Ann"}, "--name needs --names"},
                           {{"--place", "Rome"}, "--place needs FILE:CITY"},
                           {{"--place", "a:"}, "--place needs FILE:CITY"},
@@ -220,11 +230,25 @@ TEST(ChartCommand, WrongUsageIsExplained) {
                                {{"--wheel", "a.svg", "--size", "99"}, "--size needs a number of pixels"},
                                {{"--wheel", "a.svg", "--size", "big"}, "--size needs a number of pixels"},
                                {{"--wheel", "a.svg", "--names", "f"}, "--names needs --name"},
+                               {{"--wheel", "a.jpg"}, "a picture's name ends in .svg, .pdf or .png"},
                                {{"--wheel", "a.svg", "--format", "text"}, "unknown argument"}};
     for (const Case& c : wheelCases) {
         EXPECT_THAT(ParseWheelArguments(c.arguments).message(), HasSubstr(c.fault));
     }
     EXPECT_EQ(ParseCommandLine(std::vector<std::string_view>{"--houses=ea"})->houses, HouseSystem::EqualAsc);
+}
+
+// Every option that a text mentions; in a manual page the hyphens are escaped.
+std::set<std::string> OptionsIn(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '\\'), text.end());
+    const std::regex option("--[a-z-]+");
+    return {std::sregex_token_iterator(text.begin(), text.end(), option), std::sregex_token_iterator()};
+}
+
+TEST(ManualPages, TellEveryOptionOfTheUsageTexts) {
+    const std::string pages = DELIVERED_DATA_DIR "/../packaging/man/";
+    EXPECT_EQ(OptionsIn(FileContent(pages + "tolvanis-chart.1")), OptionsIn(std::string(kUsage)));
+    EXPECT_EQ(OptionsIn(FileContent(pages + "tolvanis.1")), OptionsIn(std::string(kDesktopUsage)));
 }
 
 std::string ScratchNames(const std::filesystem::path& directory) {
@@ -299,6 +323,34 @@ TEST(AppDirectory, AnUpgradeReachesTheUser) {
     EXPECT_EQ(FileContent(named.FindText("PRNTFILE.HLP")), formerBlock);
     EXPECT_FALSE(IsReadableFile(named.FindText("NEW.HLP")));
     EXPECT_EQ(FileContent(named.Find("TZ.DAT")), "8 new\r\n");
+}
+
+// Neither a link that points nowhere nor what cannot be searched stops or loses anything.
+TEST(AppDirectory, LinksAndClosedDirectoriesAreNoEnd) {
+    const ScratchDirectory scratch;
+    for (const auto* name : {"prefix/bin", "prefix/share/tolvanis", "home"}) {
+        std::filesystem::create_directories(scratch / name);
+    }
+    scratch.Write("prefix/share/tolvanis/OPTIONS.OPT", "8 orb\r\n");
+    scratch.Write("prefix/share/tolvanis/NAMES.FIL", "delivered\r\n");
+    std::filesystem::create_symlink("/media/stick/NAMES.FIL", scratch / "home/names.fil");
+    const DirectoryHints hints{std::nullopt, std::nullopt, scratch / "prefix/bin", scratch / "home"};
+    EXPECT_TRUE(ApplicationDirectory(hints, FirstStart::FillUserDirectory));
+    EXPECT_EQ(ScratchNames(scratch / "home"), "OPTIONS.OPT names.fil");
+    EXPECT_TRUE(std::filesystem::is_symlink(scratch / "home/names.fil"));
+
+    std::filesystem::create_symlink("loop", scratch / "loop");
+    DirectoryHints looping = hints;
+    looping.userDirectory = scratch / "loop/tolvanis";
+    EXPECT_THAT(ApplicationDirectory(looping, FirstStart::FillUserDirectory).message(),
+                HasSubstr("Too many levels"));
+    std::filesystem::create_directory(scratch / "gone");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(scratch / "gone");
+    std::filesystem::remove(scratch / "gone");
+    looping.fromCommandLine = ".";
+    EXPECT_NO_THROW(static_cast<void>(ApplicationDirectory(looping, FirstStart::LeaveAsIs)));
+    std::filesystem::current_path(before);
 }
 
 TEST(DeliveredOptions, AreCompleteAndSensible) {

@@ -13,19 +13,19 @@ std::string At(const std::array<std::string, kAsciiRows>& rows, int row, int col
     return rows[static_cast<std::size_t>(row - 1)].substr(static_cast<std::size_t>(column + 4), length);
 }
 
-// Worked out by hand: eight points crowd the eleventh house, where the North Node keeps its place but is not
-// written; South Node and Part of Fortune, alone and late in their houses, take the fifth place.
+// Worked out by hand: eight points crowd the eleventh house, where the North Node is not written and takes
+// no place; South Node and Part of Fortune, alone and late in their houses, take the fifth place.
 TEST(AsciiChart, DrawsToTheCharacter) {
     const std::array<std::string, kAsciiRows> expected = {
         "                 07 AQU             07 CAP             07 SAG                  ",
         "         *                            *                            *           ",
-        "            *                         *                         *              ",
-        "               UR22Aqu                * PF05Cap              *                 ",
-        "     07 PIS    SA20Aqu                *                   *        07 SCO      ",
-        "          *    JU18Aqu                *                *          *            ",
-        "              *  MA16Aqu*             *             *MO15Sco  *                ",
-        "        SU10Aqu   *    VE14Aqu        *          *        *                    ",
-        "                      *ME12Aqu*       *       *       *                        ",
+        "            *  UR22Aqu                *                         *              ",
+        "               SA20Aqu                * PF05Cap              *                 ",
+        "     07 PIS    JU18Aqu                *                   *        07 SCO      ",
+        "          *    MA16Aqu                *                *          *            ",
+        "              *  VE14Aqu*             *             *MO15Sco  *                ",
+        "                  *    ME12Aqu        *          *        *                    ",
+        "                      *SU10Aqu*       *       *       *                        ",
         "                          *      * ** * ** *      *                            ",
         "                              *               *                                ",
         "                             *                 *                               ",
@@ -61,9 +61,20 @@ TEST(AsciiChart, CrowdedHousesLeaveOutNodesAndRunOn) {
     EXPECT_THAT(rows, ::testing::Each(::testing::Not(::testing::HasSubstr("NN"))));
     EXPECT_THAT(rows, ::testing::Contains(::testing::HasSubstr("SN11Vir")));
     EXPECT_EQ(At(rows, 8, 4), "PF13Pis");
-    EXPECT_EQ(At(rows, 10, 4), "MO10Pis") << "the node's place stays empty";
-    EXPECT_EQ(At(rows, 14, 4), "JU05Pis") << "runs on into the first house's places";
-    EXPECT_EQ(At(rows, 18, 4), "SU01Pis");
+    EXPECT_EQ(At(rows, 9, 4), "MO10Pis") << "the node takes no place";
+    EXPECT_EQ(At(rows, 14, 4), "MA04Pis") << "runs on into the first house's places";
+    EXPECT_EQ(At(rows, 17, 4), "SU01Pis");
+}
+
+// Eight points and a node in one house: the node must not push a planet out of it.
+TEST(AsciiChart, ACrowdedHouseKeepsItsPlanets) {
+    const std::string born = "Crowded,5 Feb 1962,8.10,A,0,000.10,51.30";
+    const NatalData natal = NatalOf(born);
+    const auto rows = DrawAsciiChart(MakeWheelSnapshot(natal, ChartOf(born)));
+    for (const char* planet : {"SU", "MO", "ME", "VE", "MA", "JU", "SA"}) {
+        EXPECT_THAT(rows,
+                    ::testing::Contains(::testing::ContainsRegex(std::string(planet) + "[0-9]+(Aqu|Cap)")));
+    }
 }
 
 TEST(AsciiChart, AllInOneHouseEnds) {

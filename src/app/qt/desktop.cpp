@@ -1,6 +1,7 @@
 #include "app/qt/desktop.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
@@ -25,6 +26,8 @@ constexpr int kTitleOption = 48;
 constexpr int kNarrowestStrip = 200;  // pixels
 constexpr std::string_view kDataHelpFile = "OUTPUTD1.HLP";
 constexpr std::string_view kHelpPrintFile = "HELPFILE";
+constexpr const char* kUnsavedLostText =
+    "The changes in this window are not saved and will be lost. Restore the default settings?";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
 
 std::string MissingFileText(const Path& path) {
@@ -135,6 +138,16 @@ void Desktop::RegisterCommands() {
     for (const MenuItem& item : MainMenu()) {
         const bool command = !item.opensMenu && item.textFile.empty() && !item.houseSystem;
         if (command && !commands_.contains(item.control)) main_->ItemOf(item.control)->setEnabled(false);
+    }
+    connect(main_->ItemOf("mnuPhilosophy")->menu(), &QMenu::aboutToShow, this, &Desktop::EnableStudyTexts);
+    EnableStudyTexts();
+}
+
+// A study text can be chosen while its file is there.
+void Desktop::EnableStudyTexts() {
+    for (const MenuItem& item : MainMenu()) {
+        if (item.menu != "mnuPhilosophy") continue;
+        main_->ItemOf(item.control)->setEnabled(IsReadableFile(state_.files.FindText(item.textFile)));
     }
 }
 
@@ -278,7 +291,9 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
         if (!editor->MayClose()) return;
         delete editor;
     }
-    if (editor == nullptr) {
+    if (editor != nullptr) {
+        editor->Refresh();
+    } else {
         editor = new EditorWindow(use, file, services_.messages);
         connect(editor, &EditorWindow::saved, this, [this, use] { EditorSaved(use); });
         connect(editor, &EditorWindow::closed, this, [this, use] { EditorClosed(use); });
@@ -303,11 +318,17 @@ void Desktop::EditorClosed(EditorUse use) {
 }
 
 void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
+    const bool asks = editor.HasUnsavedChanges();
+    if (asks && services_.messages.AskYesNoCancel("Warning!", kUnsavedLostText) != Answer::Yes) return;
     if (!RestoreOptions(state_.files)) {
         services_.messages.Tell("Warning!", kRestoreFailedText, MessageIcon::Information);
         return;
     }
     editor.Load();
+    const std::string kept = BackupPath(state_.files.Own(kOptionsFileName)).filename().string();
+    services_.messages.Tell("Information",
+                            "The default settings are restored. The former ones are kept as " + kept + ".",
+                            MessageIcon::Information);
 }
 
 void Desktop::OutputD1_printFileWritten() {

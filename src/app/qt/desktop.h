@@ -74,6 +74,7 @@ class Desktop : public QObject {
     void MeasureScreen();
     void MakeWindows();
     void RegisterCommands();
+    void EnableStudyTexts();
     void PlaceMainWindow();
     void KeepMainPlacement();
     void ShowMainWindow();

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QShortcut>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "platform/qt/hourglass.h"
@@ -25,7 +26,7 @@ EditorWindow::EditorWindow(EditorUse use, const Path& file, Messages& messages)
     : info_(InfoOf(use)), file_(file), messages_(messages) {
     setObjectName(ToQt(info_.window));
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(ToQt(TitleOf(info_, file_)));
+    setWindowTitle(ToQt(TitleOf(info_, file)));
     Build();
     Load();
 }
@@ -62,21 +63,59 @@ void EditorWindow::Build() {
 
 void EditorWindow::Load() {
     const Hourglass hourglass;
-    const Result<std::string> text = EditorText(file_);
-    if (!text) messages_.Tell("Error!", text.message(), MessageIcon::Stop);
+    const Result<std::string> text = file_.Read();
     SetAreaText(*txtContent_, text ? *text : std::string());
+    txtContent_->setReadOnly(!text);
     txtContent_->setFocus();
+    if (!text) messages_.Tell("Error!", text.message(), MessageIcon::Stop);
+}
+
+void EditorWindow::Refresh() {
+    if (HasUnsavedChanges() || !file_.HasChanged()) return;
+    const int line = txtContent_->verticalScrollBar()->value();
+    Load();
+    txtContent_->verticalScrollBar()->setValue(line);
+}
+
+bool EditorWindow::HasUnsavedChanges() const {
+    return txtContent_->document()->isModified();
 }
 
 bool EditorWindow::btnSave_Click() {
-    const Result<void> written = ReplaceFile(file_, EditedFile(AreaText(*txtContent_)));
-    if (!written) {
-        messages_.Tell("Error!", written.message(), MessageIcon::Stop);
-        return false;
+    Refresh();
+    while (true) {
+        const Result<bool> saved = file_.Save(AreaText(*txtContent_));
+        if (!saved) {
+            messages_.Tell("Error!", saved.message(), MessageIcon::Stop);
+            return false;
+        }
+        if (*saved) break;
+        if (!Overwrites()) return false;
     }
     txtContent_->document()->setModified(false);
     Q_EMIT saved();
     return true;
+}
+
+// Asks what to do with a file that has changed since it was read here.
+bool EditorWindow::Overwrites() {
+    EditorFile present = file_;
+    const Result<std::string> changes = present.TakeChanges();
+    if (!changes) {
+        messages_.Tell("Error!", changes.message(), MessageIcon::Stop);
+        return false;
+    }
+    const std::string name = file_.path().filename().string();
+    const Answer answer = messages_.AskYesNoCancel(
+        "Warning!",
+        name + " has been changed by another window or program since it was opened here.\r\n\r\n" + *changes +
+            "\r\nDo you want to overwrite it with the text of this window? Its present "
+            "content is then kept as " +
+            BackupPath(name).string() + ". Answering 'NO' gives up the changes made here and shows " + name +
+            " as it is.");
+    if (answer == Answer::Yes) file_ = std::move(present);
+    if (answer == Answer::No) Load();
+    return answer == Answer::Yes;
 }
 
 void EditorWindow::btnQuit_Click() {
@@ -84,12 +123,17 @@ void EditorWindow::btnQuit_Click() {
 }
 
 bool EditorWindow::MayClose() {
-    if (!info_.asksOnUnsavedChanges || !txtContent_->document()->isModified()) return true;
-    const Answer answer =
-        messages_.AskYesNoCancel("Warning!", "The changes in " + std::string(FileNamePart(file_.string())) +
-                                                 " are not saved. Save them?");
+    if (!info_.asksOnUnsavedChanges || !HasUnsavedChanges()) return true;
+    const Answer answer = messages_.AskYesNoCancel(
+        "Warning!", "The changes in " + file().filename().string() + " are not saved. Save them?");
     if (answer == Answer::Yes) return btnSave_Click();
     return answer == Answer::No;
+}
+
+bool EditorWindow::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate) Refresh();
+    return handled;
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {

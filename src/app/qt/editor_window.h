@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include "app/editor_file.h"
 #include "app/editor_uses.h"
 #include "platform/messages.h"
 
@@ -19,7 +20,8 @@ class EditorWindow : public QWidget {
     EditorWindow(EditorUse use, const Path& file, Messages& messages);
 
     EditorUse use() const { return info_.use; }
-    const Path& file() const { return file_; }
+    const Path& file() const { return file_.path(); }
+    bool HasUnsavedChanges() const;
 
     // Asks what to do with unsaved changes, where this use asks. Returns whether the window may close.
     bool MayClose();
@@ -31,17 +33,21 @@ class EditorWindow : public QWidget {
 
   public Q_SLOTS:
     void Load();
+    // Loads the file again when it has changed and the text has not.
+    void Refresh();
     bool btnSave_Click();
     void btnQuit_Click();
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void Build();
+    bool Overwrites();
 
     const EditorUseInfo& info_;
-    Path file_;
+    EditorFile file_;
     Messages& messages_;
     QPlainTextEdit* txtContent_;
 };

@@ -7,7 +7,7 @@ namespace tolvanis {
 
 class DesktopFileDialogs : public FileDialogs {
   public:
-    // The chooser starts at the application directory.
+    // The chooser starts at the application directory where there is no current file.
     explicit DesktopFileDialogs(const Path& applicationDirectory) : directory_(applicationDirectory) {}
 
     std::string ChooseFile(const std::string& pattern, const std::string& currentPath) override;

@@ -26,6 +26,13 @@ bool HoldsFiles(const QStorageInfo& volume) {
            !below("/run/") && !below("/snap") && !below("/boot");
 }
 
+Path StartDirectory(const Path& applicationDirectory, const std::string& currentPath) {
+    const Path current = AbsolutePath(FindPath(PathFromText(currentPath))).parent_path();
+    std::error_code error;
+    const bool exists = !currentPath.empty() && std::filesystem::is_directory(current, error);
+    return exists ? current : FindPath(applicationDirectory);
+}
+
 // A list in which a long name goes on in a second line; what still has no room is in the tool tip.
 QListWidget* MakeList() {
     auto* list = new QListWidget;
@@ -57,7 +64,7 @@ SelectFIle::SelectFIle(const Path& applicationDirectory, const std::string& patt
     setObjectName(QStringLiteral("SelectFIle"));
     setWindowTitle(QStringLiteral("Select a File"));
     Build();
-    ShowDirectory(FindPath(applicationDirectory));
+    ShowDirectory(StartDirectory(applicationDirectory, currentPath));
     FillDrives();
     filList_->setFocus();
 }

@@ -14,8 +14,8 @@ namespace tolvanis {
 
 class ElidedLabel;
 
-// A modal dialog of drives, directories and the files that fit a pattern. It starts at the application
-// directory.
+// A modal dialog of drives, directories and the files that fit a pattern. It starts where the current file
+// is, with that file selected, or at the application directory.
 class SelectFIle : public QDialog {
     Q_OBJECT
 

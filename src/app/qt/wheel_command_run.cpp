@@ -6,13 +6,14 @@
 
 #include "app/desktop_arguments.h"
 #include "platform/qt/symbol_font.h"
+#include "platform/terminal.h"
 #include "wheel/qt/wheel_export.h"
 
 namespace tolvanis {
 namespace {
 
 ExitStatus Refuse(const std::string& fault) {
-    std::cerr << "tolvanis: " << fault << "\n";
+    TellOn(std::cerr, "tolvanis: " + fault);
     return kSomethingRefused;
 }
 
@@ -21,7 +22,7 @@ ExitStatus Refuse(const std::string& fault) {
 ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments) {
     const Result<WheelArguments> wheel = ParseWheelArguments(arguments);
     if (!wheel) {
-        std::cerr << "tolvanis: " << wheel.message() << "\n\n" << kDesktopUsage;
+        TellOn(std::cerr, "tolvanis: " + wheel.message() + "\n\n" + std::string(kDesktopUsage));
         return kWrongUsage;
     }
     const Result<WheelPicture> picture = PrepareWheel(*wheel);
@@ -37,8 +38,7 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
     }
     const double size = wheel->size;
     const Result<void> written =
-        ExportWheel({picture->chart, picture->data, picture->options, wheel->type, size, size},
-                    PathFromText(wheel->file));
+        ExportWheel({picture->chart, picture->data, picture->options, wheel->type, size, size}, wheel->file);
     return written ? kAllComputed : Refuse(written.message());
 }
 

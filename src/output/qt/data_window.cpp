@@ -208,18 +208,19 @@ void OutputD1::mnuSave_Click() {
 
 void OutputD1::mnuSaveAs_Click() {
     if (!BufferHasData("No data to write to file.")) return;
-    const std::string path = context_.dialogs.ChooseSaveFile({context_.applicationDirectory,
-                                                              ProposedFileName(context_.natal.Name, ".DOC"),
-                                                              "Data Files", "*.DOC", "doc"});
-    if (path.empty()) return;
-    context_.SaveFileName = path;
+    const std::optional<Path> path =
+        ChooseOutput(context_.dialogs, context_.messages,
+                     {context_.applicationDirectory, ProposedFileName(context_.natal.Name, ".DOC"),
+                      "Data Files", "*.DOC", "doc"});
+    if (!path) return;
+    context_.SaveFileName = path->string();
     WriteSaveFile();
 }
 
 void OutputD1::WriteSaveFile() {
     const std::string text =
         SavedListing(context_.buffer.BufferLines(), context_.options[kLinesPerSavedPageOption]);
-    const Result<void> written = ReplaceFile(PathFromText(context_.SaveFileName), text);
+    const Result<void> written = ReplaceFile(context_.SaveFileName, text);
     if (!written) context_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
 }
 

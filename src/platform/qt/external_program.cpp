@@ -15,8 +15,9 @@ ProgramRun RunAndWait(const Path& program) {
     QObject::connect(process.get(), &QProcess::finished, &loop, &QEventLoop::quit);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &loop, &QEventLoop::quit);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
-    process->setWorkingDirectory(ToQt(program.parent_path().string()));
-    process->start(ToQt(program.string()), QStringList());
+    const Path absolute = AbsolutePath(program);  // it starts in its own directory
+    process->setWorkingDirectory(ToQt(absolute.parent_path().string()));
+    process->start(ToQt(absolute.string()), QStringList());
     if (!process->waitForStarted()) return ProgramRun::NotStarted;
     if (process->state() != QProcess::NotRunning) loop.exec();
     if (process->state() == QProcess::NotRunning) return ProgramRun::Ended;

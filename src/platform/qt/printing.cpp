@@ -35,8 +35,8 @@ bool TellFault(const PrintServices& services, const std::string& text) {
 
 bool PrintToPdf(const PrintServices& services, const std::string& documentName, const PaintDocument& paint) {
     const SaveRequest request = {services.directory, documentName + ".pdf", "PDF Files", "*.pdf", "pdf"};
-    const std::string path = services.dialogs.ChooseSaveFile(request);
-    if (path.empty()) return false;
+    const std::optional<Path> path = ChooseOutput(services.dialogs, services.messages, request);
+    if (!path) return false;
     const Hourglass hourglass;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -51,7 +51,7 @@ bool PrintToPdf(const PrintServices& services, const std::string& documentName, 
     }
     const QByteArray& bytes = buffer.data();
     const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    const Result<void> written = ReplaceFile(PathFromText(path), content);
+    const Result<void> written = ReplaceFile(*path, content);
     return written || TellFault(services, written.message());
 }
 

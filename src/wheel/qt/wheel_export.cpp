@@ -5,10 +5,10 @@
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSvgGenerator>
-#include <algorithm>
+#include <array>
 
 #include "platform/qt/painter_surface.h"
-#include "text/columns.h"
+#include "wheel/picture_format.h"
 
 namespace tolvanis {
 namespace {
@@ -55,25 +55,18 @@ bool WritePng(const WheelRequest& request, QBuffer& buffer) {
     return image.save(&buffer, "PNG");
 }
 
-struct PictureFormat {
-    std::string_view extension;
-    bool (*write)(const WheelRequest&, QBuffer&);
-};
-constexpr std::array kFormats = {PictureFormat{".svg", WriteSvg}, PictureFormat{".pdf", WritePdf},
-                                 PictureFormat{".png", WritePng}};
+using Write = bool (*)(const WheelRequest&, QBuffer&);
+constexpr std::array<Write, 3> kWriters = {WriteSvg, WritePdf, WritePng};  // by PictureFormat
 
 }  // namespace
 
 Result<void> ExportWheel(const WheelRequest& request, const Path& file) {
-    const std::string extension = file.extension().string();
-    const auto format = std::ranges::find_if(
-        kFormats, [&](const PictureFormat& known) { return EqualIgnoringCase(known.extension, extension); });
-    if (format == kFormats.end()) {
-        return Fault{"\"" + file.string() + "\": a picture's name ends in .svg, .pdf or .png"};
-    }
+    const std::optional<PictureFormat> format = PictureFormatOf(file);
+    if (!format) return Fault{NoPictureName(file)};
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    if (!format->write(request, buffer)) return Fault{"The picture is too large to be drawn."};
+    if (!kWriters[static_cast<std::size_t>(*format)](request, buffer))
+        return Fault{"The picture is too large to be drawn."};
     const QByteArray& bytes = buffer.data();
     return ReplaceFile(file, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }

@@ -183,11 +183,12 @@ void Wheels::PrintHalfPage() {
 }
 
 void Wheels::mnuExport_Click() {
-    const std::string file = context_.printing.dialogs.ChooseSaveFile(
+    const std::optional<Path> file = ChooseOutput(
+        context_.printing.dialogs, context_.printing.messages,
         {context_.printing.directory, DocumentName() + ".svg", "Pictures", "*.svg *.pdf *.png", "svg"});
-    if (file.empty()) return;
+    if (!file) return;
     const Hourglass hourglass;
-    const Result<void> written = ExportWheel(RequestFor(canvas_->size(), false), PathFromText(file));
+    const Result<void> written = ExportWheel(RequestFor(canvas_->size(), false), *file);
     if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Warning);
 }
 

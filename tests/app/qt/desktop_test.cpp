@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QRadioButton>
@@ -117,6 +118,24 @@ TEST_F(DesktopWindow, SavesUnderTheProposedNameAndThenWithoutAsking) {
     EXPECT_EQ(dialogs_.saveRequests.size(), 2U) << "a new input asks for a file again";
 }
 
+TEST_F(DesktopWindow, SaveAsReplacesNoFileOfAnotherSpelling) {
+    TypeBirth();
+    PressOK();
+    directory_.Write("Ann.DOC", "Ann Smith's");
+    dialogs_.answer = (directory_ / "ANN.DOC").string();
+    messages_.answers = {Answer::Cancel, Answer::No, Answer::Yes};
+    ChooseInData("mnuSaveAs");
+    EXPECT_NE(messages_.asked.at(0).find("a file called Ann.DOC already"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(directory_ / "ANN.DOC"));
+    ChooseInData("mnuSaveAs");
+    EXPECT_TRUE(std::filesystem::exists(directory_ / "ANN.DOC"));
+    EXPECT_EQ(FileContent(directory_ / "Ann.DOC"), "Ann Smith's");
+    std::filesystem::remove(directory_ / "ANN.DOC");
+    ChooseInData("mnuSaveAs");
+    EXPECT_FALSE(std::filesystem::exists(directory_ / "ANN.DOC"));
+    EXPECT_NE(FileContent(directory_ / "Ann.DOC"), "Ann Smith's");
+}
+
 TEST_F(DesktopWindow, AFailedSaveNamesFileAndReasonAndKeepsTheData) {
     TypeBirth();
     PressOK();
@@ -210,11 +229,16 @@ TEST_F(DesktopWindow, TextItemsShowTheirFileOrNameTheMissingOne) {
     }
     directory_.Write("what_ast.txt", "What is astrology?\r\n");
     for (const MenuItem& item : MainMenu()) {
-        if (item.textFile.empty() || item.textFile == "WHAT_AST.TXT") continue;
+        if (item.textFile.empty() || item.menu == "mnuPhilosophy") continue;
         Choose(item.control.c_str());
         ASSERT_EQ(messages_.told.size(), 1U) << item.control;
         EXPECT_EQ(messages_.TakeTold()[0], "Warning!: Cannot find the file called " +
                                                (directory_.path() / item.textFile).string() + ".");
+    }
+    Q_EMIT desktop_->mainWindow().ItemOf("mnuPhilosophy")->menu()->aboutToShow();
+    for (const MenuItem& item : MainMenu()) {
+        if (item.menu != "mnuPhilosophy") continue;
+        EXPECT_EQ(desktop_->mainWindow().ItemOf(item.control)->isEnabled(), item.textFile == "WHAT_AST.TXT");
     }
     Choose("mnuPhilosophy01");
     EXPECT_TRUE(ListingHas("What is astrology?"));
@@ -272,8 +296,15 @@ TEST_F(DesktopWindow, EditedOptionsAreReadAfreshAndCanBeRestored) {
     Press(*editor, "btnSave");
     EXPECT_EQ(state_.options[1], 18.0F);
     EXPECT_TRUE(desktop_->mainWindow().windowTitle().startsWith(QStringLiteral("TOLVANIS - ")));
+    const std::string former = FileContent(directory_ / "OPTIONS.OPT");
+    content.insertPlainText(QStringLiteral("x"));
+    messages_.answers = {Answer::Cancel, Answer::Yes};
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), former) << "unsaved changes are asked about";
     Press(*editor, "cmdRestoreDefault");
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), FileContent(directory_ / "OPTIONS.MAS"));
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), former);
+    EXPECT_NE(messages_.TakeTold().at(0).find("kept as OPTIONS.OLD"), std::string::npos);
     EXPECT_EQ(state_.options[1], 18.0F) << "restored options are read at the next save or start";
     std::filesystem::remove(directory_.path() / "OPTIONS.MAS");
     Press(*editor, "cmdRestoreDefault");
@@ -295,6 +326,43 @@ TEST_F(DesktopWindow, UnsavedChangesAreAskedAboutBeforeAnythingCloses) {
     Choose("mnuFileExit");
     EXPECT_EQ(ended.count(), 1);
     EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "xAnn\u00a0Smith\r\n");
+}
+
+// The file of an open editor is saved by another window or program.
+TEST_F(DesktopWindow, AnEditorWipesNothingOutThatWasSavedMeanwhile) {
+    directory_.Write("PERSONAL.NAM", "Ann\r\n");
+    Choose("mnuHeader");
+    auto* editor = TopWindow<EditorWindow>();
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    directory_.Write("PERSONAL.NAM", "Ann\r\nBob\r\n");
+    Press(*editor, "btnSave");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "Ann\r\nBob\r\n");
+    directory_.Write("PERSONAL.NAM", "Ann\r\nCid\r\n");
+    Choose("mnuHeader");
+    EXPECT_EQ(content.toPlainText(), QStringLiteral("Ann\nCid\n")) << "an unchanged text follows the file";
+
+    content.insertPlainText(QStringLiteral("x"));
+    directory_.Write("PERSONAL.NAM", "Ann\r\nEve\r\n");
+    messages_.answers = {Answer::Cancel, Answer::Yes, Answer::No};
+    Press(*editor, "btnSave");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "Ann\r\nEve\r\n");
+    EXPECT_NE(messages_.asked.at(0).find("New since then:\r\n    Eve\r\nGone since then:\r\n    Cid"),
+              std::string::npos);
+    Press(*editor, "btnSave");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "xAnn\r\nCid\r\n");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.OLD"), "Ann\r\nEve\r\n");
+    content.insertPlainText(QStringLiteral("y"));
+    directory_.Write("PERSONAL.NAM", "Fay\r\n");
+    Press(*editor, "btnSave");
+    EXPECT_EQ(content.toPlainText(), QStringLiteral("Fay\n")) << "No gives up what was typed";
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "Fay\r\n");
+
+    std::filesystem::remove(directory_ / "PERSONAL.NAM");
+    std::filesystem::create_symlink("/proc/self/mem", directory_ / "PERSONAL.NAM");
+    delete editor;
+    Choose("mnuHeader");
+    EXPECT_NE(messages_.TakeTold().at(0).find("PERSONAL.NAM: Input/output error"), std::string::npos);
+    EXPECT_TRUE(Find<QPlainTextEdit>(*TopWindow<EditorWindow>(), "txtContent").isReadOnly());
 }
 
 TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
@@ -579,6 +647,13 @@ TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {
         EXPECT_EQ(chooser.windowTitle(), QStringLiteral("Select a File"));
         Press(chooser, "cmdSelect");
         EXPECT_EQ(chooser.result(), (directory.path() / "names.fil").string());
+    }
+    {
+        const std::string current = (directory.path() / "sub/c.fil").string();
+        SelectFIle chooser(directory.path(), "*.FIL", current);
+        EXPECT_EQ(Find<QListWidget>(chooser, "filList").count(), 1) << "opens where the current file is";
+        Press(chooser, "cmdSelect");
+        EXPECT_EQ(chooser.result(), (directory.path() / "sub/C.FIL").string());
     }
     {
         SelectFIle chooser(directory.path(), "*.FIL", "");

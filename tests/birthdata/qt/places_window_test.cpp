@@ -102,6 +102,8 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         if (std::string(test.what) == "a good one") {
             EXPECT_EQ(place->longitude->degrees, "122");
             EXPECT_GT(ticks, 3) << "the windows stay alive";
+            std::string relative = std::filesystem::relative(directory.path()).string() + "/";
+            EXPECT_TRUE(lookup.LookUp(relative)) << "from where the program was started";
         }
     }
 }
