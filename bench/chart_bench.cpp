@@ -36,7 +36,7 @@ void Printed(benchmark::State& state, Print print) {
     for (auto _ : state) {
         const NatalData natal = Birth(i++);
         const auto positions = ComputePositions(natal);
-        const CurrentChart chart{natal, *positions, FindAspects(*positions, options), true};
+        const CurrentChart chart{natal, *positions, FindAspects(*positions, options)};
         benchmark::DoNotOptimize(print(chart, options));
     }
     state.SetItemsProcessed(state.iterations());

@@ -6,6 +6,7 @@
 #include "app/settings_file.h"
 #include "astro/natal_chart.h"
 #include "birthdata/names_file.h"
+#include "interp/report_buffer.h"
 #include "platform/data_files.h"
 #include "platform/screen_constants.h"
 #include "text/dates.h"
@@ -27,6 +28,7 @@ struct ProgramState {
     CurrentChart chart;
     bool chartComputed = false;
     DataBuffer buffer;
+    ReportBuffer report;
     std::string SaveFileName;  // where Save writes, for listings and reports; empty until the user has chosen
 };
 

@@ -52,6 +52,15 @@ std::string_view PointName(int point);
 // The ten-character name of a chart point in the listing: "SUN       ".
 std::string_view ListingPointName(int point);
 
+inline constexpr std::array<std::string_view, 12> kSignNames = {
+    "Aries", "Taurus",  "Gemini",      "Cancer",    "Leo",      "Virgo",
+    "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
+
+// The name of a sign, 1 to 12.
+constexpr std::string_view SignName(int sign) {
+    return kSignNames[static_cast<std::size_t>(sign - 1)];
+}
+
 // "ARI" to "PIS" for signs 1 to 12.
 std::string_view SignAbbreviation(int sign);
 

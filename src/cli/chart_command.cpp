@@ -11,10 +11,11 @@ namespace {
 // Computes and prints single charts, and remembers whether one was refused.
 class ChartPrinter : public EntryReceiver {
   public:
-    ChartPrinter(const ChartRequest& request, const Options& options, const Sink& output,
+    ChartPrinter(const ChartRequest& request, const CommandData& data, const Sink& output,
                  std::ostream& errors)
-        : options_(options),
-          houses_(request.houses.value_or(HouseSystemOfOption(options[27]))),
+        : options_(data.options),
+          files_(data.files),
+          houses_(request.houses.value_or(HouseSystemOfOption(data.options[27]))),
           format_(request.format),
           output_(output),
           errors_(errors),
@@ -34,6 +35,8 @@ class ChartPrinter : public EntryReceiver {
                 return Write(ChartAsJson(chart));
             case OutputFormat::Ascii:
                 return Write(ChartAsAscii(chart));
+            case OutputFormat::Report:
+                return WriteReport(chart, source);
         }
     }
 
@@ -46,6 +49,11 @@ class ChartPrinter : public EntryReceiver {
     ExitStatus status() const { return status_; }
 
   private:
+    void WriteReport(const CurrentChart& chart, const std::string& source) {
+        const Result<std::string> report = ChartAsReport(chart, options_, files_);
+        report ? Write(*report) : Refuse(source, report.message());
+    }
+
     void Write(const std::string& text) {
         if (canWrite_ && !output_(text)) {
             canWrite_ = false;
@@ -54,6 +62,7 @@ class ChartPrinter : public EntryReceiver {
     }
 
     const Options& options_;
+    const DataFiles& files_;
     HouseSystem houses_;
     OutputFormat format_;
     const Sink& output_;
@@ -72,7 +81,7 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
         TellOn(errors, data.message());
         return kSomethingRefused;
     }
-    ChartPrinter printer(request, data->options, output, errors);
+    ChartPrinter printer(request, *data, output, errors);
     ReadBirths(request, data->options, data->files, clock, printer);
     return printer.status();
 }

@@ -4,6 +4,8 @@
 
 #include "app/chart_driver.h"
 #include "chart/angles.h"
+#include "interp/natal_report.h"
+#include "interp/report_pages.h"
 #include "wheel/ascii_chart.h"
 
 namespace tolvanis {
@@ -125,6 +127,14 @@ std::string ChartAsAscii(const CurrentChart& chart) {
     WriteAsciiChart(buffer, MakeWheelSnapshot(chart.natal, chart.positions));
     buffer.AppendBlankLine();
     return buffer.ListingText("\n");
+}
+
+Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files) {
+    ReportBuffer report;
+    const std::vector<std::string> personalBlock = ReadPersonalBlock(files);
+    BuildNatalReport(report, {chart, options, files, personalBlock});
+    if (report.overflowed()) return Fault{"the report is longer than 32,767 lines"};
+    return SavedReport(report, ReportPageFormOf(options), "\n");
 }
 
 std::string ChartAsJson(const CurrentChart& chart) {

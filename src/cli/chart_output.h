@@ -4,6 +4,7 @@
 #include <string>
 
 #include "astro/natal_chart.h"
+#include "platform/data_files.h"
 
 namespace tolvanis {
 
@@ -12,6 +13,10 @@ std::string ChartAsText(const CurrentChart& chart, const Options& options);
 
 // The ASCII chart as the Data window shows it, with the host's line ends.
 std::string ChartAsAscii(const CurrentChart& chart);
+
+// The natal report in pages as the viewer saves it, with the host's line ends, made of the texts and the
+// personal block of the application directory. A fault when it is longer than a report can be.
+Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files);
 
 // One JSON object and a line end: the members that docs/file-formats.md names, numbers at full precision,
 // angles in degrees.

@@ -6,7 +6,7 @@ namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--place FILE:CITY] [--houses CODE] [--format text|json|ascii]\n"
+    "                      [--place FILE:CITY] [--houses CODE] [--format FORMAT]\n"
     "                      [--app-dir DIR] [--output FILE]\n"
     "\n"
     "Computes natal charts and prints them.\n"
@@ -27,8 +27,9 @@ const std::string_view kUsage =
     "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
-    "  --format FORMAT  text (the listing), json (one object a line) or\n"
-    "                   ascii (the wheel drawn in characters)\n"
+    "  --format FORMAT  text (the listing), json (one object a line), ascii\n"
+    "                   (the wheel drawn in characters) or report (the natal report in\n"
+    "                   pages, a form feed after each)\n"
     "  --app-dir DIR    the directory that holds OPTIONS.OPT\n"
     "  --output FILE    write there instead of to standard output\n"
     "  --help           print this and end\n"
@@ -43,9 +44,9 @@ struct FormatName {
     std::string_view name;
     OutputFormat format;
 };
-constexpr std::array kFormats = {FormatName{"text", OutputFormat::Text},
-                                 FormatName{"json", OutputFormat::Json},
-                                 FormatName{"ascii", OutputFormat::Ascii}};
+constexpr std::array kFormats = {
+    FormatName{"text", OutputFormat::Text}, FormatName{"json", OutputFormat::Json},
+    FormatName{"ascii", OutputFormat::Ascii}, FormatName{"report", OutputFormat::Report}};
 
 Result<void> SetFormat(ChartRequest& request, const std::string& name) {
     for (const FormatName& known : kFormats) {
@@ -53,7 +54,7 @@ Result<void> SetFormat(ChartRequest& request, const std::string& name) {
         request.format = known.format;
         return {};
     }
-    return Fault{"unknown format \"" + name + "\" (text, json or ascii)"};
+    return Fault{"unknown format \"" + name + "\" (text, json, ascii or report)"};
 }
 
 Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {

@@ -10,7 +10,7 @@
 
 namespace tolvanis {
 
-enum class OutputFormat { Text, Json, Ascii };
+enum class OutputFormat { Text, Json, Ascii, Report };
 
 struct ChartRequest : BirthArguments {
     OutputFormat format = OutputFormat::Text;

@@ -38,14 +38,22 @@ std::string ProposedFileName(std::string_view personName, std::string_view exten
     return stem.append(extension);
 }
 
-Result<int> ListTextFile(DataBuffer& buffer, const Path& path) {
+Result<int> ListTextFile(DataBuffer& buffer, const Path& path, TextUse use) {
     const Result<std::vector<std::string>> lines = ReadLines(path);
+    if (use == TextUse::Lesson) {
+        buffer.ClearDataBuffer();
+        buffer.AppendBlankLine();
+    }
     if (!lines) return lines.fault();
-    if (lines->empty()) return 0;
-    buffer.StartListing();
-    for (const std::string& line : *lines) buffer.AppendLine(line);
-    buffer.AppendBlankLine();
+    if (use == TextUse::Reading && !lines->empty()) buffer.StartListing();
+    const std::string_view indent = use == TextUse::Lesson ? kListingIndent : "";
+    for (const std::string& line : *lines) buffer.AppendLine(std::string(indent).append(line));
+    if (use == TextUse::Reading && !lines->empty()) buffer.AppendBlankLine();
     return static_cast<int>(lines->size());
+}
+
+std::string MissingFileText(const Path& path) {
+    return "Cannot find the file called " + path.string() + ".";
 }
 
 }  // namespace tolvanis

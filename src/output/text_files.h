@@ -15,6 +15,9 @@ namespace tolvanis {
 // The file through which the print commands hand their text to the print window.
 inline constexpr std::string_view kPrintFileName = "PRNTFILE.XXX";
 
+// What stands in front of every line of a listing of lessons or meanings.
+inline constexpr std::string_view kListingIndent = "  ";
+
 // The user's own name and address, printed under a full-page wheel.
 inline constexpr std::string_view kPersonalBlockName = "PERSONAL.NAM";
 
@@ -30,9 +33,18 @@ std::string PrintFileText(std::span<const std::string> lines);
 // (".DOC"). Characters that separate directories become "_"; without a name it is "CHART".
 std::string ProposedFileName(std::string_view personName, std::string_view extension);
 
-// Makes the file's lines and one blank line the buffer's new listing; the returned number is that of the
-// lines read. A file that cannot be read gives a fault, an empty one nothing, and both leave the buffer as it
-// is.
-Result<int> ListTextFile(DataBuffer& buffer, const Path& path);
+// How a text file becomes a listing.
+enum class TextUse {
+    Reading,  // the lines and one blank line; a file that cannot be read or is empty leaves the buffer as it
+              // is
+    Lesson,   // alone in the buffer: one blank line, then the lines, set in by two blanks
+};
+
+// Makes a text file the buffer's new listing; the returned number is that of the lines read. A fault names
+// the file that cannot be read.
+Result<int> ListTextFile(DataBuffer& buffer, const Path& path, TextUse use = TextUse::Reading);
+
+// What the user is told of a text file that cannot be found.
+std::string MissingFileText(const Path& path);
 
 }  // namespace tolvanis

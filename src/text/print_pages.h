@@ -10,6 +10,7 @@ namespace tolvanis {
 struct PrintText {
     std::vector<std::vector<std::string>> pages;
     int pointSize = 12;
+    bool wholePages = false;  // a page is never continued on another sheet: its lines move closer instead
 };
 
 // Whether a line is longer than `longest` characters; a limit below 1 lets every text pass.

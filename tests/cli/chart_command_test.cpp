@@ -106,6 +106,33 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
               RunWith({"--names", DELIVERED_DATA_DIR "/NAMES.FIL", "--format", "json"}).output);
 }
 
+// Title page and one page of text for each birth, from the texts and the personal block of the directory
+// given.
+TEST(ChartCommand, ReportsFollowOneAnotherInPages) {
+    const ScratchDirectory directory;
+    std::filesystem::copy(DELIVERED_DATA_DIR "/OPTIONS.OPT", directory.path());
+    directory.Write("PERSONAL.NAM", "Ann\r\n");
+    directory.Write("philo.hlp", "outlook\r\n");
+    const auto names = directory.Write("A.FIL", "Zoe" + kRest + "Max" + kRest);
+    const auto request = ParseCommandLine(std::vector<std::string_view>{
+        "--names", names.native(), "--format", "report", "--app-dir", directory.path().native()});
+    std::string output;
+    std::ostringstream errors;
+    const Sink sink = [&](std::string_view text) { return !output.append(text).empty(); };
+    EXPECT_EQ(RunChartCommand(*request, sink, errors), kAllComputed) << errors.str();
+    const std::string data =
+        "\n\n\n       22 SEP 1949    TZ = 5.0      9.05 A.M.   40.45 NORTH    73.59 WEST\n";
+    std::string expected;
+    for (const char* name : {"ZOE", "MAX"}) {
+        expected += std::string(5, '\n') + std::string(32, ' ') + "NATAL REPORT FOR\n\n" +
+                    std::string(39, ' ') + name + data + std::string(49, '\n') + std::string(39, ' ') +
+                    "Ann\n" + std::string(5, '\n') + "\f\n";
+        expected += std::string(5, '\n') + "outlook\n" + std::string(59, '\n') + std::string(37, ' ') +
+                    "Page 2\n\f\n";
+    }
+    EXPECT_EQ(output, expected);
+}
+
 TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     const ScratchDirectory directory;
     const auto file = directory.Write("A.FIL",

@@ -12,7 +12,6 @@
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
-#include "output/text_files.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/text.h"
@@ -29,10 +28,6 @@ constexpr std::string_view kHelpPrintFile = "HELPFILE";
 constexpr const char* kUnsavedLostText =
     "The changes in this window are not saved and will be lost. Restore the default settings?";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
-
-std::string MissingFileText(const Path& path) {
-    return "Cannot find the file called " + path.string() + ".";
-}
 
 // The settings hold the height of the whole window, caption included.
 int CaptionHeight() {
@@ -103,7 +98,8 @@ void Desktop::MeasureScreen() {
 void Desktop::MakeWindows() {
     main_ = std::make_unique<TOLVANIS>();
     connect(main_.get(), &TOLVANIS::exitRequested, this, &Desktop::Exit);
-    connect(main_.get(), &TOLVANIS::textFileChosen, this, &Desktop::ShowTextFile);
+    connect(main_.get(), &TOLVANIS::textFileChosen, this,
+            [this](const std::string& file) { ShowTextFile(file); });
     connect(main_.get(), &TOLVANIS::houseSystemChosen, this, &Desktop::mnuHouse_Click);
     connect(main_.get(), &TOLVANIS::commandChosen, this,
             [this](const std::string& control) { commands_.at(control)(); });
@@ -115,9 +111,16 @@ void Desktop::MakeWindows() {
     connect(births_.get(), &BirthDesk::editorRequested, this, &Desktop::ShowEditor);
     wheel_ = std::make_unique<WheelDesk>(state_, printing_);
     connect(wheel_.get(), &WheelDesk::dataBufferRequested, this, &Desktop::ShowDataBuffer);
-    connect(wheel_.get(), &WheelDesk::textFileRequested, this, &Desktop::ShowTextFile);
+    connect(wheel_.get(), &WheelDesk::textFileRequested, this,
+            [this](const std::string& file) { ShowTextFile(file); });
     connect(wheel_.get(), &WheelDesk::editorRequested, this, &Desktop::ShowEditor);
     connect(wheel_.get(), &WheelDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
+
+    interp_ = std::make_unique<InterpDesk>(state_, printing_);
+    connect(interp_.get(), &InterpDesk::dataBufferRequested, this, &Desktop::ShowDataBuffer);
+    connect(interp_.get(), &InterpDesk::lessonRequested, this,
+            [this](const std::string& file) { ShowTextFile(file, TextUse::Lesson); });
+    connect(interp_.get(), &InterpDesk::mainWindowRequested, this, &Desktop::FocusMainWindow);
 
     clock_.setInterval(1000);
     connect(&clock_, &QTimer::timeout, this, &Desktop::UpdateClock);
@@ -131,7 +134,11 @@ void Desktop::RegisterCommands() {
         {"mnuOptions", run(&Desktop::mnuOptions_Click)},
         {"mnuHeader", run(&Desktop::mnuHeader_Click)},
         {"mnuDataNatalData", run(&Desktop::mnuDataNatalData_Click)},
+        {"mnuDataMeanings", [this] { interp_->OpenMeanings(); }},
         {"mnuWheels", [this] { wheel_->Open(); }},
+        {"mnuReportNatal", [this] { interp_->OpenReport(); }},
+        {"mnuKeywordS", [this] { interp_->OpenKeywords(); }},
+        {"mnuKeywordSystem", [this] { interp_->OpenKeywordSystem(); }},
         {"mnuHelpAbout", run(&Desktop::mnuHelpAbout_Click)},
         {"mnuHelpPrintHelp", run(&Desktop::mnuHelpPrintHelp_Click)},
     };
@@ -200,6 +207,7 @@ void Desktop::ShowWayBack() {
 
 void Desktop::UnloadChartWindows() {
     wheel_->Close();
+    interp_->CloseMeanings();
     delete data_;
 }
 
@@ -223,15 +231,18 @@ void Desktop::ShowDataBuffer() {
     data_->ShowDataBuffer();
 }
 
-void Desktop::ShowTextFile(const std::string& textFileName) {
+void Desktop::ShowTextFile(const std::string& textFileName, TextUse use) {
     const Path path = state_.files.FindText(textFileName);
-    const Result<int> read = ListTextFile(state_.buffer, path);
+    const Result<int> read = [&] {
+        const Hourglass hourglass;
+        return ListTextFile(state_.buffer, path, use);
+    }();
     if (!read) {
         const std::string text = IsReadableFile(path) ? read.message() : MissingFileText(path);
         services_.messages.Tell("Warning!", text, MessageIcon::Stop);
-        return;
     }
-    if (*read > 0) ShowDataBuffer();
+    // A lesson has taken the place of what the buffer held, be it only with a blank line.
+    if (use == TextUse::Lesson || (read && *read > 0)) ShowDataBuffer();
 }
 
 void Desktop::Compute() {
@@ -357,6 +368,7 @@ void Desktop::Exit() {
         if (editor != nullptr && !editor->MayClose()) return;
     }
     if (std::exchange(ended_, true)) return;
+    interp_.reset();
     KeepMainPlacement();
     if (const Result<void> written = WriteSettings(state_.files.directory(), state_.settings); !written) {
         services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);

@@ -12,9 +12,11 @@
 #include "app/editor_uses.h"
 #include "app/program_state.h"
 #include "app/qt/birth_desk.h"
+#include "app/qt/interp_desk.h"
 #include "app/qt/main_window.h"
 #include "app/qt/wheel_desk.h"
 #include "output/qt/data_window.h"
+#include "output/text_files.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
 #include "platform/qt/printing.h"
@@ -49,13 +51,14 @@ class Desktop : public QObject {
     TOLVANIS& mainWindow() { return *main_; }
     BirthDesk& birthDesk() { return *births_; }
     WheelDesk& wheelDesk() { return *wheel_; }
+    InterpDesk& interpDesk() { return *interp_; }
     InputD& natalInput() { return births_->natalInput(); }
     OutputD1* dataWindow() { return data_; }
 
     void ShowDataBuffer();
 
     // Shows a text file of the application directory in the Data window.
-    void ShowTextFile(const std::string& textFileName);
+    void ShowTextFile(const std::string& textFileName, TextUse use = TextUse::Reading);
 
     // Opens the editor of this use on the file, or brings it forward.
     void ShowEditor(EditorUse use, const Path& file);
@@ -105,6 +108,7 @@ class Desktop : public QObject {
     std::unique_ptr<TOLVANIS> main_;
     std::unique_ptr<BirthDesk> births_;
     std::unique_ptr<WheelDesk> wheel_;
+    std::unique_ptr<InterpDesk> interp_;
     QPointer<OutputD1> data_;
     QPointer<PrntFile> print_;
     std::map<EditorUse, QPointer<EditorWindow>> editors_;

@@ -76,7 +76,10 @@ class ReaderPlace {
 
 }  // namespace
 
-OutputD1::OutputD1(const DataWindowContext& context) : context_(context), Text1_(new QPlainTextEdit) {
+OutputD1::OutputD1(const DataWindowContext& context)
+    : context_(context),
+      saving_(context.SaveFileName, context.messages, context.dialogs),
+      Text1_(new QPlainTextEdit) {
     setObjectName(QStringLiteral("OutputD1"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(ToQt(context_.titlePrefix + "Data"));
@@ -194,34 +197,24 @@ void OutputD1::mnuItalic_Click(bool ticked) {
     ShowInNewFont();
 }
 
-bool OutputD1::BufferHasData(const std::string& otherwise) {
-    if (context_.buffer.BufferLineCount() > 0) return true;
-    context_.messages.Tell("Information", otherwise, MessageIcon::Warning);
-    return false;
+TextToSave OutputD1::SavedBuffer() const {
+    return {
+        context_.buffer.BufferLineCount() == 0,
+        [this] {
+            return SaveRequest{context_.applicationDirectory, ProposedFileName(context_.natal.Name, ".DOC"),
+                               "Data Files", "*.DOC", "doc"};
+        },
+        [this] {
+            return SavedListing(context_.buffer.BufferLines(), context_.options[kLinesPerSavedPageOption]);
+        }};
 }
 
 void OutputD1::mnuSave_Click() {
-    if (!BufferHasData("No data to write to file.")) return;
-    if (context_.SaveFileName.empty()) return mnuSaveAs_Click();
-    WriteSaveFile();
+    saving_.Save(SavedBuffer());
 }
 
 void OutputD1::mnuSaveAs_Click() {
-    if (!BufferHasData("No data to write to file.")) return;
-    const std::optional<Path> path =
-        ChooseOutput(context_.dialogs, context_.messages,
-                     {context_.applicationDirectory, ProposedFileName(context_.natal.Name, ".DOC"),
-                      "Data Files", "*.DOC", "doc"});
-    if (!path) return;
-    context_.SaveFileName = path->string();
-    WriteSaveFile();
-}
-
-void OutputD1::WriteSaveFile() {
-    const std::string text =
-        SavedListing(context_.buffer.BufferLines(), context_.options[kLinesPerSavedPageOption]);
-    const Result<void> written = ReplaceFile(context_.SaveFileName, text);
-    if (!written) context_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
+    saving_.SaveAs(SavedBuffer());
 }
 
 void OutputD1::mnuClear_Click() {
@@ -234,7 +227,8 @@ void OutputD1::mnuPrintPage_Click() {
 }
 
 void OutputD1::mnuPrintData_Click() {
-    if (BufferHasData("No data to print.")) WritePrintFile(context_.buffer.BufferLines());
+    if (context_.buffer.BufferLineCount() > 0) return WritePrintFile(context_.buffer.BufferLines());
+    context_.messages.Tell("Information", "No data to print.", MessageIcon::Warning);
 }
 
 void OutputD1::WritePrintFile(const std::vector<std::string>& lines) {

@@ -8,8 +8,7 @@
 #include "chart/options.h"
 #include "output/data_buffer.h"
 #include "output/data_view.h"
-#include "platform/file_dialogs.h"
-#include "platform/messages.h"
+#include "output/text_saving.h"
 
 class QPlainTextEdit;
 
@@ -71,11 +70,11 @@ class OutputD1 : public QMainWindow {
     void ShowInNewFont();  // the reader stays where he is in the text
     void EnableFontItems();
     void KeepPlacement();
-    bool BufferHasData(const std::string& otherwise);
-    void WriteSaveFile();
+    TextToSave SavedBuffer() const;
     void WritePrintFile(const std::vector<std::string>& lines);
 
     DataWindowContext context_;
+    TextSaving saving_;
     QPlainTextEdit* Text1_;
     QAction *mnuIncrease_, *mnuDecrease_, *mnuBold_, *mnuItalic_;
 };

@@ -21,6 +21,7 @@ namespace {
 constexpr double kMarginPoints = 36.0;
 constexpr double kLinesPerInch = 6.0;
 constexpr double kNarrowest = 0.5;  // of a letter's width
+constexpr double kClosest = 0.85;   // of the distance of lines; closer ones need smaller letters
 
 QPageLayout Layout() {
     const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
@@ -80,14 +81,11 @@ class TextPainter {
   public:
     TextPainter(QPagedPaintDevice& device, QPainter& painter, const PrintText& text)
         : device_(device), painter_(painter), text_(text) {
-        painter_.setFont(ListingFont(text.pointSize));
-        const QFontMetricsF metrics(painter_.font(), &device);
-        letterWidth_ = metrics.horizontalAdvance(QLatin1Char('M'));
         lineHeight_ = device.logicalDpiY() / kLinesPerInch;
-        ascent_ = metrics.ascent();
         const QRect sheet = device.pageLayout().paintRectPixels(device.logicalDpiX());
+        MeasureFont(sheet, text.pointSize);
         linesPerSheet_ = std::max(1, static_cast<int>(sheet.height() / lineHeight_));
-        longestLine_ = std::max(1, static_cast<int>(sheet.width() / (letterWidth_ * kNarrowest)));
+        if (text.wholePages && LongestPage() > linesPerSheet_) FitPages(sheet);
         narrowing_ = std::min(1.0, sheet.width() / (letterWidth_ * std::min(LongestLine(), longestLine_)));
     }
 
@@ -101,6 +99,36 @@ class TextPainter {
     }
 
   private:
+    void MeasureFont(const QRect& sheet, double pointSize) {
+        painter_.setFont(ListingFont(pointSize));
+        const QFontMetricsF metrics(painter_.font(), &device_);
+        letterWidth_ = metrics.horizontalAdvance(QLatin1Char('M'));
+        ascent_ = metrics.ascent();
+        longestLine_ = std::max(1, static_cast<int>(sheet.width() / (letterWidth_ * kNarrowest)));
+    }
+
+    // Sets the lines so close that the longest page stands on one sheet.
+    void FitPages(const QRect& sheet) {
+        linesPerSheet_ = LongestPage();
+        const double closer = sheet.height() / (lineHeight_ * linesPerSheet_);
+        lineHeight_ *= closer;
+        if (closer < kClosest) MeasureFont(sheet, text_.pointSize * closer / kClosest);
+        linesPerSheet_ = LongestPage();  // smaller letters may have made fewer lines of the long ones
+    }
+
+    // In lines as they are printed.
+    int LongestPage() const {
+        qsizetype longest = 1;
+        for (const std::vector<std::string>& page : text_.pages) {
+            qsizetype lines = 0;
+            for (const std::string& line : page) {
+                lines += std::max<qsizetype>(1, (ToQt(line).size() + longestLine_ - 1) / longestLine_);
+            }
+            longest = std::max(longest, lines);
+        }
+        return static_cast<int>(longest);
+    }
+
     int LongestLine() const {
         qsizetype longest = 1;
         for (const std::vector<std::string>& page : text_.pages) {

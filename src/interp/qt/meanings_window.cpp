@@ -1,0 +1,102 @@
+#include "interp/qt/meanings_window.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include "chart/chart_point.h"
+#include "interp/keyword_system.h"
+#include "interp/qt/option_group.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::array<std::string_view, 3> kAspectCaptions = {"blending", "harmonizing", "discordant"};
+constexpr const char* kHints =
+    "1. Double-click on Sign/Asc Sign for interpretation.\r\n"
+    "2. Double-click on House for interpretation.\r\n"
+    "3. Double-click on Aspect for interpretation.";
+
+}  // namespace
+
+MEANINGS::MEANINGS(Messages& messages) : messages_(messages) {
+    setObjectName(QStringLiteral("MEANINGS"));
+    setWindowTitle(QStringLiteral("TOLVANIS MEANINGS"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* grid = new QGridLayout(this);
+    const MeaningChoice first;
+    const auto planets = std::span(kGridNames).first<kInterpretedPlanets>();
+    Option1_ = AddGroup(*grid, 0, "Option1", "Sign/Asc Sign", kSignNames, first.sign);
+    Option2_ = AddGroup(*grid, 1, "Option2", "Houses", kHouseNames, first.house);
+    Option3_ = AddGroup(*grid, 2, "Option3", "Planets", planets, first.planet);
+    Option4_ = AddGroup(*grid, 3, "Option4", "Aspects", kAspectCaptions, first.aspect);
+    Option5_ = AddGroup(*grid, 4, "Option5", "2nd Planet", planets, first.secondPlanet);
+    connect(Option1_, &OptionGroup::opened, this, &MEANINGS::OKRisingSign_Click);
+    connect(Option2_, &OptionGroup::opened, this, &MEANINGS::OKHouses_Click);
+    connect(Option4_, &OptionGroup::opened, this, &MEANINGS::OKAspects_Click);
+    AddButton(*grid, 0, "OKSigns", "Planet in &sign", &MEANINGS::OKSigns_Click);
+    AddButton(*grid, 1, "OKHouses", "Planet &house", &MEANINGS::OKHouses_Click);
+    AddButton(*grid, 2, "OKRisingSign", "&Rising sign", &MEANINGS::OKRisingSign_Click);
+    AddButton(*grid, 3, "OKAspects", "&Aspects", &MEANINGS::OKAspects_Click);
+    AddButton(*grid, 4, "Command1", "Hel&p", &MEANINGS::Command1_Click);
+    grid->setRowStretch(0, 1);
+}
+
+OptionGroup* MEANINGS::AddGroup(QGridLayout& grid, int column, const char* name, const char* caption,
+                                std::span<const std::string_view> options, int chosen) {
+    auto* group = new OptionGroup(QLatin1String(name), QLatin1String(caption), options, chosen);
+    grid.addWidget(group, 0, column);
+    grid.setColumnStretch(column, 1);
+    return group;
+}
+
+void MEANINGS::AddButton(QGridLayout& grid, int column, const char* name, const char* caption,
+                         void (MEANINGS::*handler)()) {
+    auto* button = new QPushButton(QLatin1String(caption));
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(true);  // Enter presses it
+    connect(button, &QPushButton::clicked, this, handler);
+    grid.addWidget(button, 1, column);
+}
+
+MeaningChoice MEANINGS::Choice() const {
+    return {Option1_->Index(), Option2_->Index(), Option3_->Index(), Option4_->Index(), Option5_->Index()};
+}
+
+void MEANINGS::ShowOrTell(const Result<MeaningPlace>& place) {
+    if (place) {
+        Q_EMIT meaningChosen(*place);
+    } else {
+        messages_.Tell("Information", place.message(), MessageIcon::Warning);
+    }
+}
+
+void MEANINGS::OKSigns_Click() {
+    ShowOrTell(PlanetInSign(Choice()));
+}
+
+void MEANINGS::OKHouses_Click() {
+    ShowOrTell(PlanetInHouse(Choice()));
+}
+
+void MEANINGS::OKRisingSign_Click() {
+    ShowOrTell(RisingSign(Choice()));
+}
+
+void MEANINGS::OKAspects_Click() {
+    ShowOrTell(AspectOfPlanets(Choice()));
+}
+
+void MEANINGS::Command1_Click() {
+    messages_.Tell("Helpful Hints", kHints, MessageIcon::Information);
+}
+
+void MEANINGS::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT mainWindowRequested();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace tolvanis
