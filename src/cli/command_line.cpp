@@ -6,8 +6,8 @@ namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--place FILE:CITY] [--houses CODE] [--format text|json|ascii]\n"
-    "                      [--app-dir DIR] [--output FILE]\n"
+    "                      [--place FILE:CITY] [--houses CODE] [--theory classic|modern]\n"
+    "                      [--format text|json|ascii] [--app-dir DIR] [--output FILE]\n"
     "\n"
     "Computes natal charts and prints them.\n"
     "\n"
@@ -27,6 +27,8 @@ const std::string_view kUsage =
     "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
+    "  --theory NAME    classic, the theory of the program, or modern: positions that agree\n"
+    "                   with modern ephemerides to an arc second\n"
     "  --format FORMAT  text (the listing), json (one object a line) or\n"
     "                   ascii (the wheel drawn in characters)\n"
     "  --app-dir DIR    the directory that holds OPTIONS.OPT\n"

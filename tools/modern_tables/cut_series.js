@@ -20,7 +20,7 @@ const kLeftOut = { mercury: 0.04, venus: 0.02, earth: 0.02, mars: 0.03, moon: 0.
 const kMoonDistanceLeftOut = 20 // kilometres
 
 const kGiants = ['jupiter', 'saturn', 'uranus', 'neptune']
-const kLongestRow = 112
+const kLongestRow = 110
 
 const capital = (name) => name[0].toUpperCase() + name.slice(1)
 
@@ -68,8 +68,8 @@ function filled (items) {
 
 function page (comment, body) {
   const head = comment.map((line) => `// ${line}`)
-  return [...head, '// clang-format off', '', '#include "astro/modern/series_tables.h"', '',
-    'namespace tolvanis::modern {', 'namespace {', ...body, '', '}  // namespace tolvanis::modern', ''].join('\n')
+  return ['// clang-format off', ...head, '', '#include "astro/modern/series_tables.h"', '',
+    'namespace tolvanis::modern {', 'namespace {', '', ...body, '', '}  // namespace tolvanis::modern', ''].join('\n')
 }
 
 function innerPlanet (name) {
@@ -82,7 +82,7 @@ function innerPlanet (name) {
   })
   const rows = kept.flat().map(({ row }) => `{${row.join(', ')}}`)
   return {
-    table: `\nconstexpr PlanetTerm k${capital(name)}Terms[] = {\n${filled(rows)}\n};`,
+    table: `constexpr PlanetTerm k${capital(name)}Terms[] = {\n${filled(rows)}\n};`,
     series: `const PlanetSeries k${capital(name)}Series = {k${capital(name)}Terms, {{${kept.map(countsOf).join(', ')}}}};`
   }
 }
@@ -94,7 +94,8 @@ function innerPlanets () {
     '(Bretagnon and Francou 1988), without its smallest terms. Amplitude (radians or astronomical units), phase',
     '(radians) and rate (radians in a thousand years) of each cosine, by quantity and by power of the time.',
     'Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.'
-  ], [...planets.map(({ table }) => table), '', '}  // namespace', '', ...planets.map(({ series }) => series)])
+  ], [planets.map(({ table }) => table).join('\n\n'), '', '}  // namespace', '',
+    ...planets.map(({ series }) => series)])
 }
 
 const short = (value, digits) => String(Number(value.toPrecision(digits)))
@@ -113,7 +114,7 @@ function moon () {
     'Amplitude of each sine and its argument as a polynomial of Julian centuries (radians), by quantity and by',
     'power of the time.',
     'Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.'
-  ], ['', `constexpr MoonTerm kTerms[] = {\n${filled(rows)}\n};`, '', '}  // namespace', '',
+  ], [`constexpr MoonTerm kTerms[] = {\n${filled(rows)}\n};`, '', '}  // namespace', '',
     `const MoonSeries kMoonSeries = {kTerms, {{${kept.map(countsOf).join(', ')}}},\n` +
     `    {${series.W1.join(', ')}}};`])
 }
@@ -134,7 +135,7 @@ function giantPlanet (name) {
     `{${Math.round(amplitude * 1e11)}, ${Math.round(phase * 1e8)}, ${place.get(rate)}}`)
   const k = `k${capital(name)}`
   return {
-    table: `\nconstexpr double ${k}Rates[] = {\n${filled(rates.map(String))}\n};\n` +
+    table: `constexpr double ${k}Rates[] = {\n${filled(rates.map(String))}\n};\n` +
       `constexpr GiantTerm ${k}Terms[] = {\n${filled(rows)}\n};`,
     series: `const GiantSeries ${k}Series = {${k}Terms, ${k}Rates,\n    {{${periodic.map(countsOf).join(', ')}}},\n` +
       `    {{${secular.join(',\n      ')}}}};`
@@ -149,7 +150,8 @@ function giantPlanets () {
     'the rate in the table of rates (radians in a thousand years), by quantity and by power of the time; the terms',
     'without a rate are the polynomials beside them.',
     'Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.'
-  ], [...planets.map(({ table }) => table), '', '}  // namespace', '', ...planets.map(({ series }) => series)])
+  ], [planets.map(({ table }) => table).join('\n\n'), '', '}  // namespace', '',
+    ...planets.map(({ series }) => series)])
 }
 
 function main () {

@@ -1,8 +1,8 @@
+// clang-format off
 // VSOP87, version B: heliocentric longitude, latitude and radius, dynamical ecliptic and equinox of J2000.0
 // (Bretagnon and Francou 1988), without its smallest terms. Amplitude (radians or astronomical units), phase
 // (radians) and rate (radians in a thousand years) of each cosine, by quantity and by power of the time.
 // Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.
-// clang-format off
 
 #include "astro/modern/series_tables.h"
 

@@ -1,9 +1,9 @@
+// clang-format off
 // ELP/MPP02 fitted to DE405: geocentric longitude, latitude (arc seconds) and distance (kilometres) of the Moon,
 // mean ecliptic of date and departure point of J2000.0 (Chapront and Francou 2003), without its smallest terms.
 // Amplitude of each sine and its argument as a polynomial of Julian centuries (radians), by quantity and by
 // power of the time.
 // Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.
-// clang-format off
 
 #include "astro/modern/series_tables.h"
 

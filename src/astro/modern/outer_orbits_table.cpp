@@ -1,8 +1,8 @@
+// clang-format off
 // Barycentric places of Jupiter to Pluto (their systems) from 1600 to 2200: Chebyshev coefficients of x, y and z,
 // axes of the ICRS, units of 1e-9 astronomical unit. An integration of Newton's law from start values that
 // were fitted to JPL's ephemerides (United States government work).
 // Made by tools/modern_tables/integrate_outer.cpp; see its README.
-// clang-format off
 
 #include "astro/modern/series_tables.h"
 

@@ -1,4 +1,4 @@
-#include "astro/modern/modern_positions.h"
+#include "astro/modern/apparent_places.h"
 
 #include "astro/modern/inner_planets.h"
 #include "astro/modern/moon.h"
