@@ -121,7 +121,7 @@ ApparentSky ComputeApparentSky(double tt, const Nutation& nutation) {
             return ofDate * ApparentDirection(paths.bodies[body], paths, days, deflected);
         };
         const Vector now = ecliptic(0.0);
-        constexpr double kStep = 0.05;  // days
+        constexpr double kStep = 0.005;  // days; so short that the paths may be taken for parabolas
         const double motion = LongitudeOf(ecliptic(kStep)) - LongitudeOf(ecliptic(-kStep));
         sky.bodies[body] = {
             Degrees(LongitudeOf(now)), std::atan2(now.z, std::hypot(now.x, now.y)) / kRadiansPerDegree,

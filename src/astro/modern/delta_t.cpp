@@ -59,6 +59,12 @@ double TableValue(double year) {
     return Polynomial(row->coefficients, (year - row->from) / (EndOf(row) - row->from));
 }
 
+// The year with its fraction, Gregorian from 15 October 1582 on.
+double CalendarYear(double ut) {
+    constexpr double kFirstGregorianDay = 2299160.5;
+    return ut < kFirstGregorianDay ? (ut + 0.5) / 365.25 - 4712.0 : 2000.0 + (ut - 2451544.5) / 365.2425;
+}
+
 // The day is longer than 86,400 seconds by 1.72 t - 3.5 sin(2 pi (t + 0.75) / 14) milliseconds, t in
 // centuries from 1825; this is the sum of that over the days since then, but for a constant.
 double SumOfDayLengths(double year) {
@@ -72,7 +78,7 @@ double SumOfDayLengths(double year) {
 }  // namespace
 
 double DeltaT(double ut) {
-    const double year = 2000.0 + (ut - 2451544.5) / 365.25;
+    const double year = CalendarYear(ut);
     const double nearest = std::clamp(year, kTable[0].from, kTableEnds);
     return TableValue(nearest) + SumOfDayLengths(year) - SumOfDayLengths(nearest);
 }
