@@ -88,7 +88,11 @@ TimeFrame ComputeTimeFrame(const NatalData& natal) {
     frame.JulianDay = frame.JulianDayNumber + frame.UtDayFraction - 0.5;
     frame.Centuries = (frame.JulianDayNumber - kEpoch1900 + frame.UtDayFraction - 0.5) / kDaysPerCentury;
     frame.Theory = natal.Theory;
-    frame.Theory == Theory::Modern ? TurnModern(frame) : TurnClassic(frame);
+    if (frame.Theory == Theory::Modern) {
+        TurnModern(frame);
+    } else {
+        TurnClassic(frame);
+    }
     frame.Obliquity = DegToRad(frame.ObliquityDegrees);
 
     const Rect meridian = PolarToRect(1.0, frame.RAMC);
