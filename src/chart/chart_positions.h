@@ -39,4 +39,7 @@ struct ChartPositions {
     bool IsRetrograde(int point) const { return RetrogradeFlags[static_cast<std::size_t>(point - 1)] == 'R'; }
 };
 
+// What a listing says where PlutoFromOldSeries.
+inline constexpr std::string_view kOldPlutoRemark = "Pluto by the classic series";
+
 }  // namespace tolvanis

@@ -25,7 +25,7 @@ void WriteHeader(DataBuffer& buffer, const NatalData& natal) {
 void WriteTheory(DataBuffer& buffer, const ChartPositions& chart) {
     if (chart.Theory == Theory::Classic) return;
     std::string line = "  Modern positions    Delta T = " + FormatMask(chart.DeltaT, "##0.0") + " seconds";
-    if (chart.PlutoFromOldSeries) line += "    Pluto by the classic series";
+    if (chart.PlutoFromOldSeries) line.append("    ").append(kOldPlutoRemark);
     buffer.AppendLine(line);
 }
 

@@ -14,6 +14,7 @@ namespace tolvanis {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 struct Outcome {
@@ -206,6 +207,11 @@ TEST(ChartCommand, TheTheoryIsChosenAndShown) {
     const std::string json = RunWith({"--birth", kAnnSmith, "--theory", "modern", "--format", "json"}).output;
     EXPECT_THAT(json, HasSubstr("\"theory\":\"modern\",\"julianDay\":2433182.086"));
     EXPECT_THAT(json, HasSubstr(",\"deltaT\":28.8"));
+    EXPECT_THAT(json, Not(HasSubstr("\"remark\"")));
+    EXPECT_THAT(
+        RunWith({"--birth", "Old,1 Jan 1500,9.05,A,0,0,51.30", "--theory", "modern", "--format", "json"})
+            .output,
+        HasSubstr("\"remark\":\"Pluto by the classic series\""));
     const auto refused = ParseCommandLine(std::vector<std::string_view>{"--theory", "newest"});
     EXPECT_EQ(refused.message(), "unknown theory \"newest\" (classic or modern)");
 

@@ -119,7 +119,7 @@ function moon () {
     `    {${series.W1.join(', ')}}};`])
 }
 
-// In full, with whole numbers of the published last digit; each rate is kept once.
+// In full, in units of the published last digit; each rate is kept once.
 function giantPlanet (name) {
   const series = data[`vsop87B${name}`]
   const quantities = ['L', 'B', 'R'].map((quantity) => termsOf(series[quantity]))
@@ -131,8 +131,9 @@ function giantPlanet (name) {
   })
   const rates = [...new Set(periodic.flat().map(({ row }) => row[2]))].sort((a, b) => a - b)
   const place = new Map(rates.map((rate, i) => [rate, i]))
+  const digits = (value) => Math.round(value * 1e11) + 0 // no -0
   const rows = periodic.flat().map(({ row: [amplitude, phase, rate] }) =>
-    `{${Math.round(amplitude * 1e11)}, ${Math.round(phase * 1e8)}, ${place.get(rate)}}`)
+    `{${digits(amplitude * Math.cos(phase))}, ${digits(-amplitude * Math.sin(phase))}, ${place.get(rate)}}`)
   const k = `k${capital(name)}`
   return {
     table: `constexpr double ${k}Rates[] = {\n${filled(rates.map(String))}\n};\n` +
@@ -146,9 +147,9 @@ function giantPlanets () {
   const planets = kGiants.map(giantPlanet)
   return page([
     'VSOP87, version B, in full: heliocentric longitude, latitude and radius, dynamical ecliptic and equinox of',
-    'J2000.0 (Bretagnon and Francou 1988). Amplitude (units of 1e-11), phase (units of 1e-8 radian) and the place of',
-    'the rate in the table of rates (radians in a thousand years), by quantity and by power of the time; the terms',
-    'without a rate are the polynomials beside them.',
+    'J2000.0 (Bretagnon and Francou 1988). The factors of cosine and sine (units of 1e-11 radian or astronomical',
+    'unit) and the place of their rate in the table of rates (radians in a thousand years), by quantity and by',
+    'power of the time; the terms without a rate are the polynomials beside them.',
     'Made by tools/modern_tables/cut_series.js from astronomia 4.2.0 (MIT licence); see its README.'
   ], [planets.map(({ table }) => table).join('\n\n'), '', '}  // namespace', '',
     ...planets.map(({ series }) => series)])

@@ -1,5 +1,7 @@
 #include "astro/modern/apparent_places.h"
 
+#include <algorithm>
+
 #include "astro/modern/inner_planets.h"
 #include "astro/modern/moon.h"
 #include "astro/modern/outer_planets.h"

@@ -1,5 +1,7 @@
 #include "astro/modern/outer_planets.h"
 
+#include <vector>
+
 #include "astro/modern/earth_orientation.h"
 #include "astro/modern/series_sum.h"
 #include "astro/pluto_series.h"
@@ -39,18 +41,48 @@ Motion BarycentricMotion(const OrbitPieces& orbit, double tdb) {
     return {kUnit * value, kUnit * 2.0 * pieces / (kOrbitsEnd - kOrbitsBegin) * slope};
 }
 
+// The cosines and sines that the terms of a series share.
+struct Waves {
+    std::vector<double> cosines;
+    std::vector<double> sines;
+};
+
+Waves WavesAt(std::span<const double> rates, double t) {
+    Waves waves;
+    Batch angles{};
+    Batch sines;
+    Batch cosines;
+    for (std::size_t start = 0; start < rates.size(); start += kBatch) {
+        const std::size_t count = std::min(rates.size() - start, kBatch);
+        for (std::size_t i = 0; i < count; ++i) angles[i] = rates[start + i] * t;
+        SinesAndCosines(angles, count, sines, cosines);
+        waves.cosines.insert(waves.cosines.end(), cosines.begin(), cosines.begin() + count);
+        waves.sines.insert(waves.sines.end(), sines.begin(), sines.begin() + count);
+    }
+    return waves;
+}
+
+Changing SumOfGiantTerms(std::span<const GiantTerm> terms, std::span<const double> rates,
+                         const Waves& waves) {
+    constexpr double kUnit = 1e-11;
+    Changing sum;
+    for (const GiantTerm& term : terms) {
+        const auto c = static_cast<double>(term.cosine);
+        const auto s = static_cast<double>(term.sine);
+        sum.value += c * waves.cosines[term.rate] + s * waves.sines[term.rate];
+        sum.rate += (s * waves.cosines[term.rate] - c * waves.sines[term.rate]) * rates[term.rate];
+    }
+    return {kUnit * sum.value, kUnit * sum.rate};
+}
+
 Motion SeriesMotion(const GiantSeries& series, double t) {
-    const auto argument = [&](const GiantTerm& term) {
-        return term.phase * 1e-8 + series.rates[term.rate] * t;
-    };
-    const auto rate = [&](const GiantTerm& term) { return series.rates[term.rate]; };
+    const Waves waves = WavesAt(series.rates, t);
     Polar3 polar = SumOfSeries(series.terms, series.counts, t, [&](std::span<const GiantTerm> terms) {
-        return SumOfTerms<true>(terms, argument, rate);
+        return SumOfGiantTerms(terms, series.rates, waves);
     });
     for (std::size_t quantity = 0; quantity < polar.size(); ++quantity) {
         const auto& powers = series.secular[quantity];
-        polar[quantity].value = polar[quantity].value * 1e-11 + Polynomial(powers, t);
-        polar[quantity].rate *= 1e-11;
+        polar[quantity].value += Polynomial(powers, t);
         for (std::size_t n = powers.size() - 1; n > 0; --n) {
             polar[quantity].rate +=
                 static_cast<double>(n) * powers[n] * std::pow(t, static_cast<double>(n - 1));

@@ -39,10 +39,11 @@ struct MoonSeries {
 };
 extern const MoonSeries kMoonSeries;
 
-// The same as a PlanetTerm in less room: units of 1e-11, units of 1e-8 radian, and a place in `rates`.
+// cosine * cos(rates[rate] * t) + sine * sin(rates[rate] * t), t as for a PlanetTerm. Many terms share a
+// rate.
 struct GiantTerm {
-    std::int64_t amplitude;
-    std::int32_t phase;
+    std::int64_t cosine;  // units of 1e-11 radian or astronomical unit
+    std::int64_t sine;
     std::uint16_t rate;
 };
 struct GiantSeries {
