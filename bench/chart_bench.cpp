@@ -8,8 +8,9 @@
 namespace tolvanis {
 namespace {
 
-NatalData Birth(std::int64_t i) {
+NatalData Birth(std::int64_t i, Theory theory = Theory::Classic) {
     NatalData natal;
+    natal.Theory = theory;
     natal.Name = "Ann Smith";
     natal.Year = static_cast<std::int16_t>(1900 + i % 150);
     natal.Month = static_cast<std::int16_t>(1 + i % 12);
@@ -21,12 +22,22 @@ NatalData Birth(std::int64_t i) {
     return natal;
 }
 
-void PositionsOnly(benchmark::State& state) {
+void PositionsOnly(benchmark::State& state, Theory theory) {
     std::int64_t i = 0;
-    for (auto _ : state) benchmark::DoNotOptimize(ComputePositions(Birth(i++)));
+    for (auto _ : state) benchmark::DoNotOptimize(ComputePositions(Birth(i++, theory)));
     state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(PositionsOnly);
+BENCHMARK_CAPTURE(PositionsOnly, classic, Theory::Classic);
+BENCHMARK_CAPTURE(PositionsOnly, modern, Theory::Modern);
+
+// The years for which no orbits are stored.
+void PositionsOfOldTimes(benchmark::State& state) {
+    NatalData natal = Birth(0, Theory::Modern);
+    natal.Year = 1500;
+    for (auto _ : state) benchmark::DoNotOptimize(ComputePositions(natal));
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(PositionsOfOldTimes);
 
 template <typename Print>
 void Printed(benchmark::State& state, Print print) {

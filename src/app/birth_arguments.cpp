@@ -15,6 +15,12 @@ Result<void> SetHouses(BirthArguments& births, const std::string& code) {
     return {};
 }
 
+Result<void> SetTheory(BirthArguments& births, const std::string& code) {
+    births.theory = TheoryOfCode(code);
+    if (!births.theory) return Fault{"unknown theory \"" + code + "\" (classic or modern)"};
+    return {};
+}
+
 Result<void> SetPlace(BirthArguments& births, const std::string& place) {
     const std::size_t colon = place.rfind(':');
     if (colon == std::string::npos || colon == 0 || colon + 1 == place.size()) {
@@ -40,6 +46,7 @@ constexpr std::array kBirthArguments = {
     BirthArgument{"--name", Set<&BirthArguments::name>},
     BirthArgument{"--place", SetPlace},
     BirthArgument{"--houses", SetHouses},
+    BirthArgument{"--theory", SetTheory},
     BirthArgument{"--app-dir", Set<&BirthArguments::appDirectory>},
 };
 
@@ -136,6 +143,11 @@ Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births) {
         return true;
     }
     return false;
+}
+
+Method MethodOf(const BirthArguments& births, const Options& options) {
+    const Method usual = MethodOfOptions(options);
+    return {births.houses.value_or(usual.houses), births.theory.value_or(usual.theory)};
 }
 
 Result<void> CheckBirthArguments(const BirthArguments& births) {

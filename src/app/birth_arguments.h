@@ -6,8 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "birthdata/natal_entry.h"
-#include "chart/house_system.h"
+#include "astro/natal_chart.h"
 #include "platform/clock.h"
 #include "platform/data_files.h"
 #include "platform/result.h"
@@ -27,7 +26,8 @@ struct BirthArguments {
     std::optional<std::string> namesFile;
     std::optional<std::string> name;  // of one record of the names file
     std::optional<PlaceRequest> place;
-    std::optional<HouseSystem> houses;  // else the one that option 27 names
+    std::optional<HouseSystem> houses;  // else those that the options name
+    std::optional<Theory> theory;
     std::optional<std::string> appDirectory;
 };
 
@@ -53,6 +53,9 @@ class ArgumentReader {
 // Takes the reader's present argument when it is one of these. Returns whether it was; a fault says what is
 // wrong with its value.
 Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births);
+
+// How the charts are computed: by the arguments, else by the options.
+Method MethodOf(const BirthArguments& births, const Options& options);
 
 // A fault when the arguments do not go together.
 Result<void> CheckBirthArguments(const BirthArguments& births);

@@ -15,9 +15,9 @@ void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& op
     WriteAspectGrid(buffer, chart.positions, chart.aspects, options);
 }
 
-ComputeOutcome ComputeChart(const NatalEntry& entry, HouseSystem system, int iDate, const Options& options,
+ComputeOutcome ComputeChart(const NatalEntry& entry, const Method& method, int iDate, const Options& options,
                             CurrentChart& chart, DataBuffer& buffer, Messages& messages) {
-    const Result<CurrentChart, ChartFaults> made = MakeChart(entry, system, iDate, options);
+    const Result<CurrentChart, ChartFaults> made = MakeChart(entry, method, iDate, options);
     if (made) {
         chart = *made;
         WriteChart(buffer, chart, options);

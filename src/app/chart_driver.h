@@ -19,7 +19,7 @@ struct ComputeOutcome {
 
 // The entry's chart into `chart` and its listing into the buffer, which the caller has emptied. Faults of the
 // entry are told one by one and leave everything as it was, as does a computation that overflows.
-ComputeOutcome ComputeChart(const NatalEntry& entry, HouseSystem system, int iDate, const Options& options,
+ComputeOutcome ComputeChart(const NatalEntry& entry, const Method& method, int iDate, const Options& options,
                             CurrentChart& chart, DataBuffer& buffer, Messages& messages);
 
 // Whether a computed listing stays in the buffer for saving and printing (option 165) once it has been shown.

@@ -81,6 +81,9 @@ void AddChangeMenu(MenuBuilder& menu) {
     }
     menu.Add({"mnuChanges", "mnuOptions", "&Options"});
     menu.Add({"mnuChanges", "mnuHeader", "&Header"});
+    menu.AddMenu({"mnuChanges", "mnuPositions", "&Positions"});
+    menu.Add({"mnuPositions", "mnuPositionsClassic", "&Classic"}).theory = Theory::Classic;
+    menu.Add({"mnuPositions", "mnuPositionsModern", "&Modern"}).theory = Theory::Modern;
 }
 
 void AddPhilosophyMenu(MenuBuilder& menu) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "chart/house_system.h"
+#include "chart/theory.h"
 
 namespace tolvanis {
 
@@ -17,11 +18,14 @@ struct MenuItem {
     bool opensMenu = false;
     std::string textFile;                    // shown in the Data window when not empty
     std::optional<HouseSystem> houseSystem;  // chosen by the item
+    std::optional<Theory> theory;            // likewise
     bool needsChart = false;                 // hidden until a chart has been computed
+
+    bool RunsCommand() const { return !opensMenu && textFile.empty() && !houseSystem && !theory; }
 };
 
-// Every item, a menu before its entries, in the order shown. Items with neither a text file nor a house
-// system run the command of their name.
+// Every item, a menu before its entries, in the order shown. Items with neither a text file nor something
+// to choose run the command of their name.
 std::vector<MenuItem> MainMenu();
 
 }  // namespace tolvanis

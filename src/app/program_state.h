@@ -23,7 +23,7 @@ struct ProgramState {
     DateTimeOrder order;
     ScreenConstants screen;
     std::string titlePrefix{kStartTitlePrefix};
-    HouseSystem houseSystem = HouseSystem::Placidus;  // the ticked one
+    Method method;  // the ticked items
     NamesState names;
     CurrentChart chart;
     bool chartComputed = false;

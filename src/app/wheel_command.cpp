@@ -56,10 +56,10 @@ Result<void> TakeWheelArgument(ArgumentReader& reader, WheelArguments& wheel) {
 // Keeps the snapshot of the one birth, or what is wrong with it.
 class SnapshotTaker : public EntryReceiver {
   public:
-    SnapshotTaker(HouseSystem houses, const Options& options) : houses_(houses), options_(options) {}
+    SnapshotTaker(const Method& method, const Options& options) : method_(method), options_(options) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
-        const auto chart = MakeChart(entry, houses_, HostDateTimeOrder().iDate, options_);
+        const auto chart = MakeChart(entry, method_, HostDateTimeOrder().iDate, options_);
         if (chart) {
             chart_ = MakeWheelSnapshot(chart->natal, chart->positions);
             return;
@@ -77,7 +77,7 @@ class SnapshotTaker : public EntryReceiver {
     }
 
   private:
-    HouseSystem houses_;
+    Method method_;
     const Options& options_;
     std::optional<WheelSnapshot> chart_;
     std::string faults_;
@@ -106,7 +106,7 @@ Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
     if (!opened) return opened.fault();
     const Result<WheelData> data = ReadWheelData(opened->files);
     if (!data) return data.fault();
-    SnapshotTaker taker(arguments.houses.value_or(HouseSystemOfOption(opened->options[27])), opened->options);
+    SnapshotTaker taker(MethodOf(arguments, opened->options), opened->options);
     ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();

@@ -5,7 +5,15 @@
 namespace tolvanis {
 namespace {
 
-constexpr int kPlacidusRounds = 10;
+// How long Placidus cusps are bettered: the classic theory takes ten rounds, whatever they give. In the
+// modern one each round leaves less than two thirds of the error up to the polar circle, so that all cusps
+// settle.
+struct Rounds {
+    int most;
+    double settled;  // radians; a smaller change ends the rounds
+};
+constexpr Rounds kClassicRounds = {10, -1.0};
+constexpr Rounds kModernRounds = {200, 1e-14};
 
 double HouseAngle(int house) {
     return 30.0 * house + 60.0;
@@ -83,10 +91,14 @@ double KochCusp(const TimeFrame& f, int house) {
 double PlacidusCusp(const TimeFrame& f, double offset, double divisor, bool upper) {
     const double k = upper ? -1.0 : 1.0;
     double r = f.RAMC + DegToRad(offset);
-    for (int round = 0; round < kPlacidusRounds; ++round) {
+    const Rounds& rounds = f.Theory == Theory::Modern ? kModernRounds : kClassicRounds;
+    double change = kPi;
+    for (int round = 0; round < rounds.most && std::abs(change) > rounds.settled; ++round) {
+        const double before = r;
         double arc = ArcCos(k * std::sin(r) * std::tan(f.Obliquity) * std::tan(f.LatitudeRad));
         if (arc < 0.0) arc += kPi;
         r = upper ? f.RAMC + arc / divisor : f.RAMC + kPi - arc / divisor;
+        change = r - before;
     }
     return QuotientAngle(std::tan(r), std::cos(f.Obliquity), std::sin(r) < 0.0);
 }

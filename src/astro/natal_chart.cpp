@@ -36,6 +36,8 @@ bool AllFinite(const ChartPositions& chart) {
 Result<ChartPositions> ComputePositions(const NatalData& natal) {
     const TimeFrame frame = ComputeTimeFrame(natal);
     ChartPositions chart;
+    chart.Theory = frame.Theory;
+    chart.DeltaT = frame.DeltaT;
     chart.JulianDay = frame.JulianDay;
     chart.Centuries = frame.Centuries;
     chart.Obliquity = frame.Obliquity;
@@ -64,6 +66,11 @@ Result<ChartPositions> ComputePositions(const NatalData& natal) {
     return chart;
 }
 
+Method MethodOfOptions(const Options& options) {
+    constexpr int kHouseSystemOption = 27;
+    return {HouseSystemOfOption(options[kHouseSystemOption]), TheoryOfOption(options[kTheoryOption])};
+}
+
 std::vector<std::string> ChartFaults::Details() const {
     if (!computation.empty()) return {computation};
     std::vector<std::string> details;
@@ -71,11 +78,12 @@ std::vector<std::string> ChartFaults::Details() const {
     return details;
 }
 
-Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, HouseSystem system, int iDate,
+Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,
                                             const Options& options) {
-    std::vector<InputFault> faults = CheckEntry(entry, system);
+    std::vector<InputFault> faults = CheckEntry(entry, method.houses);
     if (!faults.empty()) return ChartFaults{std::move(faults), {}};
-    const NatalData natal = ParseNatalData(entry, system, iDate);
+    NatalData natal = ParseNatalData(entry, method.houses, iDate);
+    natal.Theory = method.theory;
     const Result<ChartPositions> positions = ComputePositions(natal);
     if (!positions) return ChartFaults{{}, positions.message()};
     return CurrentChart{natal, *positions, FindAspects(*positions, options)};

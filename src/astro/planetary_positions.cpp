@@ -6,6 +6,7 @@
 
 #include "astro/derived_points.h"
 #include "astro/elements.h"
+#include "astro/modern/apparent_places.h"
 #include "astro/moon_series.h"
 #include "astro/orbit.h"
 #include "astro/perturbations.h"
@@ -136,6 +137,41 @@ std::optional<Bodies> PlaceBodies(const Instant& instant, double plutoPrecession
     return bodies;
 }
 
+// The next two fill longitudes, latitudes and the longitudes of the next day; false when an orbit has no
+// solution.
+
+bool PlaceByClassicTheory(const TimeFrame& frame, ChartPositions& chart) {
+    const double day = 1.0 / kDaysPerCentury;
+    const Instant now{frame.Centuries,
+                      (frame.JulianDayNumber - kEpoch2000 + frame.UtDayFraction - 0.5) / kDaysPerCentury};
+    // The day number alone counts, for the next day too.
+    const double precession = (frame.JulianDayNumber - kPlutoEquinox) * kPlutoPrecession / kDaysPerCentury;
+    const auto today = PlaceBodies(now, precession);
+    const auto tomorrow = PlaceBodies({now.since1900 + day, now.since2000 + day}, precession);
+    if (!today || !tomorrow) return false;
+    chart.PointLongitude = today->longitude;
+    chart.PointLatitude = today->latitude;
+    chart.NextDayLongitude = tomorrow->longitude;
+    chart.TrueNodeLongitude = today->trueNode;
+    return true;
+}
+
+bool PlaceByModernTheory(const TimeFrame& frame, ChartPositions& chart) {
+    const double tt = TerrestrialDay(frame);
+    const modern::ApparentSky sky = modern::ComputeApparentSky(tt, modern::ComputeNutation(tt));
+    const auto store = [&](int point, double longitude, const modern::ApparentPlace& place) {
+        chart.PointLongitude[point] = Norm360(longitude);
+        chart.PointLatitude[point] = place.latitude;
+        chart.NextDayLongitude[point] = Norm360(longitude + place.dailyMotion);
+    };
+    for (int body = kSun; body <= kMoon; ++body) store(body, sky.bodies[body].longitude, sky.bodies[body]);
+    store(kNorthNode, sky.meanNode.longitude, sky.meanNode);
+    store(kSouthNode, sky.meanNode.longitude + 180.0, sky.meanNode);
+    chart.TrueNodeLongitude = sky.trueNode;
+    chart.PlutoFromOldSeries = sky.plutoFromOldSeries;
+    return true;
+}
+
 bool IsRetrograde(double today, double tomorrow) {
     if (std::abs(today - tomorrow) >= 180.0) (today > tomorrow ? tomorrow : today) += 360.0;
     return today > tomorrow;
@@ -144,19 +180,9 @@ bool IsRetrograde(double today, double tomorrow) {
 }  // namespace
 
 Result<void> ComputePlanetaryPositions(const TimeFrame& frame, ChartPositions& chart) {
-    const double day = 1.0 / kDaysPerCentury;
-    const Instant now{frame.Centuries,
-                      (frame.JulianDayNumber - kEpoch2000 + frame.UtDayFraction - 0.5) / kDaysPerCentury};
-    // The day number alone counts, for the next day too.
-    const double precession = (frame.JulianDayNumber - kPlutoEquinox) * kPlutoPrecession / kDaysPerCentury;
-    const auto today = PlaceBodies(now, precession);
-    const auto tomorrow = PlaceBodies({now.since1900 + day, now.since2000 + day}, precession);
-    if (!today || !tomorrow) return Fault{"a planet's orbit has no solution at this date"};
-
-    chart.PointLongitude = today->longitude;
-    chart.PointLatitude = today->latitude;
-    chart.NextDayLongitude = tomorrow->longitude;
-    chart.TrueNodeLongitude = today->trueNode;
+    const bool placed = frame.Theory == Theory::Modern ? PlaceByModernTheory(frame, chart)
+                                                       : PlaceByClassicTheory(frame, chart);
+    if (!placed) return Fault{"a planet's orbit has no solution at this date"};
     chart.PointLongitude[kPartOfFortune] =
         PartOfFortune(chart.PointLongitude[kSun], chart.PointLongitude[kMoon], frame.Ascendant);
     for (int body = kSun; body <= kMoon; ++body) {

@@ -1,5 +1,7 @@
 #include "astro/time_frame.h"
 
+#include "astro/modern/delta_t.h"
+#include "astro/modern/earth_orientation.h"
 #include "chart/angles.h"
 #include "text/numbers.h"
 
@@ -26,6 +28,22 @@ double LocalSiderealDegrees(const TimeFrame& frame) {
     const double atMidnight = (23925.836 + 8640184.54 * t + 0.0929 * t * t) / 3600.0;
     const double greenwich = Fraction((frame.UtDayFraction * 24.0 + atMidnight) / 24.0) * 24.0 * 15.0;
     return Norm360(greenwich - frame.LongitudeDegrees);
+}
+
+void TurnClassic(TimeFrame& frame) {
+    frame.RAMC = DegToRad(LocalSiderealDegrees(frame));
+    frame.ObliquityDegrees = MeanObliquity(frame.Centuries);
+}
+
+void TurnModern(TimeFrame& frame) {
+    frame.DeltaT = modern::DeltaT(frame.JulianDay);
+    const double tt = TerrestrialDay(frame);
+    const modern::Nutation nutation = modern::ComputeNutation(tt);
+    const double greenwich = modern::GreenwichApparentSiderealTime(frame.JulianDay, tt, nutation);
+    const double local = greenwich / modern::kRadiansPerDegree - frame.LongitudeDegrees;
+    frame.RAMC = Norm360(local) * modern::kRadiansPerDegree;
+    frame.ObliquityDegrees =
+        (modern::MeanObliquityOfDate(tt) + nutation.obliquity) / modern::kRadiansPerDegree;
 }
 
 // The Ascendant by rotating the zenith into ecliptic coordinates.
@@ -69,8 +87,12 @@ TimeFrame ComputeTimeFrame(const NatalData& natal) {
     frame.JulianDayNumber = JulianDayNumberOf(natal.Year, natal.Month, natal.Day);
     frame.JulianDay = frame.JulianDayNumber + frame.UtDayFraction - 0.5;
     frame.Centuries = (frame.JulianDayNumber - kEpoch1900 + frame.UtDayFraction - 0.5) / kDaysPerCentury;
-    frame.RAMC = DegToRad(LocalSiderealDegrees(frame));
-    frame.ObliquityDegrees = MeanObliquity(frame.Centuries);
+    frame.Theory = natal.Theory;
+    if (frame.Theory == Theory::Modern) {
+        TurnModern(frame);
+    } else {
+        TurnClassic(frame);
+    }
     frame.Obliquity = DegToRad(frame.ObliquityDegrees);
 
     const Rect meridian = PolarToRect(1.0, frame.RAMC);
@@ -79,6 +101,11 @@ TimeFrame ComputeTimeFrame(const NatalData& natal) {
     FindAscendant(frame);
     SplitSiderealTime(frame);
     return frame;
+}
+
+double TerrestrialDay(const TimeFrame& frame) {
+    constexpr double kSecondsPerDay = 86400.0;
+    return frame.JulianDay + frame.DeltaT / kSecondsPerDay;
 }
 
 std::string SiderealTimeText(const TimeFrame& frame) {

@@ -9,6 +9,8 @@ namespace tolvanis {
 
 // Everything the rest of a chart needs of the moment and the place.
 struct TimeFrame {
+    tolvanis::Theory Theory = tolvanis::Theory::Classic;
+    double DeltaT = 0.0;            // seconds, modern theory only
     double UtDayFraction = 0.0;     // Universal Time in days of the civil date; may exceed 1 or be negative
     double JulianDayNumber = 0.0;   // of the civil date, at noon
     double JulianDay = 0.0;         // of the instant
@@ -16,7 +18,7 @@ struct TimeFrame {
     double LatitudeRad = 0.0;       // north positive
     double LongitudeDegrees = 0.0;  // west positive
     double RAMC = 0.0;              // radians, right ascension of the Midheaven
-    double ObliquityDegrees = 0.0;  // mean obliquity of date
+    double ObliquityDegrees = 0.0;  // of date: mean, in the modern theory true
     double Obliquity = 0.0;         // radians
     double Midheaven = 0.0;         // degrees
     double Ascendant = 0.0;         // degrees
@@ -34,9 +36,13 @@ double JulianDayNumberOf(int year, int month, int day);
 // Mean obliquity of the ecliptic of date in degrees, from centuries since 1900 January 0.5 (Newcomb 1895).
 double MeanObliquity(double centuries);
 
-// The frame of a birth. Sidereal time is Newcomb's, with the time of day inside the centuries; the Ascendant
-// is the zenith's ecliptic longitude plus 90 degrees.
+// The frame of a birth by its theory. Classic sidereal time is Newcomb's, with the time of day inside the
+// centuries, and the obliquity the mean one; modern sidereal time is apparent and the obliquity true (IAU
+// 2006 precession, IAU 2000B nutation). The Ascendant is the zenith's ecliptic longitude plus 90 degrees.
 TimeFrame ComputeTimeFrame(const NatalData& natal);
+
+// The Julian day of terrestrial time of a modern frame.
+double TerrestrialDay(const TimeFrame& frame);
 
 // "05H  07M  09S "
 std::string SiderealTimeText(const TimeFrame& frame);

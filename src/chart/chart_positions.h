@@ -5,14 +5,18 @@
 
 #include "chart/chart_point.h"
 #include "chart/house_system.h"
+#include "chart/theory.h"
 
 namespace tolvanis {
 
 // Longitudes lie in 0 <= x < 360; all angles are degrees unless a comment says radians.
 struct ChartPositions {
-    double JulianDay = 0.0;  // of the birth's Universal Time
-    double Centuries = 0.0;  // Julian centuries from 1900 January 0.5
-    double Obliquity = 0.0;  // radians
+    tolvanis::Theory Theory = tolvanis::Theory::Classic;
+    double DeltaT = 0.0;  // seconds by which the theory's time is ahead; the classic theory takes none
+    bool PlutoFromOldSeries = false;  // of a modern chart before 1600 or after 2199
+    double JulianDay = 0.0;           // of the birth's Universal Time
+    double Centuries = 0.0;           // Julian centuries from 1900 January 0.5
+    double Obliquity = 0.0;           // radians
     double ObliquityDegrees = 0.0;
     double RAMC = 0.0;  // radians
     std::string SiderealTimeText;
@@ -34,5 +38,8 @@ struct ChartPositions {
 
     bool IsRetrograde(int point) const { return RetrogradeFlags[static_cast<std::size_t>(point - 1)] == 'R'; }
 };
+
+// What a listing says where PlutoFromOldSeries.
+inline constexpr std::string_view kOldPlutoRemark = "Pluto by the classic series";
 
 }  // namespace tolvanis

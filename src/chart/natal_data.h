@@ -5,6 +5,7 @@
 #include <string>
 
 #include "chart/house_system.h"
+#include "chart/theory.h"
 
 namespace tolvanis {
 
@@ -23,6 +24,7 @@ struct NatalData {
     float Latitude = 0.0F;  // packed degrees, north positive
     std::string LatitudeSide = "NORTH";
     tolvanis::HouseSystem HouseSystem = tolvanis::HouseSystem::Placidus;
+    tolvanis::Theory Theory = tolvanis::Theory::Classic;
 };
 
 }  // namespace tolvanis

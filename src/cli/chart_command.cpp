@@ -15,14 +15,14 @@ class ChartPrinter : public EntryReceiver {
                  std::ostream& errors)
         : options_(data.options),
           files_(data.files),
-          houses_(request.houses.value_or(HouseSystemOfOption(data.options[27]))),
+          method_(MethodOf(request, data.options)),
           format_(request.format),
           output_(output),
           errors_(errors),
           order_(HostDateTimeOrder()) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
-        const auto made = MakeChart(entry, houses_, order_.iDate, options_);
+        const auto made = MakeChart(entry, method_, order_.iDate, options_);
         if (!made) {
             for (const std::string& detail : made.fault().Details()) Refuse(source, detail);
             return;
@@ -63,7 +63,7 @@ class ChartPrinter : public EntryReceiver {
 
     const Options& options_;
     const DataFiles& files_;
-    HouseSystem houses_;
+    Method method_;
     OutputFormat format_;
     const Sink& output_;
     std::ostream& errors_;

@@ -147,7 +147,10 @@ std::string ChartAsJson(const CurrentChart& chart) {
     json.Member("month", natal.Month);
     json.Member("day", natal.Day);
     json.Member("houseSystem", HouseSystemCode(natal.HouseSystem));
+    json.Member("theory", TheoryCode(positions.Theory));
     json.Member("julianDay", positions.JulianDay);
+    json.Member("deltaT", positions.DeltaT);
+    if (positions.PlutoFromOldSeries) json.Member("remark", kOldPlutoRemark);
     json.Member("centuries", positions.Centuries);
     json.Member("obliquity", positions.ObliquityDegrees);
     json.Member("ramc", RadToDeg(positions.RAMC));

@@ -6,8 +6,8 @@ namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--place FILE:CITY] [--houses CODE] [--format FORMAT]\n"
-    "                      [--app-dir DIR] [--output FILE]\n"
+    "                      [--place FILE:CITY] [--houses CODE] [--theory classic|modern]\n"
+    "                      [--format FORMAT] [--app-dir DIR] [--output FILE]\n"
     "\n"
     "Computes natal charts and prints them.\n"
     "\n"
@@ -27,6 +27,9 @@ const std::string_view kUsage =
     "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
+    "  --theory NAME    classic, the theory of the program, or modern: positions that agree\n"
+    "                   with modern ephemerides to about a second of arc; without\n"
+    "                   it, option 26 decides\n"
     "  --format FORMAT  text (the listing), json (one object a line), ascii\n"
     "                   (the wheel drawn in characters) or report (the natal report in\n"
     "                   pages, a form feed after each)\n"

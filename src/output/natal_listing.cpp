@@ -21,6 +21,14 @@ void WriteHeader(DataBuffer& buffer, const NatalData& natal) {
     buffer.AppendLine(BirthDataLine(natal));
 }
 
+// Of a modern chart only: what the positions are, and what they took for Delta T.
+void WriteTheory(DataBuffer& buffer, const ChartPositions& chart) {
+    if (chart.Theory == Theory::Classic) return;
+    std::string line = "  Modern positions    Delta T = " + FormatMask(chart.DeltaT, "##0.0") + " seconds";
+    if (chart.PlutoFromOldSeries) line.append("    ").append(kOldPlutoRemark);
+    buffer.AppendLine(line);
+}
+
 void WriteCusps(DataBuffer& buffer, const NatalData& natal, const HouseCusps& cusps) {
     buffer.AppendBlankLine();
     buffer.AppendLine(std::string("  HOUSE CUSPS - ").append(HouseSystemName(natal.HouseSystem)));
@@ -82,6 +90,7 @@ std::string BirthDataLine(const NatalData& natal) {
 
 void WriteNatalListing(DataBuffer& buffer, const NatalData& natal, const ChartPositions& chart) {
     WriteHeader(buffer, natal);
+    WriteTheory(buffer, chart);
     WriteCusps(buffer, natal, chart.HouseCusps);
     WriteAngles(buffer, chart);
     WritePoints(buffer, chart);

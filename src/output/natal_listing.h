@@ -7,7 +7,7 @@
 
 namespace tolvanis {
 
-// Appends the listing of a chart to the data buffer.
+// Appends the listing of a chart to the data buffer; a modern chart has a line more in its header.
 void WriteNatalListing(DataBuffer& buffer, const NatalData& natal, const ChartPositions& chart);
 
 // The birth in one line, as the listing's header and the report's title page show it.

@@ -16,7 +16,7 @@ TEST(ChartDriver, AFaultIsToldAndLeavesTheChartBefore) {
     DataBuffer buffer;
     RecordingMessages messages;
     const auto compute = [&](const std::string& record) {
-        return ComputeChart(EntryOf(record), HouseSystem::Placidus, 1, options, chart, buffer, messages);
+        return ComputeChart(EntryOf(record), {}, 1, options, chart, buffer, messages);
     };
     EXPECT_TRUE(compute(kAnnSmith).computed);
     EXPECT_THAT(messages.told, IsEmpty());

@@ -16,6 +16,7 @@ namespace tolvanis {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 struct Outcome {
@@ -216,6 +217,48 @@ TEST(ChartCommand, APlaceStandsForItsCoordinatesAndZone) {
     EXPECT_THAT(RunWith({"--birth", born, "--place", "GA_MA.LL:Aberdeen"}).errors, HasSubstr("ID, IN, MD"));
     EXPECT_THAT(RunWith({"--birth", born, "--place", "NONE.LL:Rome"}).errors, HasSubstr("No such file"));
     EXPECT_THAT(RunWith({"--birth", "Ann,22 Sep 1949", "--place", path}).errors, HasSubstr("2 fields"));
+}
+
+// The modern listing has one line more, and the option decides where no argument does.
+TEST(ChartCommand, TheTheoryIsChosenAndShown) {
+    const auto lines = [](std::string_view record, std::string_view theory) {
+        std::istringstream text(RunWith({"--birth", record, "--theory", theory}).output);
+        std::vector<std::string> found;
+        for (std::string line; std::getline(text, line);) found.push_back(line);
+        return found;
+    };
+    const auto classic = lines(kAnnSmith, "classic");
+    const auto modern = lines(kAnnSmith, "modern");
+    EXPECT_EQ(RunWith({"--birth", kAnnSmith, "--theory=classic"}).output,
+              RunWith({"--birth", kAnnSmith}).output);
+    EXPECT_EQ(modern.at(3), "  Modern positions    Delta T = 28.8 seconds");
+    EXPECT_THAT(classic.at(13), StartsWith("  29 VIR 13m 25s   SUN "));
+    EXPECT_THAT(modern.at(14), StartsWith("  29 VIR 13m 27s   SUN "));
+    EXPECT_THAT(classic.at(33), HasSubstr("MC  Asc  P.F"));
+    EXPECT_EQ(modern.at(34), classic.at(33));
+    EXPECT_EQ(lines("Old,1 Jan 1500,9.05,A,0,0,51.30", "modern").at(3),
+              "  Modern positions    Delta T = 292.3 seconds    Pluto by the classic series");
+
+    const std::string json = RunWith({"--birth", kAnnSmith, "--theory", "modern", "--format", "json"}).output;
+    EXPECT_THAT(json, HasSubstr("\"theory\":\"modern\",\"julianDay\":2433182.086"));
+    EXPECT_THAT(json, HasSubstr(",\"deltaT\":28.8"));
+    EXPECT_THAT(json, Not(HasSubstr("\"remark\"")));
+    EXPECT_THAT(
+        RunWith({"--birth", "Old,1 Jan 1500,9.05,A,0,0,51.30", "--theory", "modern", "--format", "json"})
+            .output,
+        HasSubstr("\"remark\":\"Pluto by the classic series\""));
+    const auto refused = ParseCommandLine(std::vector<std::string_view>{"--theory", "newest"});
+    EXPECT_EQ(refused.message(), "unknown theory \"newest\" (classic or modern)");
+
+    Options options;
+    BirthArguments asked;
+    for (const auto& [value, theory] :
+         {std::pair{0.0F, Theory::Classic}, {1.0F, Theory::Modern}, {2.0F, Theory::Classic}}) {
+        options[26] = value;
+        EXPECT_EQ(MethodOf(asked, options).theory, theory) << value;
+    }
+    asked.theory = Theory::Modern;
+    EXPECT_EQ(MethodOf(asked, options).theory, Theory::Modern);
 }
 
 TEST(WheelCommand, ArgumentsAndBirths) {

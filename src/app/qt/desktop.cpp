@@ -20,7 +20,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr int kHouseSystemOption = 27;
 constexpr int kTitleOption = 48;
 constexpr int kNarrowestStrip = 200;  // pixels
 constexpr std::string_view kDataHelpFile = "OUTPUTD1.HLP";
@@ -53,10 +52,10 @@ bool Desktop::Start() {
     const Hourglass hourglass;
     state_.settings = ReadSettings(state_.files.directory());
     MeasureScreen();
-    state_.houseSystem = HouseSystemOfOption(state_.options[kHouseSystemOption]);
+    state_.method = MethodOfOptions(state_.options);
     MakeWindows();
     RegisterCommands();
-    main_->TickHouseSystem(state_.houseSystem);
+    main_->TickMethod(state_.method);
     ShowMainWindow();
     ShowEntryWindows();
     return true;
@@ -101,6 +100,7 @@ void Desktop::MakeWindows() {
     connect(main_.get(), &TOLVANIS::textFileChosen, this,
             [this](const std::string& file) { ShowTextFile(file); });
     connect(main_.get(), &TOLVANIS::houseSystemChosen, this, &Desktop::mnuHouse_Click);
+    connect(main_.get(), &TOLVANIS::theoryChosen, this, &Desktop::mnuPositions_Click);
     connect(main_.get(), &TOLVANIS::commandChosen, this,
             [this](const std::string& control) { commands_.at(control)(); });
 
@@ -143,7 +143,7 @@ void Desktop::RegisterCommands() {
         {"mnuHelpPrintHelp", run(&Desktop::mnuHelpPrintHelp_Click)},
     };
     for (const MenuItem& item : MainMenu()) {
-        const bool command = !item.opensMenu && item.textFile.empty() && !item.houseSystem;
+        const bool command = item.RunsCommand();
         if (command && !commands_.contains(item.control)) main_->ItemOf(item.control)->setEnabled(false);
     }
     connect(main_->ItemOf("mnuPhilosophy")->menu(), &QMenu::aboutToShow, this, &Desktop::EnableStudyTexts);
@@ -250,8 +250,8 @@ void Desktop::Compute() {
     births_->CloseTimeZones();
     state_.buffer.ClearDataBuffer();
     const ComputeOutcome outcome =
-        ComputeChart(natalInput().Entry(), state_.houseSystem, state_.order.iDate, state_.options,
-                     state_.chart, state_.buffer, services_.messages);
+        ComputeChart(natalInput().Entry(), state_.method, state_.order.iDate, state_.options, state_.chart,
+                     state_.buffer, services_.messages);
     if (outcome.toCorrect) return ShowInputFault(*outcome.toCorrect);
     if (!outcome.computed) return;
     state_.chartComputed = true;
@@ -274,11 +274,20 @@ void Desktop::mnuInputData_Click() {
 }
 
 void Desktop::mnuHouse_Click(HouseSystem system) {
-    state_.houseSystem = system;
-    main_->TickHouseSystem(system);
+    state_.method.houses = system;
+    RecomputeByMethod();
+}
+
+void Desktop::mnuPositions_Click(Theory theory) {
+    state_.method.theory = theory;
+    RecomputeByMethod();
+}
+
+void Desktop::RecomputeByMethod() {
+    main_->TickMethod(state_.method);
     PrepareInput();
     // The entry windows are hidden again by a computation that succeeds; they come up only when it will not.
-    if (!CheckEntry(natalInput().Entry(), system).empty()) ShowEntryWindows();
+    if (!CheckEntry(natalInput().Entry(), state_.method.houses).empty()) ShowEntryWindows();
     Compute();
 }
 

@@ -94,6 +94,8 @@ class Desktop : public QObject {
 
     void mnuInputData_Click();
     void mnuHouse_Click(HouseSystem system);
+    void mnuPositions_Click(Theory theory);
+    void RecomputeByMethod();
     void mnuOptions_Click();
     void mnuHeader_Click();
     void mnuDataNatalData_Click();

@@ -82,6 +82,10 @@ void TOLVANIS::ConnectItem(const MenuItem& item, QAction* action) {
         action->setCheckable(true);
         connect(action, &QAction::triggered, this,
                 [this, system = *item.houseSystem] { Q_EMIT houseSystemChosen(system); });
+    } else if (item.theory) {
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, this,
+                [this, theory = *item.theory] { Q_EMIT theoryChosen(theory); });
     } else {
         connect(action, &QAction::triggered, this,
                 [this, control = item.control] { Q_EMIT commandChosen(control); });
@@ -92,9 +96,10 @@ QAction* TOLVANIS::ItemOf(const std::string& control) const {
     return actions_.value(ToQt(control));
 }
 
-void TOLVANIS::TickHouseSystem(HouseSystem system) {
+void TOLVANIS::TickMethod(const Method& method) {
     for (const MenuItem& item : items_) {
-        if (item.houseSystem) ItemOf(item.control)->setChecked(*item.houseSystem == system);
+        if (item.houseSystem) ItemOf(item.control)->setChecked(*item.houseSystem == method.houses);
+        if (item.theory) ItemOf(item.control)->setChecked(*item.theory == method.theory);
     }
 }
 

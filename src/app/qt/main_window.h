@@ -5,6 +5,7 @@
 #include <QMap>
 
 #include "app/menu_table.h"
+#include "astro/natal_chart.h"
 
 namespace tolvanis {
 
@@ -17,7 +18,8 @@ class TOLVANIS : public QMainWindow {
     // The action of an item or the menu action of a menu; the name is one of the menu table's.
     QAction* ItemOf(const std::string& control) const;
 
-    void TickHouseSystem(HouseSystem system);
+    // Ticks the items of a method.
+    void TickMethod(const Method& method);
     // Shows the items that need a computed chart.
     void ShowChartItems();
     void ShowItem(const std::string& control);
@@ -29,6 +31,7 @@ class TOLVANIS : public QMainWindow {
   Q_SIGNALS:
     void textFileChosen(const std::string& fileName);
     void houseSystemChosen(tolvanis::HouseSystem system);
+    void theoryChosen(tolvanis::Theory theory);
     void commandChosen(const std::string& control);
     // The user closes the window; it is the receiver who decides whether the program ends.
     void exitRequested();

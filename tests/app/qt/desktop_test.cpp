@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -99,6 +100,32 @@ TEST_F(DesktopWindow, AnotherHouseSystemComputesTheSameBirthAgain) {
     Choose("mnuHouseMeridian");
     EXPECT_TRUE(ListingHas("HOUSE CUSPS - Meridian"));
     EXPECT_TRUE(messages_.told.empty());
+}
+
+TEST_F(DesktopWindow, ModernPositionsComputeTheSameBirthAgain) {
+    const auto isTicked = [&](const char* item) { return desktop_->mainWindow().ItemOf(item)->isChecked(); };
+    const QAction* positions = desktop_->mainWindow().ItemOf("mnuPositions");
+    EXPECT_EQ(desktop_->mainWindow().ItemOf("mnuChanges")->menu()->actions().back(), positions);
+    TypeBirth();
+    PressOK();
+    const std::string classic = Listing();
+    EXPECT_TRUE(isTicked("mnuPositionsClassic"));
+    Choose("mnuHouseKoch");
+    Choose("mnuPositionsModern");
+    EXPECT_TRUE(ListingHas("Modern positions    Delta T = 28.8 seconds"));
+    EXPECT_TRUE(ListingHas("HOUSE CUSPS - Koch"));
+    EXPECT_TRUE(isTicked("mnuPositionsModern"));
+    EXPECT_FALSE(isTicked("mnuPositionsClassic"));
+    Choose("mnuHousePlacidus");
+    EXPECT_TRUE(ListingHas("Modern positions"));
+    Choose("mnuPositionsClassic");
+    EXPECT_EQ(Listing(), classic);
+
+    auto lines = *ReadLines(directory_.path() / "OPTIONS.OPT");
+    lines[25] = "1";
+    directory_.Write("OPTIONS.OPT", JoinLines(lines));
+    ASSERT_TRUE(Open());
+    EXPECT_TRUE(isTicked("mnuPositionsModern"));
 }
 
 TEST_F(DesktopWindow, SavesUnderTheProposedNameAndThenWithoutAsking) {
