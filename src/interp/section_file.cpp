@@ -33,7 +33,7 @@ bool FindHeading(LineReader& file, std::string_view key, SearchEnd searchEnd, st
 }  // namespace
 
 SectionOutcome TakeSection(LineReader& file, std::string_view key, SearchEnd searchEnd,
-                           const TakeLine& take) {
+                           const LineTaker& take) {
     std::string line;
     if (!FindHeading(file, key, searchEnd, line)) return SectionOutcome::Absent;
     take(line);
