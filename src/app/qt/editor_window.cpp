@@ -3,8 +3,8 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QShortcut>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/qt/hourglass.h"

@@ -68,7 +68,6 @@ double CalendarYear(double ut) {
 // The day is longer than 86,400 seconds by 1.72 t - 3.5 sin(2 pi (t + 0.75) / 14) milliseconds, t in
 // centuries from 1825; this is the sum of that over the days since then, but for a constant.
 double SumOfDayLengths(double year) {
-    constexpr double kDaysPerCentury = 36525.0;
     constexpr double kPeriod = 14.0;
     const double t = (year - 1825.0) / 100.0;
     return kDaysPerCentury *

@@ -5,9 +5,6 @@
 namespace tolvanis::modern {
 namespace {
 
-constexpr double kDaysPerCentury = 36525.0;
-constexpr double kJ2000 = 2451545.0;
-
 double Centuries(double tt) {
     return (tt - kJ2000) / kDaysPerCentury;
 }

@@ -5,9 +5,6 @@
 namespace tolvanis::modern {
 namespace {
 
-constexpr double kDaysPerMillennium = 365250.0;
-constexpr double kJ2000 = 2451545.0;
-
 Motion MotionOf(const PlanetSeries& series, double t) {
     const auto argument = [t](const PlanetTerm& term) { return term.phase + term.rate * t; };
     const auto rate = [](const PlanetTerm& term) { return term.rate; };

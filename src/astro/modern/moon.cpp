@@ -5,8 +5,6 @@
 namespace tolvanis::modern {
 namespace {
 
-constexpr double kDaysPerCentury = 36525.0;
-constexpr double kJ2000 = 2451545.0;
 constexpr double kKilometresPerUnit = 149597870.691;
 
 // The pole of the mean ecliptic of date in that of J2000.0, powers of Julian centuries (Laskar 1986).

@@ -9,9 +9,6 @@
 namespace tolvanis::modern {
 namespace {
 
-constexpr double kDaysPerMillennium = 365250.0;
-constexpr double kJ2000 = 2451545.0;
-
 // The sum of a Chebyshev series and its derivative (Clenshaw).
 Motion BarycentricMotion(const OrbitPieces& orbit, double tdb) {
     const auto pieces = static_cast<double>(orbit.coefficients.size() / orbit.perPiece);
