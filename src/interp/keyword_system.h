@@ -21,7 +21,7 @@ std::string HouseLessonFile(int house);
 std::string PlanetLessonFile(int planet);
 
 struct LessonButton {
-    std::string_view control, caption, file;
+    const char *control, *caption, *file;
 };
 inline constexpr std::array<LessonButton, 7> kLessonButtons = {{
     {"OKIntro1", "Intro", "INTRO1.TXT"},

@@ -2,7 +2,6 @@
 
 #include "interp/qt/status_window.h"
 #include "platform/qt/hourglass.h"
-#include "platform/qt/placement.h"
 
 namespace tolvanis {
 namespace {
@@ -12,14 +11,12 @@ constexpr const char* kOverflowText =
     "The report is too long. It has been cut after 32,767 lines. Please look for an interpretation text that "
     "is far longer than the others.";
 
-// Reference windows stand on the right, where the Data window leaves most room.
-void MoveToRight(QWidget& window) {
+// The middle of the screen, from where a window goes where it covers least.
+QRect MiddlePlace(const QSize& size) {
     const QList<QRect> screens = UsableScreens();
-    if (screens.isEmpty()) return;
-    QRect place(QPoint(), window.sizeHint());
-    place.moveCenter(screens.front().center());
-    place.moveRight(screens.front().right() - window.fontMetrics().height());
-    PlaceWindow(window, WhollyInView(place, screens));
+    QRect place(QPoint(), size);
+    if (!screens.isEmpty()) place.moveCenter(screens.front().center());
+    return place;
 }
 
 }  // namespace
@@ -45,6 +42,7 @@ void InterpDesk::OpenReport() {
         report_ = new Report({state_.report, state_.options, state_.titlePrefix, state_.SaveFileName,
                               printing_, state_.files.Own(kReportsDirectory)});
         connect(report_, &Report::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
+        PlaceBesideOthers(*report_, MiddlePlace(report_->size()));
     }
     report_->Load(state_.chart.natal.Name);
     BringForward(*report_);
@@ -52,15 +50,17 @@ void InterpDesk::OpenReport() {
 }
 
 void InterpDesk::OpenMeanings() {
-    const QPoint place = meanings_ != nullptr ? meanings_->pos() : QPoint();
-    const bool wasOpen = meanings_ != nullptr;
-    delete meanings_;
+    CloseMeanings();
     meanings_ = new MEANINGS(printing_.messages);
     connect(meanings_, &MEANINGS::meaningChosen, this, &InterpDesk::ShowMeaning);
     connect(meanings_, &MEANINGS::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-    MoveToRight(*meanings_);
-    if (wasOpen) meanings_->move(place);
+    meaningsPlace_.Apply(*meanings_, MiddlePlace(meanings_->sizeHint()));
     BringForward(*meanings_);
+}
+
+void InterpDesk::CloseMeanings() {
+    if (meanings_ != nullptr) meaningsPlace_.Note(*meanings_);
+    delete meanings_;
 }
 
 void InterpDesk::ShowMeaning(const MeaningPlace& place) {
@@ -77,7 +77,7 @@ void InterpDesk::OpenKeywords() {
     if (keywords_ == nullptr) {
         keywords_ = new Keywords(printing_.messages, state_.screen.twipsPerPixel);
         connect(keywords_, &Keywords::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-        MoveToRight(*keywords_);
+        PlaceBesideOthers(*keywords_, MiddlePlace(keywords_->size()));
     }
     BringForward(*keywords_);
 }
@@ -87,7 +87,7 @@ void InterpDesk::OpenKeywordSystem() {
         keywordSystem_ = new KW_SYSTM;
         connect(keywordSystem_, &KW_SYSTM::lessonChosen, this, &InterpDesk::lessonRequested);
         connect(keywordSystem_, &KW_SYSTM::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-        MoveToRight(*keywordSystem_);
+        PlaceBesideOthers(*keywordSystem_, MiddlePlace(keywordSystem_->sizeHint()));
     }
     BringForward(*keywordSystem_);
 }

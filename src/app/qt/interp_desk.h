@@ -9,6 +9,7 @@
 #include "interp/qt/keywords_window.h"
 #include "interp/qt/meanings_window.h"
 #include "interp/qt/report_window.h"
+#include "platform/qt/placement.h"
 
 namespace tolvanis {
 
@@ -21,9 +22,9 @@ class InterpDesk : public QObject {
 
     // Builds the report of the computed chart and shows its beginning.
     void OpenReport();
-    // Opens the meanings with their first choice, in the place of those that are open.
+    // Opens the meanings with their first choice, where the user has had them before.
     void OpenMeanings();
-    void CloseMeanings() { delete meanings_; }
+    void CloseMeanings();
     // Open these windows or bring them forward.
     void OpenKeywords();
     void OpenKeywordSystem();
@@ -46,6 +47,7 @@ class InterpDesk : public QObject {
     PrintServices printing_;
     QPointer<Report> report_;
     QPointer<MEANINGS> meanings_;
+    KeptPlace meaningsPlace_;
     QPointer<Keywords> keywords_;
     QPointer<KW_SYSTM> keywordSystem_;
 };

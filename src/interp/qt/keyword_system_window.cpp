@@ -3,24 +3,14 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include "interp/keyword_system.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
-namespace {
-
-QPushButton* MakeButton(std::string_view name, std::string_view caption) {
-    auto* button = new QPushButton(ToQt(caption));
-    button->setObjectName(ToQt(name));
-    button->setAutoDefault(true);  // Enter presses it
-    return button;
-}
-
-}  // namespace
 
 LessonList::LessonList(std::span<const std::string_view> items) {
     for (const std::string_view item : items) addItem(ToQt(item));
@@ -53,12 +43,12 @@ KW_SYSTM::KW_SYSTM() {
     AddList(*grid, 2, "Combo3", "&Planets", planets, PlanetLessonFile);
     int row = 0;
     for (const LessonButton& lesson : kLessonButtons) {
-        QPushButton* button = MakeButton(lesson.control, lesson.caption);
+        QPushButton* button = MakePushButton(lesson.control, QLatin1String(lesson.caption));
         connect(button, &QPushButton::clicked, this,
-                [this, file = std::string(lesson.file)] { Q_EMIT lessonChosen(file); });
+                [this, file = lesson.file] { Q_EMIT lessonChosen(file); });
         grid->addWidget(button, row++, 2);
     }
-    QPushButton* quit = MakeButton("Command1", "Quit");
+    QPushButton* quit = MakePushButton("Command1", QStringLiteral("Quit"));
     connect(quit, &QPushButton::clicked, this, &QWidget::close);
     grid->addWidget(quit, row - 1, 0, 1, 2, Qt::AlignLeft);
     setTabOrder(grid->itemAtPosition(row - 1, 2)->widget(), quit);

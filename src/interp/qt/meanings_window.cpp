@@ -2,11 +2,11 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QPushButton>
 
 #include "chart/chart_point.h"
 #include "interp/keyword_system.h"
 #include "interp/qt/option_group.h"
+#include "platform/qt/push_button.h"
 
 namespace tolvanis {
 namespace {
@@ -52,9 +52,7 @@ OptionGroup* MEANINGS::AddGroup(QGridLayout& grid, int column, const char* name,
 
 void MEANINGS::AddButton(QGridLayout& grid, int column, const char* name, const char* caption,
                          void (MEANINGS::*handler)()) {
-    auto* button = new QPushButton(QLatin1String(caption));
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);  // Enter presses it
+    QPushButton* button = MakePushButton(name, QLatin1String(caption));
     connect(button, &QPushButton::clicked, this, handler);
     grid.addWidget(button, 1, column);
 }

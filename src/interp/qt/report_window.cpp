@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QShortcut>
 #include <QtMath>
 #include <algorithm>
@@ -15,6 +14,7 @@
 #include "platform/qt/hourglass.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "platform/qt/text_area.h"
 #include "text/columns.h"
@@ -86,7 +86,6 @@ void Report::Build() {
     const QSize wanted = AreaFor(*txtContent_, kPoints) + QSize(frame, extra.height());
     const QMargins margins = column->contentsMargins();
     ResizeToFit(*this, wanted + QSize(margins.left() + margins.right(), 0));
-    MoveToMiddle(*this);
     AddShortcut(QKeySequence::Save, [this] { cmdSave_Click(); });
     AddShortcut(QKeySequence::Print, [this] { btnPrint_Click(); });
     AddShortcut(QKeySequence::Find, [this] { OpenFind(); });
@@ -97,9 +96,7 @@ void Report::Build() {
 
 QPushButton* Report::AddButton(QHBoxLayout& row, const char* name, const char* caption,
                                void (Report::*handler)()) {
-    auto* button = new QPushButton(QLatin1String(caption));
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(true);  // Enter presses it
+    QPushButton* button = MakePushButton(name, QLatin1String(caption));
     connect(button, &QPushButton::clicked, this, handler);
     row.addWidget(button);
     return button;
