@@ -20,9 +20,9 @@ int GridPosition(int point) {
 }  // namespace
 
 int BlockSource::Colour(int colour, double contrast) const {
-    return turnsColours
-               ? Legible(Luminance(ground) < 0.18 ? LightnessTurned(colour) : colour, ground, contrast)
-               : colour;
+    constexpr double kMiddleLuminance = 0.18;
+    const bool turns = turnsColours && Luminance(ground) < kMiddleLuminance;
+    return Legible(turns ? LightnessTurned(colour) : colour, ground, contrast);
 }
 
 int GridColour(const Options& options, int code) {
@@ -102,8 +102,9 @@ TextBlock ElementTable(const BlockSource& source, const TextMeasure& measure, do
     const int black = source.Colour(kBlack, kTextContrast);
     const double glyph = measure.Measure(SymbolText(kStepGlyph), {size}).width;
     const double label = measure.Measure("Earth ", {size * 0.8, true}).width + 3.0;
-    // A cell holds three glyphs side by side; more stand closer.
-    const double column = std::max(3.0 * glyph + 4.0, measure.Measure("Cardinal", {size * 0.8}).width + 3.0);
+    // A cell holds up to six glyphs side by side; more become smaller.
+    const double widest = static_cast<double>(std::min<std::size_t>(most, 6)) * glyph + 4.0;
+    const double column = std::max(widest, measure.Measure("Cardinal", {size * 0.8}).width + 3.0);
     const double line = 1.55 * size;
     TextBlock block;
     block.width = label + 3 * column;

@@ -11,9 +11,9 @@ struct BlockSource {
     const Options& options;
     const OrbTable& orbs;
     int ground = kWhite;
-    bool turnsColours =
-        false;  // the colours of the options, chosen for white paper, are turned for a dark ground
+    bool turnsColours = false;  // colours chosen for white paper are turned for a dark ground
 
+    // The colour, legible on the ground.
     int Colour(int colour, double contrast) const;
 };
 

@@ -111,9 +111,11 @@ std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& m
         place.x += leftHalf ? kSignCell / 2 - kSignCell : kSignCell / 2;
         return CentredText(measure, place, SignGlyph(mark.sign), font, plan.SignColour(mark.sign));
     };
+    std::vector<Extent> busy(taken.begin(), taken.end());
     const auto isFree = [&](const WheelText& text) {
         const Extent ink = InkOf(text, measure);
-        return std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, 2.0); });
+        return Inside(ink, plan.surface) &&
+               std::ranges::none_of(busy, [&](const Extent& other) { return Overlap(ink, other, 1.0); });
     };
     std::vector<WheelText> texts;
     for (const SignMark& mark : SignRing(plan.chart.HouseCusps, plan.type)) {
@@ -122,6 +124,7 @@ std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& m
             text = at(mark, slide);
             if (!isFree(text)) text = at(mark, -slide);
         }
+        busy.push_back(InkOf(text, measure));
         texts.push_back(std::move(text));
     }
     return texts;

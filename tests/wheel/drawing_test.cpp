@@ -9,6 +9,7 @@
 #include "wheel/symbols.h"
 #include "wheel/wheel_page.h"
 #include "wheel/wheel_support.h"
+#include "wheel/wheel_words.h"
 
 namespace tolvanis {
 namespace {
@@ -213,6 +214,113 @@ TEST_F(DrawingTest, HouseLinesSpareTheLabels) {
         }
         EXPECT_GT(spared, 30);
     }
+}
+
+// On a desktop's ground, light or dark, everything can be told from it; without the option nothing changes.
+TEST_F(DrawingTest, ColoursFollowTheDesktopWhenAsked) {
+    OrbTable orbs{};
+    orbs.fill(4.0F);
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        for (const int ground : {Rgb(0xFFFFFF), Rgb(0xEFF0F1), Rgb(0x31363B), Rgb(0x000000)}) {
+            surface = {};
+            options[104] = 1.0F;
+            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
+            EXPECT_EQ(surface.background, ground);
+            for (const WheelText& text : surface.texts) {
+                // A sign of the ring stands on its sector's tint.
+                const bool onTint = type == ChartType::ZodiacRing && text.font.bold && text.text[0] < 0;
+                EXPECT_GE(Contrast(text.colour, ground), onTint ? 3.0 : 4.5) << text.text;
+            }
+            for (const auto& line : surface.lines) EXPECT_GE(Contrast(line.stroke.colour, ground), 3.0);
+            options[104] = 0.0F;
+            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
+            EXPECT_EQ(surface.background, kWhite);
+        }
+    }
+}
+
+TEST_F(DrawingTest, SmallPicturesLeaveOutMinutes) {
+    const auto numbersInTheRing = [&](double size) {
+        surface = {};
+        DrawWheel(surface, {chart, data, options, ChartType::European, size, size});
+        return std::ranges::count_if(surface.texts, [&](const WheelText& text) {
+            const Extent ink = InkOf(text, surface);
+            return std::isdigit(text.text[0]) && FarthestFromCentre(ink) < 217.0;
+        });
+    };
+    EXPECT_EQ(numbersInTheRing(400.0), kChartPointCount);
+    EXPECT_EQ(numbersInTheRing(700.0), 2 * kChartPointCount);
+}
+
+TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
+    OrbTable orbs{};
+    orbs.fill(-1.0F);
+    orbs[1] = 2.0F;
+    orbs[13] = 3.0F;  // quintile
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 17.3 * point);
+    Put(chart, kSun, 130.0);
+    Put(chart, kMoon, 131.0);
+    Put(chart, kMars, 130.0 + 72.0);
+    surface = {};
+    DrawWheel(surface, {chart, data, options, ChartType::ZodiacRing, 500.0, 500.0, false, orbs});
+    EXPECT_EQ(surface.sectors.size(), 12u);
+    EXPECT_NEAR(surface.sectors[4].from, 180.0 + 120.0 - 100.0, 1e-9) << "Leo";
+    int ticks = 0;
+    for (int degree = 0; degree < 360; ++degree) {
+        const double length = degree % 10 == 0 ? 7.0 : degree % 5 == 0 ? 5.0 : 2.8;
+        ticks += HasLine(OnWheel(degree + 80.0, 193.0), OnWheel(degree + 80.0, 193.0 - length));
+    }
+    EXPECT_EQ(ticks, 348) << "none where a sign begins";
+    const auto widthOf = [&](double from, double to) {
+        for (const auto& line : surface.lines) {
+            const auto joins = [&](Point a, Point b) {
+                return std::hypot(a.x - OnWheel(from, 97.0).x, a.y - OnWheel(from, 97.0).y) < 1e-6 &&
+                       std::hypot(b.x - OnWheel(to, 97.0).x, b.y - OnWheel(to, 97.0).y) < 1e-6;
+            };
+            if (joins(line.from, line.to) || joins(line.to, line.from)) return line.stroke.width;
+        }
+        return 0.0;
+    };
+    const double exact = widthOf(210.0, 282.0);
+    const double wide = widthOf(211.0, 282.0);
+    EXPECT_GT(exact, wide) << "the closer aspect is heavier";
+    EXPECT_GT(wide, 0.0);
+    EXPECT_EQ(widthOf(210.0, 211.0), 0.0) << "a conjunction is an arc";
+    const auto arc = std::ranges::count_if(surface.lines, [](const auto& line) {
+        return std::abs(std::hypot(line.from.x, line.from.y) - 93.5) < 1e-6 &&
+               std::abs(std::hypot(line.to.x, line.to.y) - 93.5) < 1e-6;
+    });
+    EXPECT_GE(arc, 4);
+    for (const double angle : {210.0, 211.0, 282.0}) {
+        EXPECT_TRUE(std::ranges::any_of(surface.lines,
+                                        [&](const auto& line) {
+                                            return std::hypot(line.from.x - OnWheel(angle, 193.0).x,
+                                                              line.from.y - OnWheel(angle, 193.0).y) < 1e-6;
+                                        }))
+            << "the mark at the true angle " << angle;
+    }
+}
+
+TEST_F(DrawingTest, WordsTellPlaceHouseAndTheAspectsOfThePicture) {
+    OrbTable orbs{};
+    orbs[1] = 2.0F;
+    chart = SpreadChart(0.5);
+    Put(chart, kSun, 3.2);
+    Put(chart, kMoon, 4.2);
+    Put(chart, kMercury, 63.0);
+    Put(chart, kMars, 123.5);
+    chart.IsRetrograde[kMercury] = true;
+    WheelRequest request{chart, data, options, ChartType::ZodiacRing, 700.0, 700.0, false, orbs};
+    EXPECT_EQ(PointInWords(request, kSun), "Sun 03 Aries 12, house 1. Conjunct Moon.");
+    EXPECT_THAT(PointTip(request, kSun), ::testing::HasSubstr("Conjunct Moon  1\xC2\xB0"
+                                                              "00'"));
+    EXPECT_THAT(PointInWords(request, kMercury), ::testing::HasSubstr(", retrograde."));
+    request.type = ChartType::American;
+    EXPECT_EQ(PointInWords(request, kSun), "Sun 03 Aries 12, house 1. Sextile Mercury, Trine Mars.")
+        << "the lines of the picture";
+    const std::string all = WheelInWords(request);
+    EXPECT_LT(all.find("House 1, cusp 00 Aries 30. Sun"), all.find("House 2, cusp"));
+    for (const std::string_view name : kGridNames) EXPECT_NE(all.find(name), std::string::npos) << name;
 }
 
 TEST(PrintedPage, ExtentHasTheWheelAboveTheMiddle) {

@@ -129,11 +129,17 @@ void WheelCanvas::resizeEvent(QResizeEvent* event) {
 
 int WheelCanvas::IndexAt(QPoint place) const {
     constexpr int kNear = 3;
+    int nearest = -1;
+    int least = 0;
     for (std::size_t i = 0; i < points_.size(); ++i) {
-        if (points_[i].place.adjusted(-kNear, -kNear, kNear, kNear).contains(place))
-            return static_cast<int>(i);
+        const QRect& glyph = points_[i].place;
+        if (!glyph.adjusted(-kNear, -kNear, kNear, kNear).contains(place)) continue;
+        const int distance = (glyph.center() - place).manhattanLength();
+        if (nearest >= 0 && distance >= least) continue;
+        nearest = static_cast<int>(i);
+        least = distance;
     }
-    return -1;
+    return nearest;
 }
 
 bool WheelCanvas::event(QEvent* event) {
