@@ -25,10 +25,13 @@ QSize PixelSize(const WheelRequest& request) {
     return {qMax(1, qRound(request.width)), qMax(1, qRound(request.height))};
 }
 
-// A text as XML may hold it: its signs escaped, and without control characters, which XML has no way to write.
-std::string XmlText(std::string_view text) {
+// A text as XML may hold it: its signs escaped, and without what XML has no way to write, control characters
+// and noncharacters.
+std::string XmlText(const std::string& utf8) {
+    QString text = QString::fromStdString(utf8);
+    text.remove(QChar(0xFFFE)).remove(QChar(0xFFFF));
     std::string escaped;
-    for (const char c : text) {
+    for (const char c : text.toStdString()) {
         const auto byte = static_cast<unsigned char>(c);
         switch (c) {
             case '&':
@@ -62,8 +65,9 @@ bool WriteSvg(const WheelRequest& request, QBuffer& buffer) {
     Paint(svg, QRectF({0.0, 0.0}, QSizeF(PixelSize(request))), request);
     QByteArray& bytes = buffer.buffer();
     const qsizetype place = bytes.indexOf(kTitlePlace);
-    const std::string title = XmlText(QString::fromStdString(request.chart.TitleLines[0]).toStdString());
-    if (place >= 0) bytes.replace(place, qsizetype(std::strlen(kTitlePlace)), QByteArray::fromStdString(title));
+    const std::string title = XmlText(request.chart.TitleLines[0]);
+    if (place >= 0)
+        bytes.replace(place, qsizetype(std::strlen(kTitlePlace)), QByteArray::fromStdString(title));
     return true;
 }
 

@@ -160,6 +160,7 @@ TEST_F(WheelsTest, SvgIsReadByAnXmlReader) {
                  {"Bell\a and\x1b[31m tab\t", "Bell and[31m tab - natal"},
                  {"Zo\xC3\xAB \xE2\x82\xAC", "Zo\xC3\xAB \xE2\x82\xAC - natal"},
                  {"bytes \xFF\xFE", nullptr},
+                 {"no \xEF\xBF\xBE\xEF\xBF\xBF", "no  - natal"},
                  {"wheel-title", "wheel-title - natal"}};
     for (const auto& c : cases) {
         chart.TitleLines[0] = std::string(c.name) + " - natal";
