@@ -166,22 +166,29 @@ std::optional<Point> FindRowPlace(const LabelRow& row, double angle, const Stand
     const double first = kOuterRadius + kCircleGap + 1.0;
     const SinCos ray = SinCosDeg(angle);
     const double shift = RowShift(angle) * demand.size;
+    constexpr double kStep = 2.0;
+    const auto isPlace = [&](const Extent& box) {
+        if (!Inside(box, surface, kLabelGap) || NearestToCentre(box) < kOuterRadius + kCircleGap)
+            return false;
+        if (!standing.IsFree(box, kLabelGap)) return false;
+        if (demand.inOrder && !standing.KeepsOrder(angle, SeenAt(box))) return false;
+        return !demand.clearLeaders || standing.IsClear(LeaderTo(angle, box), box);
+    };
     std::optional<Point> best;
     double bestCost = std::numeric_limits<double>::max();
-    for (double outwards = 0.0; outwards <= kMostOutwards && outwards < bestCost; outwards += 1.5) {
-        for (double aside = -kMostAside; aside <= kMostAside; aside += 1.5) {
-            const double cost = outwards + 1.4 * std::abs(aside);
-            if (cost >= bestCost) continue;
-            const double radius = first + outwards;
-            const Point start{radius * ray.cos - aside * ray.sin - shift, radius * ray.sin + aside * ray.cos};
-            const Extent box = BoxOf(row, start);
-            if (NearestToCentre(box) < kOuterRadius + kCircleGap || !Inside(box, surface, kLabelGap))
-                continue;
-            if (demand.inOrder && !standing.KeepsOrder(angle, SeenAt(box))) continue;
-            if (!standing.IsFree(box, kLabelGap)) continue;
-            if (demand.clearLeaders && !standing.IsClear(LeaderTo(angle, box), box)) continue;
-            best = start;
-            bestCost = cost;
+    for (double outwards = 0.0; outwards <= kMostOutwards && outwards < bestCost; outwards += kStep) {
+        const double radius = first + outwards;
+        const Point beside{radius * ray.cos - shift, radius * ray.sin};
+        for (double aside = 0.0; aside <= kMostAside; aside += kStep) {
+            const double cost = outwards + 1.4 * aside;
+            if (cost >= bestCost) break;
+            for (const double way : {-aside, aside}) {
+                const Point start{beside.x - way * ray.sin, beside.y + way * ray.cos};
+                if (!isPlace(BoxOf(row, start))) continue;
+                best = start;
+                bestCost = cost;
+                break;
+            }
         }
     }
     return best;
