@@ -19,6 +19,7 @@ struct Sample {
     WheelSnapshot chart;
     WheelData data;
     Options options;
+    OrbTable orbs{};
 
     Sample() {
         const auto entry = EntryFromRecord(*ParseNameRecord("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45"));
@@ -26,10 +27,11 @@ struct Sample {
         chart = MakeWheelSnapshot(natal, *ComputePositions(natal));
         data = *ReadWheelData(DataFiles(DELIVERED_DATA_DIR));
         (void)ReadOptions(DataFiles(DELIVERED_DATA_DIR), options);
+        (void)ReadOrbsFile(DELIVERED_DATA_DIR "/NATAL.ORB", orbs);
         LoadSymbolFont(DataFiles(FONTS_DIR));
     }
     WheelRequest Request(int type, double size) const {
-        return {chart, data, options, ChartTypeOf(type), size, size};
+        return {chart, data, options, ChartTypeOf(type), size, size, false, orbs};
     }
 };
 
@@ -49,6 +51,7 @@ BENCHMARK(Repaint)
     ->Unit(benchmark::kMillisecond)
     ->Args({0, 1000})
     ->Args({1, 1000})
+    ->Args({2, 1000})
     ->Args({1, 2000});
 
 void Export(benchmark::State& state, const char* name) {

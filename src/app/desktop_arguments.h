@@ -12,7 +12,7 @@ namespace tolvanis {
 
 inline constexpr std::string_view kDesktopUsage =
     "Usage: tolvanis [--app-dir DIR]\n"
-    "       tolvanis --wheel FILE [--type american|european] [--size N]\n"
+    "       tolvanis --wheel FILE [--type american|european|ring] [--size N]\n"
     "                [--now | --birth RECORD | --names FILE --name NAME]\n"
     "                [--place FILE:CITY] [--houses CODE] [--theory classic|modern]\n"
     "                [--app-dir DIR]\n"
@@ -21,7 +21,7 @@ inline constexpr std::string_view kDesktopUsage =
     "  --app-dir DIR  the directory of OPTIONS.OPT and the other data files\n"
     "  --wheel FILE   write a chart wheel as FILE.svg, .pdf or .png, without opening\n"
     "                 a window, and exit; the birth is given as to tolvanis-chart\n"
-    "  --type TYPE    american (the default) or european\n"
+    "  --type TYPE    american (the default), european or ring\n"
     "  --size N       width and height of the picture in pixels, 100 to 10000 (1000)\n"
     "  --help         print this text and exit\n"
     "  --version      print the version and exit\n";

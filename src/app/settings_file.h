@@ -20,7 +20,7 @@ struct Settings {
     double TOLVANISHeight = 675.0;
     double TOLVANISWidth = 10860.0;
     std::int16_t StartScale = 287;  // wheel scale
-    std::int16_t TypeChart = 0;     // wheel style: 0 American, else European
+    std::int16_t TypeChart = 0;     // wheel style: 1 European, 2 zodiac ring, else American
     std::string DataFile;           // the current names file
     std::string GeoDataFile;        // the current cities file
     std::string AtlasDir;           // directory of the atlas program; empty when there is none

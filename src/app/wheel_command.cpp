@@ -14,10 +14,11 @@ namespace {
 constexpr std::string_view kWheelArgument = "--wheel";
 
 Result<void> SetType(WheelArguments& wheel, const std::string& type) {
-    if (type != "american" && type != "european") {
-        return Fault{"unknown chart type \"" + type + "\" (american or european)"};
+    const auto known = std::ranges::find(kChartTypeNames, type);
+    if (known == kChartTypeNames.end()) {
+        return Fault{"unknown chart type \"" + type + "\" (american, european or ring)"};
     }
-    wheel.type = type == "european" ? ChartType::European : ChartType::American;
+    wheel.type = ChartTypeOf(static_cast<int>(known - kChartTypeNames.begin()));
     return {};
 }
 
@@ -110,7 +111,12 @@ Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
     ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();
-    return WheelPicture{opened->files, opened->options, *data, *chart};
+    WheelPicture picture{opened->files, opened->options, *data, *chart, {}};
+    if (arguments.type == ChartType::ZodiacRing) {
+        const Result<void> read = ReadOrbsFile(opened->files.Find(kNatalOrbs), picture.orbs);
+        if (!read) return read.fault();
+    }
+    return picture;
 }
 
 }  // namespace tolvanis

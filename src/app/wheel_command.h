@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "app/birth_arguments.h"
+#include "aspects/orbs_file.h"
 #include "chart/options.h"
 #include "platform/data_files.h"
 #include "wheel/wheel_placement.h"
@@ -30,6 +31,7 @@ struct WheelPicture {
     Options options;
     WheelData data;
     WheelSnapshot chart;
+    OrbTable orbs;  // of the zodiac ring
 };
 
 // Reads the files and computes the chart; nothing is written. A fault names the file or the birth, and what

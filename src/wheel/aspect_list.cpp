@@ -1,5 +1,8 @@
 #include "wheel/aspect_list.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "aspects/aspect_definitions.h"
 #include "wheel/symbols.h"
 
@@ -10,6 +13,11 @@ constexpr std::array kListSearch = {kSextile,    kSquare,       kTrine,      kOp
                                     kSemiSquare, kSesquisquare, kQuincunx,   kSemiQuintile, kNonagen,
                                     kQuintile,   kTrecile,      kBiQuintile, kSeptile,      kConjunction};
 
+double Exactness(const AspectMatch& match, const OrbTable& orbs) {
+    const double orb = double{orbs[static_cast<std::size_t>(DefinitionOf(match.code).orbSlot)]};
+    return orb > 0.0 ? std::clamp(1.0 - std::abs(match.fromExact) / orb, 0.0, 1.0) : 1.0;
+}
+
 }  // namespace
 
 std::vector<ListedAspect> ListAspects(const WheelSnapshot& chart, const OrbTable& orbs) {
@@ -18,8 +26,9 @@ std::vector<ListedAspect> ListAspects(const WheelSnapshot& chart, const OrbTable
         for (const int second : kGridOrder) {
             if (first == second) continue;
             const double separation = Separation(chart.PointLongitude[first], chart.PointLongitude[second]);
-            const int code = MatchAspect(separation, kListSearch, orbs).code;
-            if (code != kNoAspect) aspects.push_back({first, second, code});
+            const AspectMatch match = MatchAspect(separation, kListSearch, orbs);
+            if (match.code == kNoAspect) continue;
+            aspects.push_back({first, second, match.code, Exactness(match, orbs)});
         }
     }
     return aspects;

@@ -13,6 +13,7 @@ struct ListedAspect {
     int first = kSun;  // chart points
     int second = kSun;
     int code = 0;
+    double exactness = 0.0;  // 0 at the bound of the orb, 1 when exact
 };
 
 // Every aspect twice, once under each of its points; points in grid order. All fifteen aspects are searched

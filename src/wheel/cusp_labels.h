@@ -5,10 +5,17 @@
 
 namespace tolvanis {
 
-// The degrees, sign and minutes of all cusps. American labels, and the European ones of Ascendant and
-// Descendant, stand where the table of cusp labels puts them. Other European labels stand in a row beside the
-// end of their line, as near to it as the signs, the `taken` rectangles and each other allow.
-std::vector<WheelText> CuspLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                  std::span<const Extent> taken);
+// The labels that stand where the table of cusp labels puts them: all of the American type; otherwise those
+// of Ascendant and Descendant.
+std::vector<WheelText> TableCuspLabels(const WheelPlan& plan);
+
+struct CuspLabelRows {
+    std::vector<WheelText> texts;
+    std::vector<LineSpan> leaders;  // fine lines from a label that stands elsewhere to its cusp
+};
+
+// The labels that stand in a row beside the end of their house line, as near to it as what is `taken` (signs,
+// table labels, title) and each other allow: first beside it, then further out; never where something stands.
+CuspLabelRows CuspLabels(const WheelPlan& plan, const TextMeasure& measure, std::span<const Extent> taken);
 
 }  // namespace tolvanis

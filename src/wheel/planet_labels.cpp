@@ -2,16 +2,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "chart/angles.h"
 #include "text/numbers.h"
 #include "wheel/position_label.h"
 #include "wheel/symbols.h"
+#include "wheel/zodiac_ring.h"
 
 namespace tolvanis {
 namespace {
 
-// The step sizes of a planet's label: each item stands in a cell of its kind.
+// The room of an item: along x and y.
 struct Cell {
     double width = 0.0;
     double height = 0.0;
@@ -41,49 +43,57 @@ LabelSteps MeasureSteps(const WheelPlan& plan, const TextMeasure& measure, doubl
 }
 
 bool ReadsInwards(const WheelPlan& plan, const PlacedGlyph& glyph) {
-    if (plan.type == ChartType::European) return glyph.angle >= 75.0 && glyph.angle < 255.0;
+    if (plan.type != ChartType::American) return glyph.angle >= 75.0 && glyph.angle < 255.0;
     const int house = glyph.house;
     if (plan.options[kLeftLabelsOption] == 1.0F) return house <= 2 || house >= 9;
     return house <= 3 || house >= 10;
 }
 
-// The items of a label behind the glyph, outermost first.
+// How a label gives way to its neighbours, step by step.
+struct Fit {
+    double size;   // of its letters, to the full size
+    bool isWide;   // with the distances of the options, not only with what the letters need
+    double inset;  // how far every other label stands further inwards, in heights of its number
+};
+constexpr std::array kFits = {
+    Fit{1.0, true, 0.0},   Fit{1.0, false, 0.0},  Fit{0.93, false, 0.0}, Fit{0.93, false, 1.0},
+    Fit{0.86, false, 0.0}, Fit{0.86, false, 1.0}, Fit{0.8, false, 0.0},  Fit{0.8, false, 1.0},
+    Fit{0.74, false, 0.0}, Fit{0.74, false, 1.0}, Fit{0.68, false, 0.0}, Fit{0.68, false, 1.0},
+    Fit{0.62, false, 0.0}, Fit{0.62, false, 1.0}, Fit{0.56, false, 0.0}, Fit{0.5, false, 0.0}};
+constexpr std::array kGlyphSizes = {1.0, 0.93, 0.87, 0.82, 0.77, 0.72, 0.66, 0.6};
+
+// Letters of a label are at least that large, in wheel units: what can be read in a window 700 pixels high.
+constexpr double kSmallestLetters = 6.2;
+// Without minutes there is room for larger letters.
+constexpr double kReducedGrowth = 1.25;
+
+double Shrunk(double size, double factor) {
+    return std::max(size * factor, std::min(size, kSmallestLetters));
+}
+
+// The items of a label behind the glyph, outermost first, in their own sizes.
 std::vector<LabelPart> LabelItems(const WheelPlan& plan, const PlacedGlyph& glyph) {
     const WheelForm& form = plan.form;
     const LabelLook look{form.degreesSize, form.degreesColour, form.signSize,
                          form.signColour,  form.minutesSize,   form.minutesColour};
-    const auto parts = PositionLabel(plan.options, look, plan.chart.PointLongitude[glyph.point]);
-    std::vector<LabelPart> items(parts.begin(), parts.end());
+    auto [degrees, sign, minutes] = PositionLabel(plan, look, plan.chart.PointLongitude[glyph.point]);
+    std::vector<LabelPart> items;
+    if (plan.type == ChartType::ZodiacRing) {
+        sign.colour = plan.SignColour(SignOf(plan.chart.PointLongitude[glyph.point]));
+    }
+    if (plan.IsReduced()) {
+        degrees.font.size *= kReducedGrowth;
+        sign.font.size *= kReducedGrowth;
+        items = {std::move(degrees), std::move(sign)};
+    } else {
+        items = {std::move(degrees), std::move(sign), std::move(minutes)};
+    }
     if (!ReadsInwards(plan, glyph)) std::ranges::reverse(items);
     if (glyph.point <= kMoon && plan.chart.IsRetrograde[glyph.point]) {
-        items.push_back({"R",
-                         {SizeOf(plan.options, form.retrogradeSize)},
-                         ColourOf(plan.options, form.retrogradeColour)});
+        items.push_back(
+            {"R", {SizeOf(plan.options, form.retrogradeSize)}, plan.TextColour(form.retrogradeColour)});
     }
     return items;
-}
-
-// How the items of a label follow each other inwards.
-enum class LabelStyle {
-    Rows,    // numbers side by side, cells touching along the ray: reads best, needs room on steep rays
-    Digits,  // digit by digit, for neighbours too close for rows
-};
-
-// Along the ray from the middle of one cell to that of a cell that touches it.
-double TouchingStep(const Cell& a, const Cell& b, const SinCos& ray) {
-    const double across = (a.width + b.width) / 2;
-    const double down = (a.height + b.height) / 2;
-    const double x = std::abs(ray.cos);
-    const double y = std::abs(ray.sin);
-    return across * y < down * x ? across / x : down / y;
-}
-
-// A cell that leaves a little room around a text's ink.
-Cell InkCell(const TextMeasure& measure, std::string_view text, TextFont font) {
-    constexpr double kRoomAcross = 3.2;
-    constexpr double kRoomDown = 2.2;
-    const TextBox box = measure.Measure(text, font);
-    return {box.inkRight - box.inkLeft + kRoomAcross, box.inkBottom - box.inkTop + kRoomDown};
 }
 
 bool IsDigit(const LabelPart& part) {
@@ -94,127 +104,199 @@ bool IsGlyph(const LabelPart& part) {
     return static_cast<unsigned char>(part.text[0]) >= 0x80;
 }
 
-// Joins the two digits of each number, which follow each other in either order.
-std::vector<LabelPart> JoinNumbers(std::vector<LabelPart> items, bool inwards) {
-    std::vector<LabelPart> joined;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        joined.push_back(items[i]);
-        if (!IsDigit(items[i])) continue;
-        ++i;
-        std::string& text = joined.back().text;
-        text = inwards ? text + items[i].text : items[i].text + text;
-    }
-    return joined;
+// Along the ray from the middle of one cell to that of a cell that touches it.
+double TouchingStep(const Cell& a, const Cell& b, const SinCos& ray) {
+    const double across = (a.width + b.width) / 2;
+    const double down = (a.height + b.height) / 2;
+    const double x = std::abs(ray.cos);
+    const double y = std::abs(ray.sin);
+    return across * y < down * x ? across / x : down / y;
 }
 
-// Puts the tens of each number above its units, or left of them on flat rays, so that nobody reads 42 for 24.
-void TurnNumbers(std::vector<LabelPart>& items, bool inwards, const Cell& digit, const SinCos& ray) {
-    const bool steep = digit.height * std::abs(ray.sin) >= digit.width * std::abs(ray.cos);
-    const bool tensOutside = steep ? ray.sin > 0.0 : ray.cos < 0.0;
-    if (tensOutside == inwards) return;
-    for (std::size_t i = 0; i + 1 < items.size(); ++i) {
-        if (!IsDigit(items[i]) || !IsDigit(items[i + 1])) continue;
-        std::swap(items[i], items[i + 1]);
-        ++i;
-    }
+// A text's ink with the least room around it.
+Cell InkCell(const TextMeasure& measure, const std::string& text, TextFont font) {
+    constexpr double kRoomAcross = 2.0;
+    constexpr double kRoomDown = 1.8;
+    const TextBox box = measure.Measure(text, font);
+    return {box.inkRight - box.inkLeft + kRoomAcross, box.inkBottom - box.inkTop + kRoomDown};
 }
 
-std::vector<WheelText> StyledLabel(const WheelPlan& plan, const TextMeasure& measure,
-                                   const PlacedGlyph& glyph, LabelStyle style) {
+// The room that the options give an item; the mark of a retrograde planet is one letter.
+Cell OptionCell(const LabelSteps& steps, const LabelPart& item) {
+    if (IsGlyph(item)) return steps.glyph;
+    return {IsDigit(item) ? 2.0 * steps.digit.width : steps.digit.width, steps.digit.height};
+}
+
+// A label as it is fitted among the others.
+struct Fitted {
+    PlacedGlyph glyph;
+    bool isEven = false;  // of those that follow each other around the wheel
+    std::size_t fit = 0;
+    std::size_t glyphSize = 0;
+    PlanetLabel label;
+    std::vector<InkShape> shapes;
+};
+
+void Build(const WheelPlan& plan, const TextMeasure& measure, Fitted& fitted) {
+    const PlacedGlyph& glyph = fitted.glyph;
+    const Fit& fit = kFits[fitted.fit];
     const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
     const SinCos ray = SinCosDeg(glyph.angle);
-    const auto degree = static_cast<std::size_t>(RoundToInt16(glyph.angle));
-    // The table's radius is that of the glyph's corner; the glyph itself is centred on its ray.
-    const double radius =
-        plan.data.radius[degree] + steps.glyph.width / 2 * ray.cos - steps.glyph.height / 2 * ray.sin;
-    Point place{radius * ray.cos, radius * ray.sin};
-    std::vector<WheelText> texts = {CentredText(measure, place, PointGlyph(glyph.point),
-                                                {SizeOf(plan.options, plan.form.planetSize)},
-                                                ColourOf(plan.options, plan.form.planetColour))};
-    std::vector<LabelPart> items = LabelItems(plan, glyph);
-    const bool inwards = ReadsInwards(plan, glyph);
-    if (style == LabelStyle::Rows) {
-        items = JoinNumbers(std::move(items), inwards);
-    } else {
-        TurnNumbers(items, inwards, steps.digit, ray);
-    }
-    Cell last = style == LabelStyle::Rows ? InkCell(measure, texts[0].text, texts[0].font) : steps.glyph;
-    for (LabelPart& item : items) {
-        Cell cell = IsGlyph(item) ? steps.glyph : steps.digit;
-        if (style == LabelStyle::Rows) {
-            cell = InkCell(measure, item.text, item.font);
-            const double step = TouchingStep(last, cell, ray);
-            place = {place.x - step * ray.cos, place.y - step * ray.sin};
-        } else {
-            place.x -= (last.width + cell.width) / 2 * ray.cos;
-            place.y -= (last.height + cell.height) / 2 * ray.sin;
+    double radius = GlyphRadius(plan, measure, glyph.angle);
+    const TextFont glyphFont{SizeOf(plan.options, plan.form.planetSize) * kGlyphSizes[fitted.glyphSize]};
+    std::vector<WheelText>& texts = fitted.label.texts;
+    texts = {CentredText(measure, OnWheel(glyph.angle, radius), PointGlyph(glyph.point), glyphFont,
+                         plan.TextColour(plan.form.planetColour))};
+    fitted.label.point = glyph.point;
+    fitted.label.leader.reset();
+    Cell last = InkCell(measure, texts[0].text, glyphFont);
+    Cell lastWide = steps.glyph;
+    const double glyphEdge = radius - TouchingStep(last, {}, ray);
+    bool isFirst = true;
+    for (LabelPart& item : LabelItems(plan, glyph)) {
+        item.font.size = Shrunk(item.font.size, fit.size);
+        const Cell cell = InkCell(measure, item.text, item.font);
+        const Cell wide = OptionCell(steps, item);
+        double step = TouchingStep(last, cell, ray);
+        if (fit.isWide) step = std::max(step, TouchingStep(lastWide, wide, ray));
+        if (isFirst && fitted.isEven) step += fit.inset * cell.height;
+        radius -= step;
+        if (isFirst && fitted.isEven && fit.inset > 0.0) {
+            fitted.label.leader = {OnWheel(glyph.angle, glyphEdge),
+                                   OnWheel(glyph.angle, radius + TouchingStep(cell, {}, ray))};
         }
-        texts.push_back(CentredText(measure, place, std::move(item.text), item.font, item.colour));
+        texts.push_back(CentredText(measure, {radius * ray.cos, radius * ray.sin}, std::move(item.text),
+                                    item.font, item.colour));
         last = cell;
+        lastWide = wide;
+        isFirst = false;
     }
-    return texts;
+    fitted.shapes.clear();
+    for (const WheelText& text : texts) fitted.shapes.push_back(ShapeOf(text, measure));
 }
 
-// The last slot of the twelfth house lies only 3 degrees from the first of the first house. Glyphs in both
-// are drawn a little apart, and with them their neighbours, so that they do not touch.
-std::vector<PlacedGlyph> Apart(std::span<const PlacedGlyph> placed) {
-    constexpr double kLeast = 4.0;  // degrees
-    constexpr int kRounds = 40;
-    std::vector<PlacedGlyph> glyphs(placed.begin(), placed.end());
-    std::vector<PlacedGlyph*> around;
-    for (PlacedGlyph& glyph : glyphs) {
-        if (glyph.drawn) around.push_back(&glyph);
-    }
-    std::ranges::sort(around, {}, [](const PlacedGlyph* glyph) { return glyph->angle; });
-    for (int round = 0; round < kRounds; ++round) {
-        for (std::size_t i = 1; i < around.size(); ++i) {
-            const double lack = kLeast - (around[i]->angle - around[i - 1]->angle);
-            if (lack < 1e-3) continue;
-            around[i - 1]->angle -= lack / 2;
-            around[i]->angle += lack / 2;
+enum class Meeting { None, Glyphs, Labels };
+
+constexpr double kBetweenLabels = 0.9;
+
+bool LeaderMeets(const PlanetLabel& label, const std::vector<InkShape>& shapes) {
+    return label.leader && std::ranges::any_of(shapes, [&](const InkShape& shape) {
+               return Crosses(*label.leader, shape.box, kBetweenLabels);
+           });
+}
+
+// What of two labels meets; glyphs that meet can only become smaller themselves.
+Meeting MeetingOf(const Fitted& a, const Fitted& b) {
+    if (Touch(a.shapes[0], b.shapes[0], kBetweenLabels)) return Meeting::Glyphs;
+    for (const InkShape& one : a.shapes) {
+        for (const InkShape& two : b.shapes) {
+            if (Touch(one, two, kBetweenLabels)) return Meeting::Labels;
         }
     }
-    for (PlacedGlyph* glyph : around) glyph->angle = Norm360(glyph->angle);
-    return glyphs;
+    return LeaderMeets(a.label, b.shapes) || LeaderMeets(b.label, a.shapes) ? Meeting::Labels : Meeting::None;
 }
 
-bool Meet(const std::vector<Extent>& a, const std::vector<Extent>& b) {
-    constexpr double kBetweenLabels = 0.3;
-    return std::ranges::any_of(a, [&](const Extent& one) {
-        return std::ranges::any_of(b, [&](const Extent& two) { return Overlap(one, two, kBetweenLabels); });
-    });
-}
+// The labels in the order around the wheel, and how they give way to each other.
+class LabelCrowd {
+  public:
+    LabelCrowd(const WheelPlan& plan, const TextMeasure& measure, std::span<const PlacedGlyph> glyphs)
+        : plan_(plan), measure_(measure) {
+        for (const PlacedGlyph& glyph : glyphs) {
+            if (glyph.drawn) labels_.emplace_back().glyph = glyph;
+        }
+        std::ranges::sort(labels_, {}, [](const Fitted& label) { return label.glyph.angle; });
+        for (std::size_t i = 0; i < labels_.size(); ++i) {
+            labels_[i].isEven = i % 2 == 0;
+            Build(plan_, measure_, labels_[i]);
+        }
+    }
+
+    // Lets labels that meet give way until none does; all of a crowd keep one size.
+    void Settle() {
+        while (GiveWay()) {
+        }
+    }
+
+    std::vector<PlanetLabel> Take() {
+        std::vector<PlanetLabel> labels;
+        for (Fitted& label : labels_) labels.push_back(std::move(label.label));
+        return labels;
+    }
+
+  private:
+    bool LeavesRing(const Fitted& label) const {
+        constexpr double kClear = 1.5;
+        const double inner = plan_.type == ChartType::ZodiacRing ? kRingInnerRadius : kInnerRadius;
+        return std::ranges::any_of(
+            label.shapes, [&](const InkShape& shape) { return NearestToCentre(shape.box) < inner + kClear; });
+    }
+
+    // One round: finds the crowds of labels that meet and lets each take its next step. False when nothing
+    // meets, or nothing can give way any more.
+    bool GiveWay() {
+        const std::size_t count = labels_.size();
+        std::vector<std::size_t> crowd(count);
+        std::iota(crowd.begin(), crowd.end(), std::size_t{0});
+        std::vector<bool> labelsMeet(count);
+        std::vector<bool> glyphsMeet(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (LeavesRing(labels_[i])) labelsMeet[i] = true;
+            for (std::size_t j = 0; j < i; ++j) {
+                const Meeting meeting = MeetingOf(labels_[i], labels_[j]);
+                if (meeting == Meeting::None) continue;
+                (meeting == Meeting::Glyphs ? glyphsMeet : labelsMeet)[i] = true;
+                const std::size_t joined = crowd[j];
+                std::ranges::replace(crowd, joined, crowd[i]);
+            }
+        }
+        bool changed = false;
+        for (std::size_t first = 0; first < count; ++first) {
+            std::vector<std::size_t> members;
+            for (std::size_t i = 0; i < count; ++i) {
+                if (crowd[i] == first) members.push_back(i);
+            }
+            changed = Step(members, labelsMeet, &Fitted::fit, kFits.size()) || changed;
+            changed = Step(members, glyphsMeet, &Fitted::glyphSize, kGlyphSizes.size()) || changed;
+        }
+        return changed;
+    }
+
+    bool Step(std::span<const std::size_t> members, const std::vector<bool>& meets,
+              std::size_t Fitted::*stage, std::size_t stages) {
+        if (std::ranges::none_of(members, [&](std::size_t i) { return meets[i]; })) return false;
+        std::size_t next = 0;
+        for (const std::size_t i : members) next = std::max(next, labels_[i].*stage + 1);
+        next = std::min(next, stages - 1);
+        bool changed = false;
+        for (const std::size_t i : members) {
+            if (labels_[i].*stage == next) continue;
+            labels_[i].*stage = next;
+            Build(plan_, measure_, labels_[i]);
+            changed = true;
+        }
+        return changed;
+    }
+
+    const WheelPlan& plan_;
+    const TextMeasure& measure_;
+    std::vector<Fitted> labels_;
+};
 
 }  // namespace
 
-std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                    std::span<const PlacedGlyph> placed) {
-    const std::vector<PlacedGlyph> glyphs = Apart(placed);
-    std::vector<std::vector<WheelText>> labels;
-    std::vector<std::vector<Extent>> inks;
-    std::vector<LabelStyle> styles(glyphs.size(), LabelStyle::Rows);
-    const auto inksOf = [&](const std::vector<WheelText>& label) {
-        std::vector<Extent> ink;
-        for (const WheelText& text : label) ink.push_back(InkOf(text, measure));
-        return ink;
-    };
-    for (const PlacedGlyph& glyph : glyphs) {
-        labels.push_back(glyph.drawn ? StyledLabel(plan, measure, glyph, LabelStyle::Rows)
-                                     : std::vector<WheelText>());
-        inks.push_back(inksOf(labels.back()));
-    }
-    for (std::size_t i = 0; i < glyphs.size(); ++i) {
-        for (std::size_t j = 0; j < i; ++j) {
-            if (Meet(inks[i], inks[j])) styles[i] = styles[j] = LabelStyle::Digits;
-        }
-    }
-    std::vector<WheelText> texts;
-    for (std::size_t i = 0; i < glyphs.size(); ++i) {
-        if (styles[i] == LabelStyle::Digits)
-            labels[i] = StyledLabel(plan, measure, glyphs[i], LabelStyle::Digits);
-        texts.insert(texts.end(), labels[i].begin(), labels[i].end());
-    }
-    return texts;
+double GlyphRadius(const WheelPlan& plan, const TextMeasure& measure, double angle) {
+    if (plan.type == ChartType::ZodiacRing) return kRingGlyphRadius;
+    const LabelSteps steps = MeasureSteps(plan, measure, angle);
+    const SinCos ray = SinCosDeg(angle);
+    const auto degree = static_cast<std::size_t>(RoundToInt16(angle));
+    return plan.data.radius[degree] + steps.glyph.width / 2 * ray.cos - steps.glyph.height / 2 * ray.sin;
+}
+
+std::vector<PlanetLabel> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
+                                      std::span<const PlacedGlyph> glyphs) {
+    LabelCrowd crowd(plan, measure, glyphs);
+    crowd.Settle();
+    return crowd.Take();
 }
 
 }  // namespace tolvanis

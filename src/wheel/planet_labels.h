@@ -5,10 +5,20 @@
 
 namespace tolvanis {
 
-// The labels of all drawn glyphs, the glyph first. The items follow each other inwards along the glyph's ray
-// so that the text reads degrees, sign, minutes from left to right on both sides. Numbers stand side by side;
-// only where neighbours on a steep ray would meet, their labels run digit by digit.
-std::vector<WheelText> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
-                                    std::span<const PlacedGlyph> glyphs);
+struct PlanetLabel {
+    int point = kSun;
+    std::vector<WheelText> texts;      // the glyph first
+    std::optional<LineSpan> leader{};  // from the glyph to its position, where that stands further inwards
+};
+
+// The glyph stands with its centre at this radius: the table gives that of its upper left corner.
+double GlyphRadius(const WheelPlan& plan, const TextMeasure& measure, double angle);
+
+// The labels of all drawn glyphs. The items (degrees, sign, minutes, retrograde mark) follow each other
+// inwards along the glyph's ray, so that the text reads degrees, sign, minutes from left to right on both
+// sides; a number is always whole and upright. Labels that would touch each other or the inner circle draw
+// closer, become smaller, and stand further inwards in turn, until none does.
+std::vector<PlanetLabel> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
+                                      std::span<const PlacedGlyph> glyphs);
 
 }  // namespace tolvanis

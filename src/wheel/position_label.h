@@ -4,8 +4,7 @@
 #include <array>
 #include <string>
 
-#include "chart/options.h"
-#include "platform/drawing_surface.h"
+#include "wheel/wheel_layout.h"
 
 namespace tolvanis {
 
@@ -22,7 +21,7 @@ struct LabelLook {
     int minutesSize, minutesColour;
 };
 
-// Tens and units of the degrees, which are bold, the sign's glyph, tens and units of the minutes.
-std::array<LabelPart, 5> PositionLabel(const Options& options, const LabelLook& look, double longitude);
+// The degrees as two digits, which are bold, the sign's glyph, the minutes as two digits.
+std::array<LabelPart, 3> PositionLabel(const WheelPlan& plan, const LabelLook& look, double longitude);
 
 }  // namespace tolvanis

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "text/numbers.h"
-#include "wheel/cusp_labels.h"
-#include "wheel/planet_labels.h"
+#include "wheel/wheel_blocks.h"
+#include "wheel/zodiac_ring.h"
 
 namespace tolvanis {
 namespace {
@@ -19,59 +20,29 @@ constexpr double kCircleWidth = 1.3;
 constexpr double kHouseLineWidth = 0.7;
 constexpr double kAngleLineWidth = 1.5;  // Ascendant, Midheaven and the cusps opposite
 constexpr double kAspectLineWidth = 0.8;
+constexpr double kLeaderWidth = 0.5;
 
-void DrawHouses(DrawingSurface& surface, const WheelPlan& plan) {
-    const int colour = ColourOf(plan.options, kHouseLineColourOption);
+void DrawHouses(DrawingSurface& surface, const WheelPlan& plan, std::span<const PlanetLabel> labels) {
+    const int colour = plan.LineColour(kHouseLineColourOption);
+    std::vector<std::vector<WheelText>> texts;
+    for (const PlanetLabel& label : labels) texts.push_back(label.texts);
     int house = 1;
     for (const double angle : HouseLineAngles(plan.chart.HouseCusps, plan.type)) {
         const Stroke stroke{colour, house % 3 == 1 ? kAngleLineWidth : kHouseLineWidth};
         const LineSpan line = HouseLine(angle);
         const LineSpan end = HouseLineEnd(line);
-        surface.Line(line.from, line.to, stroke);
+        for (const LineSpan& piece : Interrupted(line, texts, surface)) {
+            surface.Line(piece.from, piece.to, stroke);
+        }
         surface.Line(end.from, end.to, stroke);
         ++house;
     }
     // The lines begin a little inside the inner circle; its disc covers that.
-    const int background = plan.Background();
-    const Stroke circle{ColourOf(plan.options, kCircleColourOption), kCircleWidth};
-    for (const LineSpan& tick : SignTicks(plan.chart.HouseCusps, plan.type)) {
-        surface.Line(tick.from, tick.to, {colour, kHouseLineWidth});
-    }
-    surface.Disc({}, kInnerRadius, background);
+    const Stroke circle{plan.LineColour(kCircleColourOption), kCircleWidth};
+    surface.Lines(SignTicks(plan.chart.HouseCusps, plan.type), {colour, kHouseLineWidth});
+    surface.Disc({}, kInnerRadius, plan.Background());
     surface.Circle({}, kOuterRadius, circle);
     surface.Circle({}, kInnerRadius, circle);
-}
-
-// Whether the line passes the rectangle closer than the gap.
-bool Crosses(const LineSpan& line, const Extent& box, double gap) {
-    const Point centre{(box.left + box.right) / 2, (box.top + box.bottom) / 2};
-    const double x = line.to.x - line.from.x;
-    const double y = line.to.y - line.from.y;
-    const double length = std::hypot(x, y);
-    const double along = ((centre.x - line.from.x) * x + (centre.y - line.from.y) * y) / length;
-    const double across = std::abs((centre.x - line.from.x) * y - (centre.y - line.from.y) * x) / length;
-    const double reach =
-        ((box.right - box.left) * std::abs(y) + (box.top - box.bottom) * std::abs(x)) / length / 2;
-    return across < reach + gap && along > -reach && along < length + reach;
-}
-
-// Discs of the background under the characters of labels that stand on a house line keep the text clear.
-void DrawPlanets(DrawingSurface& surface, const WheelPlan& plan, const std::vector<WheelText>& texts) {
-    constexpr double kClear = 0.8;
-    for (const double angle : HouseLineAngles(plan.chart.HouseCusps, plan.type)) {
-        const LineSpan line = HouseLine(angle);
-        for (const WheelText& text : texts) {
-            const Extent ink = InkOf(text, surface);
-            if (!Crosses(line, ink, kClear)) continue;
-            const double half = (ink.top - ink.bottom) / 2 + kClear;
-            const double y = (ink.top + ink.bottom) / 2;
-            const double slack = std::max((ink.right - ink.left) / 2 + kClear - half, 0.0);
-            for (const double x : {-slack, 0.0, slack}) {
-                surface.Disc({(ink.left + ink.right) / 2 + x, y}, half, plan.Background());
-            }
-        }
-    }
-    DrawTexts(surface, texts);
 }
 
 void DrawAspects(DrawingSurface& surface, const WheelPlan& plan, std::span<const PlacedGlyph> glyphs) {
@@ -89,6 +60,45 @@ void DrawAspects(DrawingSurface& surface, const WheelPlan& plan, std::span<const
     }
 }
 
+// The blocks in the lower corners of a zodiac ring: the aspects at the left, elements and qualities at the
+// right.
+struct CornerBlocks {
+    AspectGridBlock grid;
+    TextBlock elements;
+    Point elementsCorner;
+
+    std::vector<Extent> Taken() const {
+        std::vector<Extent> taken = grid.Rows();
+        taken.push_back(elements.At(elementsCorner));
+        return taken;
+    }
+    void Draw(DrawingSurface& surface, const WheelPlan& plan) const {
+        grid.Draw(surface);
+        elements.Draw(surface, elementsCorner, plan.OnGround(8, kLineContrast));
+    }
+};
+
+// As large as the corners allow; none where they would be too small to read.
+std::optional<CornerBlocks> FitCornerBlocks(const WheelPlan& plan, const TextMeasure& measure) {
+    constexpr double kMargin = 6.0;
+    constexpr double kClearRadius = 258.0;  // of the circle with most of its cusp labels
+    constexpr double kLargestCell = 15.0;
+    constexpr double kLeastPixels = 10.5;
+    if (plan.type != ChartType::ZodiacRing) return std::nullopt;
+    const Extent& all = plan.surface;
+    // The steps of the grid's triangle lie on a line that keeps clear of the circle.
+    const double room = all.right - all.bottom - 2 * kMargin - kClearRadius * std::numbers::sqrt2;
+    const double cell = std::min(kLargestCell, room / (kChartPointCount + 1));
+    if (cell * plan.pixelsPerUnit < kLeastPixels) return std::nullopt;
+    const BlockSource source{plan.chart, plan.options, plan.orbs, plan.Background(),
+                             plan.desktopGround.has_value()};
+    const Point corner{all.left + kMargin, all.bottom + kMargin + kChartPointCount * cell};
+    const AspectGridBlock grid(source, {corner, cell, cell, 0.82 * cell, 0.66 * cell, std::nullopt});
+    TextBlock elements = ElementTable(source, measure, 0.8 * cell);
+    const Point place{all.right - kMargin - elements.width, all.bottom + kMargin + elements.height};
+    return CornerBlocks{grid, std::move(elements), place};
+}
+
 }  // namespace
 
 std::int16_t StartScale(double width, double height) {
@@ -102,33 +112,72 @@ Extent WindowExtent(double width, double height) {
     return {-halfWidth, halfHeight, halfWidth, -halfHeight};
 }
 
-void DrawTexts(DrawingSurface& surface, std::span<const WheelText> texts) {
-    for (const WheelText& text : texts) surface.Text(text.corner, text.text, text.font, text.colour);
+WheelPlan PlanFor(const WheelRequest& request) {
+    const Extent surface = WindowExtent(request.width, request.height);
+    WheelPlan plan{request.chart, request.data, request.options, kScreenForm,
+                   request.type,  surface,      request.halfPage};
+    if (request.options[kFollowDesktopOption] == 1.0F) plan.desktopGround = request.desktopGround;
+    plan.pixelsPerUnit = request.width / (surface.right - surface.left);
+    plan.orbs = request.orbs;
+    return plan;
 }
 
-void DrawWheelBody(DrawingSurface& surface, const WheelPlan& plan, std::span<const Extent> taken) {
-    DrawHouses(surface, plan);
-    DrawTexts(surface, CuspLabels(plan, surface, taken));
-    DrawTexts(surface, SignRingTexts(plan, surface));
-    const std::vector<PlacedGlyph> glyphs = PlaceGlyphs(plan.chart, plan.type);
-    DrawPlanets(surface, plan, PlanetLabels(plan, surface, glyphs));
-    if (plan.options[kAspectLinesOption] == 1.0F) DrawAspects(surface, plan, glyphs);
+WheelParts LayOutWheel(const WheelPlan& plan, const TextMeasure& measure, TitlePlace title,
+                       std::span<const Extent> taken) {
+    WheelParts parts;
+    std::vector<Extent> busy(taken.begin(), taken.end());
+    const auto take = [&](const std::vector<WheelText>& texts) {
+        for (const WheelText& text : texts) busy.push_back(InkOf(text, measure));
+    };
+    parts.tableLabels = TableCuspLabels(plan);
+    take(parts.tableLabels);
+    if (plan.type != ChartType::ZodiacRing) parts.signs = SignRingTexts(plan, measure, busy);
+    take(parts.signs);
+    parts.title = TitleTexts(plan, measure, title.indent, title.top, busy);
+    take(parts.title);
+    parts.cuspLabels = CuspLabels(plan, measure, busy);
+    parts.glyphs = PlaceGlyphs(plan.chart, plan.type);
+    parts.planets = PlanetLabels(plan, measure, parts.glyphs);
+    return parts;
 }
 
-void DrawWheel(DrawingSurface& surface, const WheelRequest& request) {
+void DrawParts(DrawingSurface& surface, const WheelPlan& plan, const WheelParts& parts) {
+    const bool isRing = plan.type == ChartType::ZodiacRing;
+    if (isRing) {
+        DrawZodiacRing(surface, plan, parts.planets);
+    } else {
+        DrawHouses(surface, plan, parts.planets);
+    }
+    const Stroke fine{plan.LineColour(kHouseLineColourOption), kLeaderWidth};
+    surface.Lines(parts.cuspLabels.leaders, fine);
+    DrawTexts(surface, parts.tableLabels);
+    DrawTexts(surface, parts.cuspLabels.texts);
+    DrawTexts(surface, parts.signs);
+    for (const PlanetLabel& label : parts.planets) {
+        if (label.leader) surface.Line(label.leader->from, label.leader->to, fine);
+        DrawTexts(surface, label.texts);
+    }
+    if (!isRing && plan.options[kAspectLinesOption] == 1.0F) DrawAspects(surface, plan, parts.glyphs);
+    DrawTexts(surface, parts.title);
+}
+
+std::vector<DrawnPoint> DrawWheel(DrawingSurface& surface, const WheelRequest& request) {
     constexpr double kTitleIndent = 10.0;
     constexpr double kTitleTop = 6.0;
-    const WheelPlan plan{request.chart,   request.data, request.options,
-                         kScreenForm,     request.type, WindowExtent(request.width, request.height),
-                         request.halfPage};
+    const WheelPlan plan = PlanFor(request);
     surface.SetCoordinates(plan.surface);
     surface.Clear(plan.Background());
-    const std::vector<WheelText> title =
-        TitleTexts(plan, surface, kTitleIndent, plan.surface.top - kTitleTop);
-    std::vector<Extent> taken;
-    for (const WheelText& line : title) taken.push_back(InkOf(line, surface));
-    DrawWheelBody(surface, plan, taken);
-    DrawTexts(surface, title);
+    const std::optional<CornerBlocks> corners = FitCornerBlocks(plan, surface);
+    const WheelParts parts = LayOutWheel(plan, surface, {kTitleIndent, plan.surface.top - kTitleTop},
+                                         corners ? corners->Taken() : std::vector<Extent>());
+    DrawParts(surface, plan, parts);
+    if (corners) corners->Draw(surface, plan);
+    std::vector<DrawnPoint> points;
+    for (const int point : PlacementOrder(request.chart)) {
+        const auto label = std::ranges::find(parts.planets, point, &PlanetLabel::point);
+        if (label != parts.planets.end()) points.push_back({point, InkOf(label->texts[0], surface)});
+    }
+    return points;
 }
 
 }  // namespace tolvanis

@@ -3,7 +3,8 @@
 
 #include <cstdint>
 
-#include "wheel/wheel_layout.h"
+#include "wheel/cusp_labels.h"
+#include "wheel/planet_labels.h"
 
 namespace tolvanis {
 
@@ -25,12 +26,36 @@ struct WheelRequest {
     double width = 1.0;
     double height = 1.0;
     bool halfPage = false;
+    OrbTable orbs{};                     // of the zodiac ring's aspects
+    std::optional<int> desktopGround{};  // the desktop's background, for option 104
 };
-void DrawWheel(DrawingSurface& surface, const WheelRequest& request);
 
-// The wheel itself, with neither title nor background; `taken` is where other texts will stand.
-void DrawWheelBody(DrawingSurface& surface, const WheelPlan& plan, std::span<const Extent> taken);
+// How such a wheel is laid out.
+WheelPlan PlanFor(const WheelRequest& request);
 
-void DrawTexts(DrawingSurface& surface, std::span<const WheelText> texts);
+// Where a point's glyph was drawn.
+struct DrawnPoint {
+    int point = kSun;
+    Extent ink;
+};
+// The points that were drawn, from the Ascendant around the wheel.
+std::vector<DrawnPoint> DrawWheel(DrawingSurface& surface, const WheelRequest& request);
+
+// A wheel and its title, laid out: nothing touches.
+struct WheelParts {
+    std::vector<WheelText> title;
+    std::vector<WheelText> signs;
+    std::vector<WheelText> tableLabels;
+    CuspLabelRows cuspLabels;
+    std::vector<PlacedGlyph> glyphs;
+    std::vector<PlanetLabel> planets;
+};
+struct TitlePlace {
+    double indent, top;
+};
+// `taken` is where other things will stand.
+WheelParts LayOutWheel(const WheelPlan& plan, const TextMeasure& measure, TitlePlace title,
+                       std::span<const Extent> taken);
+void DrawParts(DrawingSurface& surface, const WheelPlan& plan, const WheelParts& parts);
 
 }  // namespace tolvanis

@@ -94,6 +94,7 @@ enum WheelOption : int {
     kBackgroundOption = 100,
     kCircleColourOption = 101,
     kHouseLineColourOption = 102,
+    kFollowDesktopOption = 104,
 };
 
 // The colour that an option names; numbers beyond the palette fold into it, so that a mistyped option still

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "chart/angles.h"
+#include "text/columns.h"
 #include "wheel/symbols.h"
 
 namespace tolvanis {
@@ -12,39 +13,40 @@ namespace {
 constexpr double kLineFlattening = 0.9675;
 constexpr double kSignCell = 20.0;  // width of a sign's place in the ring
 constexpr double kTickLength = 9.0;
-constexpr double kSharedSector = 11.0;  // degrees between two signs in one American sector
+constexpr const char* kEllipsis = "\xE2\x80\xA6";
+constexpr double kMiddleLuminance = 0.18;  // as far from black as from white, in contrast
+constexpr double kSharedSector = 11.0;     // degrees between two signs in one American sector
 
 }  // namespace
 
-Extent InkOf(const WheelText& text, const TextMeasure& measure) {
-    const TextBox box = measure.Measure(text.text, text.font);
-    return {text.corner.x + box.inkLeft, text.corner.y - box.inkTop, text.corner.x + box.inkRight,
-            text.corner.y - box.inkBottom};
+int WheelPlan::Background() const {
+    if (halfPage || form.onPaper) return kWhite;
+    return desktopGround ? *desktopGround : ColourOf(options, kBackgroundOption);
 }
 
-bool Overlap(const Extent& a, const Extent& b, double gap) {
-    return a.left < b.right + gap && b.left < a.right + gap && a.bottom < b.top + gap &&
-           b.bottom < a.top + gap;
+int WheelPlan::OnGround(int colour, double contrast) const {
+    if (halfPage || form.onPaper || !desktopGround) return colour;
+    const bool isDark = Luminance(*desktopGround) < kMiddleLuminance;
+    return Legible(isDark ? LightnessTurned(colour) : colour, *desktopGround, contrast);
 }
 
-WheelText CentredText(const TextMeasure& measure, Point centre, std::string text, TextFont font, int colour) {
-    const TextBox capitals = measure.Measure("0", font);
-    const Point corner{centre.x - measure.Measure(text, font).width / 2,
-                       centre.y + (capitals.inkTop + capitals.inkBottom) / 2};
-    return {corner, std::move(text), font, colour};
+int WheelPlan::SignColour(int sign, int ground) const {
+    constexpr std::array kElementColours = {Rgb(0xD0261E), Rgb(0x1E7A1E), Rgb(0x8A6100), Rgb(0x1F4FD8)};
+    const int colour = kElementColours[static_cast<std::size_t>(sign - 1) % kElementColours.size()];
+    return Legible(colour, ground, kTextContrast);
 }
 
-Point OnWheel(double angle, double radius) {
-    const SinCos ray = SinCosDeg(angle);
-    return {radius * ray.cos, radius * ray.sin};
+bool WheelPlan::IsReduced() const {
+    constexpr double kLeastMinutes = 8.0;  // pixels
+    return pixelsPerUnit > 0.0 && SizeOf(options, form.minutesSize) * pixelsPerUnit < kLeastMinutes;
 }
 
 std::array<double, 12> HouseLineAngles(const HouseCusps& cusps, ChartType type) {
     std::array<double, 12> angles{};
     for (int house = 1; house <= 12; ++house) {
-        angles[static_cast<std::size_t>(house - 1)] = type == ChartType::European
-                                                          ? WheelAngle(cusps.OfHouse(house), cusps)
-                                                          : Norm360(150.0 + 30.0 * house);
+        angles[static_cast<std::size_t>(house - 1)] = type == ChartType::American
+                                                          ? Norm360(150.0 + 30.0 * house)
+                                                          : WheelAngle(cusps.OfHouse(house), cusps);
     }
     return angles;
 }
@@ -62,7 +64,7 @@ LineSpan HouseLineEnd(const LineSpan& line) {
 
 std::vector<SignMark> SignRing(const HouseCusps& cusps, ChartType type) {
     std::vector<SignMark> ring;
-    if (type == ChartType::European) {
+    if (type != ChartType::American) {
         for (int sign = 1; sign <= 12; ++sign) ring.push_back({sign, WheelAngle(30.0 * sign - 15.0, cusps)});
         return ring;
     }
@@ -96,30 +98,67 @@ std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type) {
     return ticks;
 }
 
-std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure) {
-    constexpr std::array kElementColours = {12, 2, 6, 9};  // fire, earth, air, water
+std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure,
+                                     std::span<const Extent> taken) {
+    constexpr double kSlide = 0.5;  // degrees from one try to the next
+    constexpr double kMostSlide = 14.0;
     const TextFont font{SizeOf(plan.options, plan.form.signRingSize), true};
+    const auto at = [&](const SignMark& mark, double slide) {
+        const double angle = Norm360(mark.angle + slide);
+        Point place = OnWheel(angle, kSignRadius);
+        // The cell begins at the radius; on the left half it ends there.
+        const bool leftHalf = angle >= 90.0 && angle <= 270.0;
+        place.x += leftHalf ? kSignCell / 2 - kSignCell : kSignCell / 2;
+        return CentredText(measure, place, SignGlyph(mark.sign), font, plan.SignColour(mark.sign));
+    };
+    std::vector<Extent> busy(taken.begin(), taken.end());
+    const auto isFree = [&](const WheelText& text) {
+        const Extent ink = InkOf(text, measure);
+        return Inside(ink, plan.surface) &&
+               std::ranges::none_of(busy, [&](const Extent& other) { return Overlap(ink, other, 1.0); });
+    };
     std::vector<WheelText> texts;
     for (const SignMark& mark : SignRing(plan.chart.HouseCusps, plan.type)) {
-        Point place = OnWheel(mark.angle, kSignRadius);
-        // The cell begins at the radius; on the left half it ends there.
-        const bool leftHalf = mark.angle >= 90.0 && mark.angle <= 270.0;
-        place.x += leftHalf ? kSignCell / 2 - kSignCell : kSignCell / 2;
-        const int colour = kElementColours[static_cast<std::size_t>(mark.sign - 1) % kElementColours.size()];
-        texts.push_back(CentredText(measure, place, SignGlyph(mark.sign), font, colour));
+        WheelText text = at(mark, 0.0);
+        for (double slide = kSlide; slide <= kMostSlide && !isFree(text); slide += kSlide) {
+            text = at(mark, slide);
+            if (!isFree(text)) text = at(mark, -slide);
+        }
+        busy.push_back(InkOf(text, measure));
+        texts.push_back(std::move(text));
     }
     return texts;
 }
 
 std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& measure, double indent,
-                                  double top) {
-    const TextFont font{SizeOf(plan.options, plan.form.titleSize)};
-    const double lineHeight = measure.Measure("0", font).height;
-    std::vector<WheelText> texts;
-    Point corner{plan.surface.left + indent, top};
-    for (const std::string& line : plan.chart.TitleLines) {
-        texts.push_back({corner, line, font, ColourOf(plan.options, plan.form.titleColour)});
-        corner.y -= lineHeight;
+                                  double top, std::span<const Extent> taken) {
+    constexpr double kClear = 2.0;
+    constexpr double kSmallest = 0.66;  // of the size in the options
+    const double fullSize = SizeOf(plan.options, plan.form.titleSize);
+    const auto build = [&](double size) {
+        std::vector<WheelText> texts;
+        Point corner{plan.surface.left + indent, top};
+        for (const std::string& line : plan.chart.TitleLines) {
+            texts.push_back({corner, line, {size}, plan.TextColour(plan.form.titleColour)});
+            corner.y -= measure.Measure("0", {size}).height;
+        }
+        return texts;
+    };
+    const auto fits = [&](const WheelText& text) {
+        const Extent ink = InkOf(text, measure);
+        return ink.right <= plan.surface.right - kClear &&
+               std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, kClear); });
+    };
+    std::vector<WheelText> texts = build(fullSize);
+    for (double size = fullSize * 0.95; !std::ranges::all_of(texts, fits); size *= 0.95) {
+        if (size < fullSize * kSmallest) break;
+        texts = build(size);
+    }
+    for (WheelText& text : texts) {
+        const std::string whole = text.text;
+        for (std::size_t count = CharacterCount(whole); count > 1 && !fits(text); --count) {
+            text.text = std::string(FirstCharacters(whole, count - 1)) + kEllipsis;
+        }
     }
     return texts;
 }
@@ -143,47 +182,56 @@ std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const Place
     return lines;
 }
 
+std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
+                                     const std::string& glyph, TextFont font, int colour, double gap,
+                                     std::span<const Extent> taken) {
+    constexpr double kSlide = 2.0;  // units from one try to the next
+    const auto [from, to] = line;
+    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    const double reach = std::max(length / 2 - font.size, kSlide);
+    for (double offset = 0.0; offset < reach; offset += kSlide) {
+        for (const double side : {1.0, -1.0}) {
+            const double t = length > 0.0 ? 0.5 + side * offset / length : 0.5;
+            WheelText text = CentredText(
+                measure, {from.x + t * (to.x - from.x), from.y + t * (to.y - from.y)}, glyph, font, colour);
+            const Extent ink = InkOf(text, measure);
+            if (std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, gap); })) {
+                return text;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& measure,
                                     std::span<const AspectLine> lines) {
-    constexpr double kSlide = 2.0;  // units from one try to the next
-    const TextFont font{SizeOf(plan.options, plan.form.aspectSize)};
+    constexpr double kGap = 2.0;
+    const double size = SizeOf(plan.options, plan.form.aspectSize);
     std::vector<WheelText> texts;
     std::vector<Extent> taken;
     for (const AspectLine& aspect : lines) {
-        const Point from = aspect.line.from;
-        const Point to = aspect.line.to;
-        const double length = std::hypot(to.x - from.x, to.y - from.y);
-        const double reach = length / 2 - font.size;
-        const auto at = [&](double offset) {
-            const double t = length > 0.0 ? 0.5 + offset / length : 0.5;
-            return CentredText(measure, {from.x + t * (to.x - from.x), from.y + t * (to.y - from.y)},
-                               AspectGlyph(aspect.code), font, AspectColour(plan, aspect.code));
-        };
-        const auto isFree = [&](const WheelText& text) {
-            const Extent ink = InkOf(text, measure);
-            return std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, 2.0); });
-        };
-        WheelText text = at(0.0);
-        for (double offset = kSlide; offset <= reach && !isFree(text); offset += kSlide) {
-            text = at(offset);
-            if (!isFree(text)) text = at(-offset);
+        for (const double share : {1.0, 0.85, 0.7}) {
+            auto text = GlyphOnLine(measure, aspect.line, AspectGlyph(aspect.code), {size * share},
+                                    AspectColour(plan, aspect.code, kTextContrast), kGap, taken);
+            if (!text) continue;
+            taken.push_back(InkOf(*text, measure));
+            texts.push_back(std::move(*text));
+            break;
         }
-        if (!isFree(text)) text = at(0.0);
-        taken.push_back(InkOf(text, measure));
-        texts.push_back(std::move(text));
     }
     return texts;
 }
 
-int AspectColour(const WheelPlan& plan, int code) {
+int AspectColour(const WheelPlan& plan, int code, double contrast) {
+    const auto option = [&](int number) { return plan.OnGround(ColourOf(plan.options, number), contrast); };
     switch (code) {
         case kSquare:
         case kOpposition:
-            return ColourOf(plan.options, plan.form.hardColour);
+            return option(plan.form.hardColour);
         case kQuincunx:
-            return ColourOf(plan.options, plan.form.quincunxColour);
+            return option(plan.form.quincunxColour);
         default:
-            return plan.halfPage ? kBlack : ColourOf(plan.options, plan.form.softColour);
+            return plan.halfPage ? kBlack : option(plan.form.softColour);
     }
 }
 

@@ -2,14 +2,17 @@
 // Where the lines, signs, titles and aspect glyphs of the wheel stand, in wheel units, and what its labels
 // share.
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "aspects/orbs_file.h"
 #include "chart/options.h"
 #include "platform/drawing_surface.h"
 #include "wheel/wheel_form.h"
 #include "wheel/wheel_placement.h"
+#include "wheel/wheel_text.h"
 
 namespace tolvanis {
 
@@ -26,36 +29,26 @@ struct WheelPlan {
     ChartType type = ChartType::American;
     Extent surface;         // what the whole surface shows
     bool halfPage = false;  // the window's image will be printed: white background, black sextiles and trines
+    std::optional<int> desktopGround{};  // the desktop's background, where the wheel follows it
+    double pixelsPerUnit = 0.0;          // of a window or a picture; 0 on paper
+    OrbTable orbs{};                     // of the zodiac ring's aspects
 
-    int Background() const {
-        return halfPage || form.onPaper ? kWhite : ColourOf(options, kBackgroundOption);
-    }
+    int Background() const;
+    // The colour of an option, or of the palette, for texts and for lines. Chosen for a light ground, it is
+    // turned and made legible where the wheel follows a desktop.
+    int TextColour(int option) const { return OnGround(ColourOf(options, option), kTextContrast); }
+    int LineColour(int option) const { return OnGround(ColourOf(options, option), kLineContrast); }
+    int OnGround(int colour, double contrast) const;
+    // Of a sign: fire red, earth green, air brown, water blue; legible on the ground.
+    int SignColour(int sign) const { return SignColour(sign, Background()); }
+    int SignColour(int sign, int ground) const;
+    // A picture so small that minutes could not be read: labels show degrees and sign.
+    bool IsReduced() const;
 };
-
-struct WheelText {
-    Point corner;  // upper left, as DrawingSurface::Text takes it
-    std::string text;
-    TextFont font;
-    int colour = kBlack;
-};
-
-// The rectangle that a text's ink fills.
-Extent InkOf(const WheelText& text, const TextMeasure& measure);
-bool Overlap(const Extent& a, const Extent& b, double gap = 0.0);
-
-// A text whose cell is centred on the point from side to side, the middle of its capitals up and down.
-WheelText CentredText(const TextMeasure& measure, Point centre, std::string text, TextFont font, int colour);
-
-// The point at a wheel angle and radius.
-Point OnWheel(double angle, double radius);
 
 // The wheel angles of the house lines, first house first.
 std::array<double, 12> HouseLineAngles(const HouseCusps& cusps, ChartType type);
 
-struct LineSpan {
-    Point from;
-    Point to;
-};
 // The line of a house between the circles; its ends lie on ellipses 0.9675 times as high as wide.
 LineSpan HouseLine(double angle);
 // What the line lacks to the outer circle.
@@ -71,11 +64,14 @@ struct SignMark {
 std::vector<SignMark> SignRing(const HouseCusps& cusps, ChartType type);
 // European: short lines outwards where one sign ends and the next begins.
 std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type);
-std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure);
+// The glyphs of the ring; one that would meet what is taken slides along the ring.
+std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure,
+                                     std::span<const Extent> taken);
 
-// The seven title lines, one below the other from the surface's upper left corner.
+// The seven title lines, one below the other from the surface's upper left corner; smaller where they would
+// meet what is taken or leave the surface, and cut short only where that is not enough.
 std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& measure, double indent,
-                                  double top);
+                                  double top, std::span<const Extent> taken);
 
 struct AspectLine {
     int first = kSun;
@@ -85,9 +81,15 @@ struct AspectLine {
 };
 // The aspects between Sun and Moon to Pluto that are drawn as lines, under the orbs of the options.
 std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const PlacedGlyph> glyphs);
-// The glyphs of the lines, at their middles; where glyphs would meet, the later one slides along its line.
+// A glyph on the first free place of the line from its middle outwards; none where every place is taken.
+std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
+                                     const std::string& glyph, TextFont font, int colour, double gap,
+                                     std::span<const Extent> taken);
+// The glyphs of the lines, at their middles; where glyphs would meet, the later one slides along its line or
+// becomes smaller.
 std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& measure,
                                     std::span<const AspectLine> lines);
-int AspectColour(const WheelPlan& plan, int code);
+// Of a line or, with the contrast of texts, of a glyph.
+int AspectColour(const WheelPlan& plan, int code, double contrast = kLineContrast);
 
 }  // namespace tolvanis

@@ -4,8 +4,8 @@
 
 #include "output/text_files.h"
 #include "text/columns.h"
-#include "wheel/aspect_list.h"
 #include "wheel/symbols.h"
+#include "wheel/wheel_blocks.h"
 #include "wheel/wheel_drawing.h"
 
 namespace tolvanis {
@@ -19,7 +19,6 @@ enum PageOption : int {
     kPersonalFurtherOption = 177,
     kGridOption = 178,
     kGridAcrossOption = 179,
-    kFirstGridColourOption = 181,
     kGridDownOption = 188,
 };
 
@@ -27,86 +26,20 @@ constexpr double kMiddleX = 16.0;  // of the page, right of the wheel's centre
 constexpr double kMiddleY = -67.0;
 constexpr double kHeightRatio = 600.0 / 480.0;
 
-int GridColour(const Options& options, int code) {
-    // By aspect code from the conjunction on: which of the seven family colours.
-    constexpr std::array kFamilies = {0, 1, 2, 1, 2, 0, 3, 4, 4, 3, 5, 6, 5, 5, 5, 6};
-    return ColourOf(options,
-                    kFirstGridColourOption + kFamilies[static_cast<std::size_t>(code - kConjunction)]);
+// The grid in the lower part of the page, from its middle.
+AspectGridBlock PageGrid(const PageRequest& request, const BlockSource& source, const Extent& page,
+                         const TextMeasure& measure) {
+    constexpr double kGlyphSize = 10.5;
+    constexpr double kAspectSize = 7.5;
+    const TextBox glyph = measure.Measure(SymbolText(kStepGlyph), {kGlyphSize});
+    const double width = 1.25 * glyph.width;
+    const double height = 1.25 * glyph.height;
+    const double left = kMiddleX + double{request.options[kGridAcrossOption]} - kChartPointCount * width / 2;
+    const double down = double{request.options[kGridDownOption]} * height;
+    const Point corner{std::max(left, page.left + 2.0), page.bottom + 2.0 + kChartPointCount * height - down};
+    return {source,
+            {corner, width, height, kGlyphSize, kAspectSize, Point{glyph.width / 3, glyph.height / 4}}};
 }
-
-// A triangle: the points run down the diagonal, and each aspect stands where the row of one point meets the
-// column of the other.
-class AspectGridBlock {
-  public:
-    AspectGridBlock(const PageRequest& request, const Extent& page, const TextMeasure& measure)
-        : request_(request), measure_(measure) {
-        const TextBox glyph = measure.Measure(SymbolText(kStepGlyph), {kGlyphSize});
-        glyphWidth_ = glyph.width;
-        glyphHeight_ = glyph.height;
-        const double down = double{request.options[kGridDownOption]} * CellHeight();
-        left_ = kMiddleX + double{request.options[kGridAcrossOption]} - kChartPointCount * CellWidth() / 2;
-        left_ = std::max(left_, page.left + 2.0);
-        top_ = page.bottom + 2.0 + kChartPointCount * CellHeight() - down;
-    }
-
-    // The ground that each row covers.
-    std::vector<Extent> Rows() const {
-        std::vector<Extent> rows;
-        for (int row = 1; row <= kChartPointCount; ++row) {
-            rows.push_back({left_, RowTop(row), left_ + row * CellWidth(), RowTop(row + 1)});
-        }
-        return rows;
-    }
-
-    void Draw(DrawingSurface& surface) const {
-        DrawRules(surface);
-        for (int row = 1; row <= kChartPointCount; ++row) {
-            const Point centre{left_ + (row - 0.5) * CellWidth(), RowTop(row) - CellHeight() / 2};
-            const WheelText label =
-                CentredText(measure_, centre, PointGlyph(kGridOrder[At(row)]), {kGlyphSize}, kBlack);
-            surface.Text(label.corner, label.text, label.font, label.colour);
-        }
-        for (const ListedAspect& aspect : ListAspects(request_.chart, request_.orbs)) {
-            const int row = GridPosition(aspect.first);
-            const int column = GridPosition(aspect.second);
-            if (column >= row) continue;
-            const Point corner{left_ + (column - 1) * CellWidth() + glyphWidth_ / 3,
-                               RowTop(row) - glyphHeight_ / 4};
-            surface.Text(corner, AspectGlyph(aspect.code), {kAspectSize},
-                         GridColour(request_.options, aspect.code));
-        }
-    }
-
-  private:
-    static constexpr double kGlyphSize = 10.5;
-    static constexpr double kAspectSize = 7.5;
-
-    static std::size_t At(int position) { return static_cast<std::size_t>(position - 1); }
-    static int GridPosition(int point) {
-        return static_cast<int>(std::ranges::find(kGridOrder, point) - kGridOrder.begin()) + 1;
-    }
-    double CellWidth() const { return 1.25 * glyphWidth_; }
-    double CellHeight() const { return 1.25 * glyphHeight_; }
-    double RowTop(int row) const { return top_ - (row - 1) * CellHeight(); }
-
-    void DrawRules(DrawingSurface& surface) const {
-        const Stroke rule{8, 0.4};
-        const double bottom = RowTop(kChartPointCount + 1);
-        for (int line = 0; line <= kChartPointCount; ++line) {
-            const double right = left_ + std::min(line + 1, kChartPointCount) * CellWidth();
-            surface.Line({left_, RowTop(line + 1)}, {right, RowTop(line + 1)}, rule);
-            const double x = left_ + line * CellWidth();
-            surface.Line({x, RowTop(std::max(line, 1))}, {x, bottom}, rule);
-        }
-    }
-
-    const PageRequest& request_;
-    const TextMeasure& measure_;
-    double glyphWidth_ = 0.0;
-    double glyphHeight_ = 0.0;
-    double left_ = 0.0;
-    double top_ = 0.0;
-};
 
 std::vector<WheelText> PersonalTexts(const PageRequest& request, const TextMeasure& measure, double size) {
     constexpr double kBelowWheel = -268.0;
@@ -123,21 +56,80 @@ std::vector<WheelText> PersonalTexts(const PageRequest& request, const TextMeasu
     return texts;
 }
 
-// The personal block, smaller where it would run into the grid or off the page.
+bool IsFree(const Extent& box, std::span<const Extent> taken) {
+    constexpr double kClear = 3.0;
+    return std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(box, other, kClear); });
+}
+
+// The personal block, smaller where it would run into other blocks or off the page.
 std::vector<WheelText> FitPersonalTexts(const PageRequest& request, const TextMeasure& measure,
-                                        const Extent& page, std::span<const Extent> grid) {
+                                        const Extent& page, std::span<const Extent> taken) {
     constexpr double kSmallest = 4.0;
     const auto fits = [&](const WheelText& text) {
         const TextBox cell = measure.Measure(text.text, text.font);
         const Extent box{text.corner.x, text.corner.y, text.corner.x + cell.width,
                          text.corner.y - cell.height};
-        return box.left >= page.left && box.right <= page.right && box.bottom >= page.bottom &&
-               std::ranges::none_of(grid, [&](const Extent& row) { return Overlap(box, row, 2.0); });
+        return Inside(box, page) && IsFree(box, taken);
     };
     for (double size = SizeOf(request.options, kPersonalSizeOption);; size *= 0.95) {
         std::vector<WheelText> texts = PersonalTexts(request, measure, size);
         if (size <= kSmallest || std::ranges::all_of(texts, fits)) return texts;
     }
+}
+
+// A block in the lower part of the page, as large as there is room for between what is taken.
+struct PlacedBlock {
+    TextBlock block;
+    Point corner;
+
+    Extent Ground() const { return block.At(corner); }
+};
+using MakeBlock = TextBlock (*)(const BlockSource& source, const TextMeasure& measure, double size);
+
+// With its lower right corner at (right, bottom); none where it could not be read.
+std::optional<PlacedBlock> FitBlock(MakeBlock make, const BlockSource& source, const TextMeasure& measure,
+                                    Point lowerRight, const Extent& page, std::span<const Extent> taken) {
+    constexpr double kLargest = 10.0;
+    constexpr double kSmallest = 5.0;
+    constexpr double kClearRadius = 246.0;  // of the wheel with the nearer of its cusp labels
+    for (double size = kLargest; size >= kSmallest; size -= 0.25) {
+        TextBlock block = make(source, measure, size);
+        const Point corner{lowerRight.x - block.width, lowerRight.y + block.height};
+        const Extent ground = block.At(corner);
+        if (Inside(ground, page) && NearestToCentre(ground) >= kClearRadius && IsFree(ground, taken)) {
+            return PlacedBlock{std::move(block), corner};
+        }
+    }
+    return std::nullopt;
+}
+
+// The blocks of the lower part: the grid at the left, the points at the right; between them, for a zodiac
+// ring, elements and qualities.
+struct LowerBlocks {
+    std::optional<AspectGridBlock> grid;
+    std::vector<PlacedBlock> tables;
+    std::vector<Extent> taken;
+};
+
+LowerBlocks FitLowerBlocks(const PageRequest& request, const BlockSource& source, const TextMeasure& measure,
+                           const Extent& page) {
+    constexpr double kMargin = 4.0;
+    constexpr double kBetween = 14.0;
+    LowerBlocks blocks;
+    if (request.options[kGridOption] == 0.0F) return blocks;
+    blocks.grid.emplace(PageGrid(request, source, page, measure));
+    blocks.taken = blocks.grid->Rows();
+    std::vector<MakeBlock> makers = {PointTable};
+    if (ChartTypeOf(request.typeChart) == ChartType::ZodiacRing) makers.push_back(ElementTable);
+    Point lowerRight{page.right - kMargin, page.bottom + kMargin};
+    for (const MakeBlock make : makers) {
+        auto placed = FitBlock(make, source, measure, lowerRight, page, blocks.taken);
+        if (!placed) continue;
+        blocks.taken.push_back(placed->Ground());
+        lowerRight.x = placed->Ground().left - kBetween;
+        blocks.tables.push_back(std::move(*placed));
+    }
+    return blocks;
 }
 
 }  // namespace
@@ -161,22 +153,21 @@ std::vector<std::string> ReadPersonalLines(const Path& file, const Options& opti
 
 void DrawPage(DrawingSurface& surface, const PageRequest& request) {
     constexpr double kTitleIndent = 30.0;
+    constexpr int kRuleColour = 8;
     const Extent page = PageExtent(request.width, request.height, request.typeChart);
-    const WheelPlan plan{
-        request.chart, request.data, request.options, kPrinterForm, ChartTypeOf(request.typeChart), page};
+    WheelPlan plan{request.chart, request.data, request.options, kPrinterForm, ChartTypeOf(request.typeChart),
+                   page};
+    plan.orbs = request.orbs;
+    const BlockSource source{request.chart, request.options, request.orbs};
     surface.SetCoordinates(page);
-    const std::vector<WheelText> title =
-        TitleTexts(plan, surface, kTitleIndent, page.top - double{request.options[kTitleOffsetOption]});
-    std::vector<Extent> taken;
-    for (const WheelText& line : title) taken.push_back(InkOf(line, surface));
-    const AspectGridBlock grid(request, page, surface);
-    const bool showGrid = request.options[kGridOption] != 0.0F;
-    const std::vector<Extent> gridRows = showGrid ? grid.Rows() : std::vector<Extent>();
-    taken.insert(taken.end(), gridRows.begin(), gridRows.end());
-    DrawWheelBody(surface, plan, taken);
-    DrawTexts(surface, title);
-    DrawTexts(surface, FitPersonalTexts(request, surface, page, gridRows));
-    if (showGrid) grid.Draw(surface);
+    LowerBlocks blocks = FitLowerBlocks(request, source, surface, page);
+    const double titleTop = page.top - double{request.options[kTitleOffsetOption]};
+    const WheelParts parts = LayOutWheel(plan, surface, {kTitleIndent, titleTop}, blocks.taken);
+    for (const WheelText& text : parts.cuspLabels.texts) blocks.taken.push_back(InkOf(text, surface));
+    DrawParts(surface, plan, parts);
+    DrawTexts(surface, FitPersonalTexts(request, surface, page, blocks.taken));
+    if (blocks.grid) blocks.grid->Draw(surface);
+    for (const PlacedBlock& placed : blocks.tables) placed.block.Draw(surface, placed.corner, kRuleColour);
 }
 
 }  // namespace tolvanis

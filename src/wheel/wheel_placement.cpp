@@ -118,6 +118,75 @@ void MoveToTrueAngles(const WheelSnapshot& chart, std::vector<PlacedGlyph>& glyp
     }
 }
 
+// Glyphs that stand side by side, around the middle of their true angles.
+struct Cluster {
+    double sum = 0.0;  // of the true angles, each less its place in the cluster
+    std::size_t count = 0;
+    double width = 0.0;  // from the first to the last
+
+    double First() const { return sum / static_cast<double>(count); }
+};
+
+// Room for a label, degrees: numbers are wider than high, so they need more at the top and at the bottom.
+double RingGap(double angle) {
+    constexpr double kLeast = 4.95;
+    constexpr double kMoreOnSteepRays = 1.0;
+    const double steep = SinDeg(angle);
+    return kLeast + kMoreOnSteepRays * steep * steep;
+}
+
+// Moves ascending angles apart, each as little as can be (least squares, by merging neighbours that meet).
+std::vector<double> SpreadApart(const std::vector<double>& angles) {
+    std::vector<Cluster> clusters;
+    for (std::size_t i = 0; i < angles.size(); ++i) {
+        Cluster added{angles[i], 1, 0.0};
+        while (!clusters.empty()) {
+            const Cluster& before = clusters.back();
+            const double gap = RingGap(added.First());
+            if (before.First() + before.width + gap <= added.First()) break;
+            const double shift = before.width + gap;
+            added = {before.sum + added.sum - shift * static_cast<double>(added.count),
+                     before.count + added.count, shift + added.width};
+            clusters.pop_back();
+        }
+        clusters.push_back(added);
+    }
+    std::vector<double> spread;
+    for (const Cluster& cluster : clusters) {
+        const double step = cluster.count > 1 ? cluster.width / static_cast<double>(cluster.count - 1) : 0.0;
+        for (std::size_t i = 0; i < cluster.count; ++i) {
+            spread.push_back(cluster.First() + step * static_cast<double>(i));
+        }
+    }
+    return spread;
+}
+
+// The wheel is cut open in its widest gap.
+void SpreadAroundTrueAngles(const WheelSnapshot& chart, std::vector<PlacedGlyph>& glyphs) {
+    for (PlacedGlyph& glyph : glyphs) {
+        glyph.angle = WheelAngle(chart.PointLongitude[glyph.point], chart.HouseCusps);
+        glyph.drawn = true;
+    }
+    std::ranges::stable_sort(glyphs, {}, &PlacedGlyph::angle);
+    std::size_t cut = 0;
+    double widest = -1.0;
+    for (std::size_t i = 0; i < glyphs.size(); ++i) {
+        const double before = glyphs[(i + glyphs.size() - 1) % glyphs.size()].angle;
+        const double gap = i == 0 ? glyphs[i].angle + 360.0 - before : glyphs[i].angle - before;
+        if (gap > widest) {
+            widest = gap;
+            cut = i;
+        }
+    }
+    std::ranges::rotate(glyphs, glyphs.begin() + static_cast<std::ptrdiff_t>(cut));
+    std::vector<double> angles;
+    for (const PlacedGlyph& glyph : glyphs) {
+        angles.push_back(angles.empty() || glyph.angle >= angles.front() ? glyph.angle : glyph.angle + 360.0);
+    }
+    angles = SpreadApart(angles);
+    for (std::size_t i = 0; i < glyphs.size(); ++i) glyphs[i].angle = Norm360(angles[i]);
+}
+
 }  // namespace
 
 double WheelAngle(double longitude, const HouseCusps& cusps) {
@@ -151,6 +220,7 @@ std::vector<PlacedGlyph> PlaceGlyphs(const WheelSnapshot& chart, ChartType type)
     }
     PlaceInSlots(chart, glyphs);
     if (type == ChartType::European) MoveToTrueAngles(chart, glyphs);
+    if (type == ChartType::ZodiacRing) SpreadAroundTrueAngles(chart, glyphs);
     return glyphs;
 }
 

@@ -2,7 +2,7 @@
 // Where the glyphs of the chart points stand on the wheel.
 
 #include <array>
-#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "wheel/wheel_data.h"
@@ -11,13 +11,17 @@
 namespace tolvanis {
 
 // American: twelve equal sectors, each with seven slots for glyphs. European: everything at its true angle
-// from the Ascendant.
-enum class ChartType { American = 0, European = 1 };
+// from the Ascendant. Zodiac ring: the same, with the zodiac as a graduated ring.
+enum class ChartType { American = 0, European = 1, ZodiacRing = 2 };
 
-// The type that a number of the settings file names: 1 is European, every other value American.
+// The type that a number of the settings file names: every value but 1 and 2 is American.
 constexpr ChartType ChartTypeOf(int typeChart) {
+    if (typeChart == 2) return ChartType::ZodiacRing;
     return typeChart == 1 ? ChartType::European : ChartType::American;
 }
+
+// The type's name in the command line.
+inline constexpr std::array<std::string_view, 3> kChartTypeNames = {"american", "european", "ring"};
 
 inline constexpr int kSlotsPerHouse = 7;
 
@@ -42,7 +46,8 @@ struct PlacedGlyph {
 // Places all points, in placement order. American glyphs stand in the slots: each in the seventh of its house
 // that it lies in, moved so that the points behind it still fit and so that no slot is taken twice. European
 // glyphs stand at their true angles, 4 degrees or more apart all the way round, in zodiacal order, moved as
-// little as that takes; glyphs that are not drawn need no room.
+// little as that takes; glyphs that are not drawn need no room. Glyphs of the zodiac ring are all drawn, to
+// both sides of their true angles and as near to them as the room for their labels allows.
 std::vector<PlacedGlyph> PlaceGlyphs(const WheelSnapshot& chart, ChartType type);
 
 }  // namespace tolvanis

@@ -12,6 +12,7 @@ WheelSnapshot MakeWheelSnapshot(const NatalData& natal, const ChartPositions& ch
     snapshot.Name = natal.Name;
     snapshot.PointLongitude = chart.PointLongitude;
     snapshot.HouseCusps = chart.HouseCusps;
+    snapshot.PointDeclination = chart.PointDeclination;
     snapshot.PointHouse = chart.PointHouse;
     for (int point = 1; point <= kChartPointCount; ++point) {
         snapshot.IsRetrograde[point] = chart.IsRetrograde(point);

@@ -16,6 +16,7 @@ struct WheelSnapshot {
     std::string Name;
     PerPoint<double> PointLongitude;  // degrees, 0 <= x < 360
     tolvanis::HouseCusps HouseCusps;
+    PerPoint<double> PointDeclination;
     PerPoint<int> PointHouse;  // 1 to 12
     PerPoint<bool> IsRetrograde;
     std::array<std::string, kTitleLineCount> TitleLines;

@@ -11,6 +11,7 @@
 #include "app/options_file.h"
 #include "app/wheel_command.h"
 #include "support.h"
+#include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
@@ -273,6 +274,32 @@ TEST(WheelCommand, ArgumentsAndBirths) {
     EXPECT_EQ(PrepareWheel(*wheel)->chart.TitleLines[6], "Koch");
     wheel->birth = "Ann,22 Sep 1949,9.05,A,5,073.59,70.45";
     EXPECT_THAT(PrepareWheel(*wheel).message(), HasSubstr("--birth: "));
+}
+
+// Without --houses the options choose; the ring takes the orbs of the directory.
+TEST(WheelCommand, TakesHousesAndOrbsFromTheDirectory) {
+    const ScratchDirectory directory;
+    for (const char* name : {"OPTIONS.OPT", "HCDATA.DAT", "RADIUS.DAT"}) {
+        std::filesystem::copy(std::string(DELIVERED_DATA_DIR "/") + name, directory.path());
+    }
+    Options options;
+    ASSERT_TRUE(ReadOptions(DataFiles(directory.path()), options));
+    std::string lines;
+    for (int option = 1; option <= kOptionCount; ++option) {
+        const float value = option == 27 ? 5.0F : option == 28 ? 2.0F : options[option];
+        lines += NumberText(value) + "\r\n";
+    }
+    directory.Write("OPTIONS.OPT", lines);
+    directory.Write("NATAL.ORB", "3.5\r\n");
+    const std::string place = directory.path().string();
+    const auto wheel = ParseWheelArguments(std::vector<std::string_view>{
+        "--wheel=a.svg", "--birth", kAnnSmith, "--app-dir", place, "--type", "ring"});
+    ASSERT_TRUE(wheel) << wheel.message();
+    EXPECT_EQ(wheel->type, ChartType::ZodiacRing);
+    const auto picture = PrepareWheel(*wheel);
+    ASSERT_TRUE(picture) << picture.message();
+    EXPECT_EQ(picture->chart.TitleLines[6], "Porphyry");
+    EXPECT_EQ(picture->orbs[1], 3.5F);
 }
 
 TEST(ChartCommand, WrongUsageIsExplained) {

@@ -77,6 +77,35 @@ TEST(AsciiChart, ACrowdedHouseKeepsItsPlanets) {
     }
 }
 
+// Seven points in a house stand, the highest longitude first, at the published places of its slots.
+TEST(AsciiChart, EverySlotHasItsPlace) {
+    constexpr int kPlaces[12][14] = {{14, 4, 15, 4, 16, 4, 17, 4, 18, 4, 15, 13, 16, 13},
+                                     {19, 13, 20, 11, 21, 11, 22, 11, 23, 11, 17, 19, 18, 19},
+                                     {18, 27, 19, 27, 20, 26, 21, 26, 22, 26, 23, 26, 24, 26},
+                                     {24, 36, 23, 36, 22, 36, 21, 36, 20, 36, 19, 35, 18, 35},
+                                     {23, 51, 22, 51, 21, 51, 20, 51, 19, 49, 18, 43, 17, 43},
+                                     {18, 57, 17, 57, 16, 57, 15, 57, 14, 57, 15, 49, 14, 49},
+                                     {12, 57, 11, 57, 10, 57, 9, 57, 8, 57, 12, 49, 11, 49},
+                                     {7, 49, 6, 51, 5, 51, 4, 51, 3, 51, 9, 43, 8, 43},
+                                     {8, 35, 7, 35, 6, 36, 5, 36, 4, 36, 3, 36, 2, 36},
+                                     {2, 26, 3, 26, 4, 26, 5, 26, 6, 26, 7, 27, 8, 27},
+                                     {3, 11, 4, 11, 5, 11, 6, 11, 7, 13, 8, 19, 9, 19},
+                                     {8, 4, 9, 4, 10, 4, 11, 4, 12, 4, 11, 13, 12, 13}};
+    constexpr std::array kLetters = {"SU", "ME", "VE", "MA", "JU", "SA", "UR"};
+    for (int house = 1; house <= 12; ++house) {
+        WheelSnapshot chart = EqualHouses(0.0);
+        for (int point = kNeptune; point <= kPartOfFortune; ++point)
+            Put(chart, point, 30.0 * (house + 5) + point);
+        for (int point = kSun; point <= kUranus; ++point) Put(chart, point, 30.0 * house - 2.0 * point);
+        const auto rows = DrawAsciiChart(chart);
+        for (int slot = 0; slot < 7; ++slot) {
+            const int* place = &kPlaces[house - 1][2 * slot];
+            EXPECT_EQ(At(rows, place[0], place[1], 2), kLetters[static_cast<std::size_t>(slot)])
+                << "house " << house << " slot " << slot;
+        }
+    }
+}
+
 TEST(AsciiChart, AllInOneHouseEnds) {
     for (int house = 1; house <= 12; ++house) {
         WheelSnapshot chart = EqualHouses(0.0);

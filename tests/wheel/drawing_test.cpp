@@ -3,10 +3,13 @@
 
 #include <gmock/gmock.h>
 
+#include "output/zodiac_text.h"
+#include "text/numbers.h"
 #include "wheel/planet_labels.h"
 #include "wheel/symbols.h"
 #include "wheel/wheel_page.h"
 #include "wheel/wheel_support.h"
+#include "wheel/wheel_words.h"
 
 namespace tolvanis {
 namespace {
@@ -59,14 +62,14 @@ TEST(WheelScale, FollowsTheShape) {
 TEST_F(DrawingTest, HouseLinesOfBothTypes) {
     for (int house = 1; house <= 12; ++house)
         chart.HouseCusps.SetHouse(house, Norm360(100.0 + 30.0 * (house - 1)));
-    chart.HouseCusps.SetHouse(10, 25.0);
+    chart.HouseCusps.SetHouse(10, 35.0);
     Draw(ChartType::American);
     EXPECT_TRUE(HasLine({0, 116.1}, {0, 209.9475}));
     EXPECT_TRUE(HasLine({-103.9230, -58.05}, {-187.9275, -104.9738}));  // 210
     EXPECT_TRUE(HasLine({0, 209.9475}, {0, 217}));                      // the rest of the way to the circle
     Draw(ChartType::European);
     EXPECT_FALSE(HasLine({0, 116.1}, {0, 209.9475}));
-    EXPECT_TRUE(HasLine({-31.0583, 112.1439}, {-56.1637, 202.7936}));  // 25 - 100 + 180 = 105
+    EXPECT_TRUE(HasLine({-50.7142, 105.2223}, {-91.7082, 190.2776}));  // 35 - 100 + 180 = 115
     EXPECT_THAT(surface.circles, ::testing::ElementsAre(217.0, 120.0));
 }
 
@@ -133,58 +136,191 @@ TEST_F(DrawingTest, EverySignStandsInTheRingOnce) {
     EXPECT_LT(angleOf(6), angleOf(7));  // Virgo and Libra share the third
     EXPECT_NEAR((angleOf(6) + angleOf(7)) / 2, 255.0, 1e-9);
     EXPECT_EQ(SignRing(chart.HouseCusps, ChartType::European)[4].angle, 180.0 + 135.0 - 122.0);
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        Draw(type);
+        for (int sign = 1; sign <= 12; ++sign) {
+            const auto found = Texts(SignGlyph(sign));
+            EXPECT_EQ(std::ranges::count_if(found, [](const WheelText& text) { return text.font.bold; }), 1)
+                << "sign " << sign << " of type " << static_cast<int>(type);
+        }
+    }
 }
 
 TEST_F(DrawingTest, SignsOnTheLeftStandClearOfTheCircle) {
     chart = SpreadChart(0.0);
     const WheelPlan plan{chart, data, options, kScreenForm, ChartType::European, WindowExtent(1, 1)};
-    const WheelText aries = SignRingTexts(plan, surface).front();  // at 195 degrees
+    const WheelText aries = SignRingTexts(plan, surface, {}).front();  // at 195 degrees
     const double width = surface.Measure(aries.text, aries.font).width;
     EXPECT_NEAR(aries.corner.x, 236.0 * CosDeg(195.0) - 20.0 + (20.0 - width) / 2, 1e-9);
 }
 
-TEST_F(DrawingTest, LabelsReadDegreesSignMinutesOnBothSides) {
-    chart = EqualHouses(0.0);
-    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 12.0 * point);
-    Put(chart, kSun, 5.2);     // first house, at the left
-    Put(chart, kMars, 185.2);  // seventh house, at the right; 05 Libra 12
-    chart.IsRetrograde[kMars] = true;
-    chart.IsRetrograde[kNorthNode] = true;
-    const WheelPlan plan{chart, data, options, kScreenForm, ChartType::American, WindowExtent(1, 1)};
-    const auto labels = PlanetLabels(plan, surface, PlaceGlyphs(chart, ChartType::American));
-    for (const int point : {kSun, kMars}) {
-        const auto glyph = std::ranges::find(labels, PointGlyph(point), &WheelText::text);
-        ASSERT_NE(glyph, labels.end());
-        std::vector<WheelText> items(glyph + 1, glyph + 4);
-        std::ranges::sort(items, {}, [](const WheelText& text) { return text.corner.x; });
-        EXPECT_EQ(items[0].text, "05");
-        EXPECT_EQ(items[1].text, SignGlyph(point == kSun ? 1 : 7));
-        EXPECT_EQ(items[2].text, "12");
-        EXPECT_EQ(glyph->corner.x < items[0].corner.x, point == kSun) << "the glyph stands at the outside";
+// Every position of every drawn point, as it stands in the picture: from left to right on flat rays, and in
+// the described order along the ray on steep ones.
+TEST_F(DrawingTest, LabelsReadDegreesSignMinutesAllTheWayRound) {
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        for (const float leftLabels : {0.0F, 1.0F}) {
+            options[28] = leftLabels;
+            chart = SpreadChart(7.2);
+            chart.IsRetrograde[kMars] = chart.IsRetrograde[kNorthNode] = true;
+            const WheelPlan plan{chart, data, options, kScreenForm, type, WindowExtent(1, 1)};
+            const auto glyphs = PlaceGlyphs(chart, type);
+            for (const PlanetLabel& label : PlanetLabels(plan, surface, glyphs)) {
+                const PlacedGlyph glyph = *std::ranges::find(glyphs, label.point, &PlacedGlyph::point);
+                const double longitude = chart.PointLongitude[label.point];
+                const ZodiacPlace place = SplitZodiac(longitude);
+                std::vector<std::string> items = {TwoDigits(place.degrees), SignGlyph(place.sign),
+                                                  TwoDigits(place.minutes)};
+                const bool leftHouse = leftLabels == 1.0F ? glyph.house <= 2 || glyph.house >= 9
+                                                          : glyph.house <= 3 || glyph.house >= 10;
+                const bool isLeft =
+                    type == ChartType::American ? leftHouse : glyph.angle >= 75.0 && glyph.angle < 255.0;
+                if (!isLeft) std::ranges::reverse(items);
+                if (label.point == kMars) items.push_back("R");
+                items.insert(items.begin(), PointGlyph(label.point));
+                std::vector<std::string> drawn;
+                double last = 300.0;
+                for (const WheelText& text : label.texts) {
+                    drawn.push_back(text.text);
+                    const Extent ink = InkOf(text, surface);
+                    const double radius = std::hypot(ink.left + ink.right, ink.top + ink.bottom) / 2;
+                    EXPECT_LT(radius, last) << "inwards along the ray";
+                    last = radius;
+                }
+                EXPECT_EQ(drawn, items) << PointName(label.point) << " at " << glyph.angle;
+            }
+        }
     }
-    EXPECT_EQ(std::ranges::count(labels, "R", &WheelText::text), 1) << "nodes carry no mark";
 }
 
-// Where neighbours force digit below digit, the tens stand above the units all the way round.
-TEST_F(DrawingTest, CrowdedNumbersReadDownwards) {
-    for (const double angle : {65.0, 80.0, 115.0, 245.0, 275.0, 290.0}) {
-        chart = EqualHouses(0.0);
-        for (int point = 1; point <= kChartPointCount; ++point) {
-            Put(chart, point, 30.0 * std::floor((angle + 180.0) / 30.0) + 2.7);  // 02 degrees 42 minutes
+// A label on a house line interrupts it: the line runs through no letter, and is whole where none stands.
+TEST_F(DrawingTest, HouseLinesSpareTheLabels) {
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        chart = EqualHouses(100.0);
+        for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 30.0 * (point % 4));
+        Draw(type);
+        int spared = 0;
+        for (const WheelText& text : surface.texts) {
+            const Extent ink = InkOf(text, surface);
+            const bool inRing = NearestToCentre(ink) > kInnerRadius && FarthestFromCentre(ink) < 190.0;
+            if (!inRing) continue;
+            for (const auto& line : surface.lines) {
+                const Point middle{(line.from.x + line.to.x) / 2, (line.from.y + line.to.y) / 2};
+                const bool isHouseLine = line.stroke.width > 0.6 && std::hypot(middle.x, middle.y) > 100.0;
+                EXPECT_FALSE(isHouseLine && Crosses({line.from, line.to}, ink, 0.0))
+                    << text.text << " in type " << static_cast<int>(type) << ": line from " << line.from.x
+                    << ' ' << line.from.y << " to " << line.to.x << ' ' << line.to.y;
+            }
+            ++spared;
         }
-        const WheelPlan plan{chart, data, options, kScreenForm, ChartType::European, WindowExtent(1, 1)};
-        std::vector<PlacedGlyph> pair(2);
-        pair[1].point = kMoon;
-        for (PlacedGlyph& glyph : pair) glyph.angle = angle + (glyph.point == kMoon ? 4.0 : 0.0);
-        const auto labels = PlanetLabels(plan, surface, pair);
-        const auto top = [&](const char* digit, bool bold) {
-            const auto found = std::ranges::find_if(
-                labels, [&](const WheelText& text) { return text.text == digit && text.font.bold == bold; });
-            return found == labels.end() ? NAN : found->corner.y;
-        };
-        EXPECT_GT(top("0", true), top("2", true)) << angle;
-        EXPECT_GT(top("4", false), top("2", false)) << angle;
+        EXPECT_GT(spared, 30);
     }
+}
+
+// On a desktop's ground, light or dark, everything can be told from it; without the option nothing changes.
+TEST_F(DrawingTest, ColoursFollowTheDesktopWhenAsked) {
+    OrbTable orbs{};
+    orbs.fill(4.0F);
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        for (const int ground : {Rgb(0xFFFFFF), Rgb(0xEFF0F1), Rgb(0x31363B), Rgb(0x000000)}) {
+            surface = {};
+            options[104] = 1.0F;
+            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
+            EXPECT_EQ(surface.background, ground);
+            for (const WheelText& text : surface.texts) {
+                // A sign of the ring stands on its sector's tint.
+                const bool onTint = type == ChartType::ZodiacRing && text.font.bold && text.text[0] < 0;
+                EXPECT_GE(Contrast(text.colour, ground), onTint ? 3.0 : 4.5) << text.text;
+            }
+            for (const auto& line : surface.lines) EXPECT_GE(Contrast(line.stroke.colour, ground), 3.0);
+            options[104] = 0.0F;
+            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
+            EXPECT_EQ(surface.background, kWhite);
+        }
+    }
+}
+
+TEST_F(DrawingTest, SmallPicturesLeaveOutMinutes) {
+    const auto numbersInTheRing = [&](double size) {
+        surface = {};
+        DrawWheel(surface, {chart, data, options, ChartType::European, size, size});
+        return std::ranges::count_if(surface.texts, [&](const WheelText& text) {
+            const Extent ink = InkOf(text, surface);
+            return std::isdigit(text.text[0]) && FarthestFromCentre(ink) < 217.0;
+        });
+    };
+    EXPECT_EQ(numbersInTheRing(400.0), kChartPointCount);
+    EXPECT_EQ(numbersInTheRing(700.0), 2 * kChartPointCount);
+}
+
+TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
+    OrbTable orbs{};
+    orbs.fill(-1.0F);
+    orbs[1] = 2.0F;
+    orbs[13] = 3.0F;  // quintile
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 17.3 * point);
+    Put(chart, kSun, 130.0);
+    Put(chart, kMoon, 131.0);
+    Put(chart, kMars, 130.0 + 72.0);
+    surface = {};
+    DrawWheel(surface, {chart, data, options, ChartType::ZodiacRing, 500.0, 500.0, false, orbs});
+    EXPECT_EQ(surface.sectors.size(), 12u);
+    EXPECT_NEAR(surface.sectors[4].from, 180.0 + 120.0 - 100.0, 1e-9) << "Leo";
+    int ticks = 0;
+    for (int degree = 0; degree < 360; ++degree) {
+        const double length = degree % 10 == 0 ? 7.0 : degree % 5 == 0 ? 5.0 : 2.8;
+        ticks += HasLine(OnWheel(degree + 80.0, 193.0), OnWheel(degree + 80.0, 193.0 - length));
+    }
+    EXPECT_EQ(ticks, 348) << "none where a sign begins";
+    const auto widthOf = [&](double from, double to) {
+        for (const auto& line : surface.lines) {
+            const auto joins = [&](Point a, Point b) {
+                return std::hypot(a.x - OnWheel(from, 97.0).x, a.y - OnWheel(from, 97.0).y) < 1e-6 &&
+                       std::hypot(b.x - OnWheel(to, 97.0).x, b.y - OnWheel(to, 97.0).y) < 1e-6;
+            };
+            if (joins(line.from, line.to) || joins(line.to, line.from)) return line.stroke.width;
+        }
+        return 0.0;
+    };
+    const double exact = widthOf(210.0, 282.0);
+    const double wide = widthOf(211.0, 282.0);
+    EXPECT_GT(exact, wide) << "the closer aspect is heavier";
+    EXPECT_GT(wide, 0.0);
+    EXPECT_EQ(widthOf(210.0, 211.0), 0.0) << "a conjunction is an arc";
+    const auto arc = std::ranges::count_if(surface.lines, [](const auto& line) {
+        return std::abs(std::hypot(line.from.x, line.from.y) - 93.5) < 1e-6 &&
+               std::abs(std::hypot(line.to.x, line.to.y) - 93.5) < 1e-6;
+    });
+    EXPECT_GE(arc, 4);
+    for (const double angle : {210.0, 211.0, 282.0}) {
+        EXPECT_TRUE(std::ranges::any_of(surface.lines,
+                                        [&](const auto& line) {
+                                            return std::hypot(line.from.x - OnWheel(angle, 193.0).x,
+                                                              line.from.y - OnWheel(angle, 193.0).y) < 1e-6;
+                                        }))
+            << "the mark at the true angle " << angle;
+    }
+}
+
+TEST_F(DrawingTest, WordsTellPlaceHouseAndTheAspectsOfThePicture) {
+    OrbTable orbs{};
+    orbs[1] = 2.0F;
+    chart = SpreadChart(0.5);
+    Put(chart, kSun, 3.2);
+    Put(chart, kMoon, 4.2);
+    Put(chart, kMercury, 63.0);
+    Put(chart, kMars, 123.5);
+    chart.IsRetrograde[kMercury] = true;
+    WheelRequest request{chart, data, options, ChartType::ZodiacRing, 700.0, 700.0, false, orbs};
+    EXPECT_EQ(PointInWords(request, kSun), "Sun 03 Aries 12, house 1. Conjunct Moon.");
+    EXPECT_THAT(PointTip(request, kSun), ::testing::HasSubstr("Conjunct Moon  1\xC2\xB0"
+                                                              "00'"));
+    EXPECT_THAT(PointInWords(request, kMercury), ::testing::HasSubstr(", retrograde."));
+    request.type = ChartType::American;
+    EXPECT_EQ(PointInWords(request, kSun), "Sun 03 Aries 12, house 1. Sextile Mercury, Trine Mars.")
+        << "the lines of the picture";
+    const std::string all = WheelInWords(request);
+    EXPECT_LT(all.find("House 1, cusp 00 Aries 30. Sun"), all.find("House 2, cusp"));
+    for (const std::string_view name : kGridNames) EXPECT_NE(all.find(name), std::string::npos) << name;
 }
 
 TEST(PrintedPage, ExtentHasTheWheelAboveTheMiddle) {
@@ -212,7 +348,8 @@ TEST_F(DrawingTest, PageBlocksFollowTheirOptions) {
     const std::size_t withGrid = surface.lines.size();
     options[178] = 0.0F;
     draw();
-    EXPECT_EQ(withGrid - surface.lines.size(), 32u);
+    EXPECT_EQ(withGrid - surface.lines.size(), 33u)
+        << "the grid's rules and the one below the points' heading";
     const ScratchDirectory directory;
     directory.Write("personal.nam", "Ann\r\n\r\n");
     EXPECT_THAT(ReadPersonalLines(directory / "PERSONAL.NAM", options), ::testing::ElementsAre("Ann"));

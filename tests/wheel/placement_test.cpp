@@ -151,5 +151,25 @@ TEST(Placement, EuropeanGapsHoldForAnyCrowd) {
     }
 }
 
+// The ring draws every point, in zodiacal order, around the middle of the true angles of its crowd.
+TEST(Placement, RingGlyphsSpreadAroundTheirTrueAngles) {
+    WheelSnapshot chart = EqualHouses(100.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 110.0 + 20.0 * point);
+    EXPECT_NEAR(Of(PlaceGlyphs(chart, ChartType::ZodiacRing), kSun).angle, 210.0, 1e-9) << "alone: true";
+    for (int point = kSun; point <= kMoon; ++point)
+        Put(chart, point, 99.0 + 0.2 * point);  // about the Ascendant
+    const auto glyphs = PlaceGlyphs(chart, ChartType::ZodiacRing);
+    double middle = 0.0;
+    for (int point = kSun; point <= kMoon; ++point) {
+        EXPECT_TRUE(Of(glyphs, point).drawn);
+        middle += Of(glyphs, point).angle / 10.0;
+        if (point == kSun) continue;
+        const double gap = Of(glyphs, point).angle - Of(glyphs, point - 1).angle;
+        EXPECT_GT(gap, 4.9);
+        EXPECT_LT(gap, 6.0);
+    }
+    EXPECT_NEAR(middle, 180.0 + 0.1, 0.5) << "to both sides alike";
+}
+
 }  // namespace
 }  // namespace tolvanis

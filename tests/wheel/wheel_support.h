@@ -66,16 +66,23 @@ class RecordingSurface : public DrawingSurface {
     int background = -1;
     std::vector<DrawnLine> lines;
     std::vector<double> circles;  // radii
+    std::vector<RingSector> sectors;
     std::vector<WheelText> texts;
 
     void SetCoordinates(const Extent& given) override { extent = given; }
     void Clear(int colour) override { background = colour; }
     void Line(Point from, Point to, Stroke stroke) override { lines.push_back({from, to, stroke}); }
+    void Lines(std::span<const LineSpan> given, Stroke stroke) override {
+        for (const LineSpan& line : given) Line(line.from, line.to, stroke);
+    }
     void Circle(Point, double radius, Stroke) override { circles.push_back(radius); }
     void Disc(Point, double, int) override {}
+    void Sector(const RingSector& sector, int) override { sectors.push_back(sector); }
     TextBox Measure(std::string_view text, TextFont font) const override {
         const double width = 0.6 * font.size * static_cast<double>(CharacterCount(text));
-        return {width, 1.2 * font.size, 0.0, 0.2 * font.size, width, 0.9 * font.size};
+        const double top = 0.2 * font.size;
+        const double bottom = 0.9 * font.size;
+        return {width, 1.2 * font.size, 0.0, top, width, bottom, top, width + bottom, -bottom, width - top};
     }
     void Text(Point corner, std::string_view text, TextFont font, int colour) override {
         texts.push_back({corner, std::string(text), font, colour});

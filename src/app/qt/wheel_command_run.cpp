@@ -37,8 +37,9 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
                       picture->files.directory().string());
     }
     const double size = wheel->size;
-    const Result<void> written =
-        ExportWheel({picture->chart, picture->data, picture->options, wheel->type, size, size}, wheel->file);
+    const Result<void> written = ExportWheel(
+        {picture->chart, picture->data, picture->options, wheel->type, size, size, false, picture->orbs},
+        wheel->file);
     return written ? kAllComputed : Refuse(written.message());
 }
 

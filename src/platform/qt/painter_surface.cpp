@@ -1,11 +1,31 @@
 #include "platform/qt/painter_surface.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 
 #include "platform/qt/palette.h"
 #include "platform/qt/symbol_font.h"
 
 namespace tolvanis {
+namespace {
+
+// How far the outline reaches on the slants.
+void MeasureSlants(const QPainterPath& path, TextBox& cell) {
+    bool isFirst = true;
+    for (const QPolygonF& polygon : path.toSubpathPolygons()) {
+        for (const QPointF& point : polygon) {
+            const double sum = point.x() + point.y();
+            const double difference = point.x() - point.y();
+            cell.leastSum = isFirst ? sum : std::min(cell.leastSum, sum);
+            cell.mostSum = isFirst ? sum : std::max(cell.mostSum, sum);
+            cell.leastDifference = isFirst ? difference : std::min(cell.leastDifference, difference);
+            cell.mostDifference = isFirst ? difference : std::max(cell.mostDifference, difference);
+            isFirst = false;
+        }
+    }
+}
+
+}  // namespace
 
 const TextOutlines::Outline& TextOutlines::Of(std::string_view text, bool bold) {
     std::string key(text);
@@ -25,6 +45,7 @@ const TextOutlines::Outline& TextOutlines::Of(std::string_view text, bool bold) 
                     ink.top(),
                     ink.right(),
                     ink.bottom()};
+    MeasureSlants(outline.path, outline.cell);
     return outline;
 }
 
@@ -47,6 +68,15 @@ void PainterSurface::Line(Point from, Point to, Stroke stroke) {
     painter_.drawLine(ToDevice(from), ToDevice(to));
 }
 
+void PainterSurface::Lines(std::span<const LineSpan> lines, Stroke stroke) {
+    QPainterPath path;
+    for (const LineSpan& line : lines) {
+        path.moveTo(ToDevice(line.from));
+        path.lineTo(ToDevice(line.to));
+    }
+    painter_.strokePath(path, PenOf(stroke));
+}
+
 void PainterSurface::Circle(Point centre, double radius, Stroke stroke) {
     painter_.setPen(PenOf(stroke));
     painter_.setBrush(Qt::NoBrush);
@@ -59,11 +89,25 @@ void PainterSurface::Disc(Point centre, double radius, int colour) {
     painter_.drawEllipse(ToDevice(centre), radius * scale_, radius * scale_);
 }
 
+void PainterSurface::Sector(const RingSector& sector, int colour) {
+    const auto around = [&](double radius) {
+        const QPointF reach(radius * scale_, radius * scale_);
+        return QRectF(ToDevice({}) - reach, ToDevice({}) + reach);
+    };
+    const double sweep = sector.to - sector.from;
+    QPainterPath path;
+    path.arcMoveTo(around(sector.outerRadius), sector.from);
+    path.arcTo(around(sector.outerRadius), sector.from, sweep);
+    path.arcTo(around(sector.innerRadius), sector.to, -sweep);
+    path.closeSubpath();
+    painter_.fillPath(path, PaletteColour(colour));
+}
+
 TextBox PainterSurface::Measure(std::string_view text, TextFont font) const {
     const double scale = font.size / TextOutlines::kUnit;
     TextBox box = outlines_.Of(text, font.bold).cell;
-    for (double* value :
-         {&box.width, &box.height, &box.inkLeft, &box.inkTop, &box.inkRight, &box.inkBottom}) {
+    for (double* value : {&box.width, &box.height, &box.inkLeft, &box.inkTop, &box.inkRight, &box.inkBottom,
+                          &box.leastSum, &box.mostSum, &box.leastDifference, &box.mostDifference}) {
         *value *= scale;
     }
     return box;

@@ -35,8 +35,10 @@ class PainterSurface : public DrawingSurface {
     void SetCoordinates(const Extent& extent) override;
     void Clear(int colour) override;
     void Line(Point from, Point to, Stroke stroke) override;
+    void Lines(std::span<const LineSpan> lines, Stroke stroke) override;
     void Circle(Point centre, double radius, Stroke stroke) override;
     void Disc(Point centre, double radius, int colour) override;
+    void Sector(const RingSector& sector, int colour) override;
     TextBox Measure(std::string_view text, TextFont font) const override;
     void Text(Point corner, std::string_view text, TextFont font, int colour) override;
 

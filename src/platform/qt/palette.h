@@ -1,12 +1,14 @@
 #pragma once
-// The standard 16-colour palette.
+// Colours on the screen and on paper.
 
 #include <QColor>
 
+#include "platform/colours.h"
+
 namespace tolvanis {
 
-// Colours 0 to 15: black, blue, green, cyan, red, magenta, brown, light grey, dark grey and the light six,
-// yellow, white. A number beyond them folds into the palette.
-QColor PaletteColour(int number);
+inline QColor PaletteColour(int colour) {
+    return QColor::fromRgb(static_cast<QRgb>(RgbOf(colour)) | 0xFF000000U);
+}
 
 }  // namespace tolvanis

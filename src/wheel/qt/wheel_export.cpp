@@ -6,6 +6,7 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 #include <array>
+#include <cstring>
 
 #include "platform/qt/painter_surface.h"
 #include "wheel/picture_format.h"
@@ -24,14 +25,49 @@ QSize PixelSize(const WheelRequest& request) {
     return {qMax(1, qRound(request.width)), qMax(1, qRound(request.height))};
 }
 
+// A text as XML may hold it: its signs escaped, and without what XML has no way to write, control characters
+// and noncharacters.
+std::string XmlText(const std::string& utf8) {
+    QString text = QString::fromStdString(utf8);
+    text.remove(QChar(0xFFFE)).remove(QChar(0xFFFF));
+    std::string escaped;
+    for (const char c : text.toStdString()) {
+        const auto byte = static_cast<unsigned char>(c);
+        switch (c) {
+            case '&':
+                escaped += "&amp;";
+                break;
+            case '<':
+                escaped += "&lt;";
+                break;
+            case '>':
+                escaped += "&gt;";
+                break;
+            case '"':
+                escaped += "&quot;";
+                break;
+            default:
+                if (byte >= 0x20 && byte != 0x7F) escaped += c;
+        }
+    }
+    return escaped;
+}
+
 bool WriteSvg(const WheelRequest& request, QBuffer& buffer) {
     QSvgGenerator svg;
     svg.setOutputDevice(&buffer);
     svg.setResolution(96);
     svg.setSize(PixelSize(request));
     svg.setViewBox(QRect({0, 0}, PixelSize(request)));
-    svg.setTitle(QString::fromStdString(request.chart.TitleLines[0]));
+    // The generator writes a title as it stands, so it gets one that needs no escaping.
+    constexpr const char* kTitlePlace = "wheel-title";
+    svg.setTitle(QString::fromLatin1(kTitlePlace));
     Paint(svg, QRectF({0.0, 0.0}, QSizeF(PixelSize(request))), request);
+    QByteArray& bytes = buffer.buffer();
+    const qsizetype place = bytes.indexOf(kTitlePlace);
+    const std::string title = XmlText(request.chart.TitleLines[0]);
+    if (place >= 0)
+        bytes.replace(place, qsizetype(std::strlen(kTitlePlace)), QByteArray::fromStdString(title));
     return true;
 }
 

@@ -3,51 +3,16 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPagedPaintDevice>
-#include <QResizeEvent>
 #include <QScreen>
 
-#include "output/zodiac_text.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/palette.h"
 #include "platform/qt/symbol_font.h"
 #include "wheel/qt/wheel_export.h"
 #include "wheel/wheel_page.h"
+#include "wheel/wheel_words.h"
 
 namespace tolvanis {
-
-// The client area of the wheel window.
-class WheelCanvas : public QWidget {
-  public:
-    explicit WheelCanvas(Wheels& window) : QWidget(&window), window_(window) {
-        setObjectName(QStringLiteral("canvas"));
-        setAttribute(Qt::WA_OpaquePaintEvent);
-        setMinimumSize(120, 120);
-    }
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        window_.PaintWheel(painter, rect());
-    }
-    void resizeEvent(QResizeEvent* event) override { window_.Canvas_Resize(event->size()); }
-
-  private:
-    Wheels& window_;
-};
-
-namespace {
-
-// The positions in words, for those who cannot see the wheel.
-QString DescribeChart(const WheelSnapshot& chart) {
-    std::string text;
-    for (const int point : kGridOrder) {
-        text.append(PointName(point)).append(" ").append(FormatDegMin(chart.PointLongitude[point]));
-        text.append(", house ").append(std::to_string(chart.PointHouse[point])).append(". ");
-    }
-    return QString::fromStdString(text);
-}
-
-}  // namespace
 
 Wheels::Wheels(WheelSnapshot chart, const WheelContext& context, int typeChart, QWidget* parent)
     : QMainWindow(parent),
@@ -56,13 +21,16 @@ Wheels::Wheels(WheelSnapshot chart, const WheelContext& context, int typeChart, 
       typeChart_(typeChart),
       orbsFile_(context.orbsFile),
       hasFont_(SymbolFontIsLoaded()),
-      canvas_(new WheelCanvas(*this)) {
+      canvas_(new WheelCanvas(*this, this)) {
     setObjectName(QStringLiteral("Wheels"));
     setWindowTitle(QString::fromStdString("Natal Chartwheel " + chart_.Name));
     canvas_->setAccessibleName(windowTitle());
-    canvas_->setAccessibleDescription(DescribeChart(chart_));
     setCentralWidget(canvas_);
+    connect(canvas_, &WheelCanvas::resized, this,
+            [this](QSize size) { Q_EMIT startScaleChanged(StartScale(size.width(), size.height())); });
     BuildMenu();
+    ReadOrbs();
+    canvas_->setFocus();
     if (!hasFont_) TellSymbolFontMissing(context_.printing.messages);
 }
 
@@ -83,30 +51,62 @@ void Wheels::BuildMenu() {
     QMenu& type = *bar.addMenu(QStringLiteral("&Type"));
     mnuCTAmerican_ = add(type, "mnuCTAmerican", QStringLiteral("&American"), &Wheels::mnuCTAmerican_Click);
     mnuCTEuropean_ = add(type, "mnuCTEuropean", QStringLiteral("&European"), &Wheels::mnuCTEuropean_Click);
-    mnuCTAmerican_->setCheckable(true);
-    mnuCTEuropean_->setCheckable(true);
-    mnuCTAmerican_->setChecked(ChartTypeOf(typeChart_) == ChartType::American);
-    mnuCTEuropean_->setChecked(ChartTypeOf(typeChart_) == ChartType::European);
+    mnuCTRing_ = add(type, "mnuCTRing", QStringLiteral("&Zodiac ring"), &Wheels::mnuCTRing_Click);
+    for (QAction* item : {mnuCTAmerican_, mnuCTEuropean_, mnuCTRing_}) item->setCheckable(true);
+    CheckType();
     add(bar, "mnuHelp", QStringLiteral("&Help"), &Wheels::helpRequested);
     add(bar, "mnuExport", QStringLiteral("&Export"), &Wheels::mnuExport_Click);
 }
 
-void Wheels::PaintWheel(QPainter& painter, const QRect& area) {
+std::vector<DrawnPoint> Wheels::PaintWheel(QPainter& painter, const QRect& area) {
     if (!hasFont_) {
         painter.fillRect(area, PaletteColour(ColourOf(context_.options, kBackgroundOption)));
-        return;
+        return {};
     }
     PainterSurface surface(painter, area, outlines_);
-    DrawWheel(surface, RequestFor(area.size(), false));
+    return DrawWheel(surface, RequestFor(area.size(), false));
 }
 
-void Wheels::Canvas_Resize(QSize size) {
-    Q_EMIT startScaleChanged(StartScale(size.width(), size.height()));
+QString Wheels::TipOf(int point) const {
+    return QString::fromStdString(PointTip(RequestFor(canvas_->size(), false), point));
+}
+
+QString Wheels::WordsOf(int point) const {
+    return QString::fromStdString(PointInWords(RequestFor(canvas_->size(), false), point));
+}
+
+// The picture in words follows the type and the orbs.
+void Wheels::Describe() {
+    canvas_->setAccessibleDescription(
+        QString::fromStdString(WheelInWords(RequestFor(canvas_->size(), false))));
+}
+
+// A file that cannot be read is told where the user asks for its aspects, not here.
+void Wheels::ReadOrbs() {
+    OrbTable orbs{};
+    if (!ReadOrbsFile(orbsFile_, orbs)) orbs.fill(-1.0F);
+    orbs_ = orbs;
+    Describe();
+    canvas_->update();
+}
+
+// The orbs file may have been edited in another window.
+void Wheels::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) ReadOrbs();
 }
 
 WheelRequest Wheels::RequestFor(QSizeF size, bool halfPage) const {
-    return {chart_,       context_.data, context_.options, ChartTypeOf(typeChart_),
-            size.width(), size.height(), halfPage};
+    const QColor ground = canvas_->palette().color(QPalette::Base);
+    return {chart_,
+            context_.data,
+            context_.options,
+            ChartTypeOf(typeChart_),
+            size.width(),
+            size.height(),
+            halfPage,
+            orbs_,
+            Rgb(static_cast<int>(ground.rgb() & 0xFFFFFFU))};
 }
 
 void Wheels::mnuCTAmerican_Click() {
@@ -117,12 +117,23 @@ void Wheels::mnuCTEuropean_Click() {
     SetTypeChart(1);
 }
 
+void Wheels::mnuCTRing_Click() {
+    SetTypeChart(2);
+}
+
+void Wheels::CheckType() {
+    const ChartType type = ChartTypeOf(typeChart_);
+    mnuCTAmerican_->setChecked(type == ChartType::American);
+    mnuCTEuropean_->setChecked(type == ChartType::European);
+    mnuCTRing_->setChecked(type == ChartType::ZodiacRing);
+}
+
 void Wheels::SetTypeChart(int typeChart) {
     const Hourglass hourglass;
-    mnuCTAmerican_->setChecked(typeChart == 0);
-    mnuCTEuropean_->setChecked(typeChart == 1);
     typeChart_ = typeChart;
+    CheckType();
     Q_EMIT typeChartChanged(typeChart);
+    ReadOrbs();
     canvas_->repaint();
 }
 
@@ -140,6 +151,7 @@ void Wheels::mnuOrbsChange_Click() {
     const std::string chosen = context_.printing.dialogs.ChooseFile("*.ORB", orbsFile_.string());
     if (chosen.empty()) return;
     orbsFile_ = FindPath(PathFromText(chosen));
+    ReadOrbs();
     mnuAspects_Click();
 }
 

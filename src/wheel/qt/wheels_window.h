@@ -7,7 +7,7 @@
 #include "platform/qt/painter_surface.h"
 #include "platform/qt/printing.h"
 #include "wheel/qt/aspect_window.h"
-#include "wheel/wheel_drawing.h"
+#include "wheel/qt/wheel_canvas.h"
 
 class QAction;
 
@@ -25,7 +25,7 @@ struct WheelContext {
 // Draws the chart that it is opened with, whatever is computed later. Everything is redrawn on every paint,
 // in proportion to the window and at the screen's own resolution. The current orbs file is the context's
 // until the user selects another one.
-class Wheels : public QMainWindow {
+class Wheels : public QMainWindow, private WheelPainter {
     Q_OBJECT
 
   public:
@@ -34,9 +34,6 @@ class Wheels : public QMainWindow {
     const WheelSnapshot& chart() const { return chart_; }
     const Path& orbsFile() const { return orbsFile_; }
     CWAspect* aspectWindow() { return aspects_; }
-
-    // Draws the wheel, or nothing but the background when there is no symbol font.
-    void PaintWheel(QPainter& painter, const QRect& area);
 
   Q_SIGNALS:
     void typeChartChanged(int typeChart);    // to be kept in the settings
@@ -52,32 +49,41 @@ class Wheels : public QMainWindow {
     void mnuPrintChartwheel_Click();
     void mnuCTAmerican_Click();
     void mnuCTEuropean_Click();
+    void mnuCTRing_Click();
     void mnuExport_Click();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
+    // Draws the wheel, or nothing but the background when there is no symbol font.
+    std::vector<DrawnPoint> PaintWheel(QPainter& painter, const QRect& area) override;
+    QString TipOf(int point) const override;
+    QString WordsOf(int point) const override;
+
     void BuildMenu();
     void SetTypeChart(int typeChart);
-    void Canvas_Resize(QSize size);
+    void CheckType();
+    void ReadOrbs();
+    void Describe();
     WheelRequest RequestFor(QSizeF size, bool halfPage) const;
     void PrintFullPage();
     void PrintHalfPage();
     std::string DocumentName() const;
 
-    friend class WheelCanvas;
-
     WheelSnapshot chart_;
     WheelContext context_;
     int typeChart_;
     Path orbsFile_;
+    OrbTable orbs_{};  // of the zodiac ring; none where the file cannot be read
     bool hasFont_;
     TextOutlines outlines_;
-    QWidget* canvas_;
+    WheelCanvas* canvas_;
     QAction* mnuCTAmerican_ = nullptr;
     QAction* mnuCTEuropean_ = nullptr;
+    QAction* mnuCTRing_ = nullptr;
     QPointer<CWAspect> aspects_;
 };
 

@@ -3,12 +3,19 @@
 
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QImage>
 #include <QMenuBar>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
+#include <QXmlStreamReader>
+#include <set>
 
+#include "platform/qt/palette.h"
 #include "platform/qt/symbol_font.h"
 #include "support/window_user.h"
 #include "wheel/qt/wheel_export.h"
@@ -51,7 +58,11 @@ TEST_F(WheelsTest, MenuAndCaption) {
               "AS&CII &Aspects &Orbs &Print &Type &Help &Export");
     EXPECT_TRUE(Item(wheels, "mnuCTEuropean").isChecked());
     QSignalSpy changed(&wheels, &Wheels::typeChartChanged);
+    Item(wheels, "mnuCTRing").trigger();
+    EXPECT_EQ(changed.takeLast().at(0).toInt(), 2);
+    EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
     for (int again = 0; again < 2; ++again) {
+        EXPECT_EQ(Item(wheels, "mnuCTRing").isChecked(), again == 0);
         Item(wheels, "mnuCTAmerican").trigger();
         EXPECT_TRUE(Item(wheels, "mnuCTAmerican").isChecked());
         EXPECT_FALSE(Item(wheels, "mnuCTEuropean").isChecked());
@@ -138,11 +149,46 @@ TEST_F(WheelsTest, ExportsByExtension) {
     EXPECT_FALSE(std::filesystem::exists(dialogs.answer));
 }
 
-// All texts of a drawing; the wheel is measured with the real font.
-class TextCollector : public PainterSurface {
+// Every exported SVG is XML whatever the name holds, with the name as its title.
+TEST_F(WheelsTest, SvgIsReadByAnXmlReader) {
+    const struct {
+        const char* name;
+        const char* title;
+    } cases[] = {{"Ann Smith", "Ann Smith - natal"},
+                 {"A & B <script>alert(\"x\")</script> ]]> 'c'",
+                  "A & B <script>alert(\"x\")</script> ]]> 'c' - natal"},
+                 {"Bell\a and\x1b[31m tab\t", "Bell and[31m tab - natal"},
+                 {"Zo\xC3\xAB \xE2\x82\xAC", "Zo\xC3\xAB \xE2\x82\xAC - natal"},
+                 {"bytes \xFF\xFE", nullptr},
+                 {"no \xEF\xBF\xBE\xEF\xBF\xBF", "no  - natal"},
+                 {"wheel-title", "wheel-title - natal"}};
+    for (const auto& c : cases) {
+        chart.TitleLines[0] = std::string(c.name) + " - natal";
+        for (const int type : {0, 1, 2}) {
+            const Path file = directory / "a.svg";
+            ASSERT_TRUE(ExportWheel({chart, data, options, ChartTypeOf(type), 500.0, 500.0}, file));
+            QXmlStreamReader reader(QByteArray::fromStdString(FileContent(file)));
+            QStringList elements;
+            QString title;
+            while (!reader.atEnd()) {
+                reader.readNext();
+                if (!reader.isStartElement()) continue;
+                elements += reader.name().toString();
+                if (reader.name() == QLatin1String("title")) title = reader.readElementText();
+            }
+            EXPECT_FALSE(reader.hasError()) << c.name << ": " << reader.errorString().toStdString();
+            EXPECT_TRUE(!c.title || title.toStdString() == c.title) << title.toStdString();
+            EXPECT_FALSE(elements.contains(QLatin1String("script")));
+            EXPECT_GT(elements.count(QLatin1String("path")), 60);
+        }
+    }
+}
+
+// Notes what is drawn while it is drawn.
+class NotedSurface : public PainterSurface {
   public:
     using PainterSurface::PainterSurface;
-    std::vector<std::pair<std::string, Extent>> inks;
+    std::vector<WheelText> texts;
     Extent extent;
 
     void SetCoordinates(const Extent& given) override {
@@ -150,77 +196,137 @@ class TextCollector : public PainterSurface {
         PainterSurface::SetCoordinates(given);
     }
     void Text(Point corner, std::string_view text, TextFont font, int colour) override {
-        inks.emplace_back(text, InkOf({corner, std::string(text), font, colour}, *this));
+        texts.push_back({corner, std::string(text), font, colour});
         PainterSurface::Text(corner, text, font, colour);
     }
 };
 
-const char* const kOrdinaryBirths[] = {"Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45",
-                                       "A Stellium,04 Feb 1962,7.30,P,8,122.25,37.46",
-                                       "London Noon,11 Jan 1994,12.10,P,0,000.07,51.30",
-                                       "Sydney,03 Mar 1986,6.15,A,-11,-151.12,-33.52",
-                                       "Quito,01 May 2000,12.00,P,5,078.30,-00.13",
-                                       "Cape Town,15 Aug 1971,3.33,A,-2,-018.25,-33.55",
-                                       "Berlin,30 Apr 1945,3.30,P,-2,-013.25,52.31",
-                                       "Tokyo,07 Jul 2007,7.07,A,-9,-139.42,35.41",
-                                       "Alexandra Wilhelmina,17 Nov 1978,11.59,P,6,087.39,41.51"};
-
-// Whether two characters look as if they touched: their rectangles overlap, and so do the ellipses in them.
-bool Touch(const Extent& a, const Extent& b) {
-    constexpr double kSlack = 0.5;
-    if (!Overlap(a, b, -kSlack)) return false;
-    const double x =
-        (a.left + a.right - b.left - b.right) / (a.right - a.left + b.right - b.left - 2 * kSlack);
-    const double y =
-        (a.top + a.bottom - b.top - b.bottom) / (a.top - a.bottom + b.top - b.bottom - 2 * kSlack);
-    return std::hypot(x, y) < 1.0;
+// The share of an area's pixels that are nearer to the colour than to the picture's ground.
+double Covered(const QImage& picture, QRect area, QColor colour) {
+    const auto distance = [](QColor a, QColor b) {
+        return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+    };
+    const QColor ground = picture.pixelColor(0, 0);
+    int covered = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            covered += distance(pixel, colour) < distance(pixel, ground);
+        }
+    }
+    return covered * 1.0 / (area.width() * area.height());
 }
 
-// Draws on a picture of that size and expects all texts inside of it and clear of each other.
-template <typename Draw>
-void ExpectClear(QSize size, const std::string& what, Draw draw) {
-    TextOutlines outlines;
-    QImage image(size, QImage::Format_RGB32);
-    QPainter painter(&image);
-    TextCollector surface(painter, image.rect(), outlines);
-    draw(surface);
-    const auto& inks = surface.inks;
-    for (std::size_t i = 0; i < inks.size(); ++i) {
-        const auto& [text, ink] = inks[i];
-        EXPECT_TRUE(ink.left >= surface.extent.left && ink.right <= surface.extent.right &&
-                    ink.top <= surface.extent.top && ink.bottom >= surface.extent.bottom)
-            << what << ": \"" << text << "\" leaves the picture";
-        for (std::size_t j = 0; j < i; ++j) {
-            EXPECT_FALSE(Touch(ink, inks[j].second))
-                << what << ' ' << size.width() << ": \"" << inks[j].first << "\" meets \"" << text << '"';
+// A picture file shows what was to be drawn: each text where it belongs, in its colour, and both circles.
+TEST_F(WheelsTest, PicturesShowWhatIsDrawn) {
+    for (const int type : {0, 1, 2}) {
+        constexpr int kSize = 1000;
+        const WheelRequest request{chart, data, options, ChartTypeOf(type), kSize, kSize};
+        TextOutlines outlines;
+        QImage image(kSize, kSize, QImage::Format_RGB32);
+        QPainter painter(&image);
+        NotedSurface surface(painter, image.rect(), outlines);
+        DrawWheel(surface, request);
+        ASSERT_TRUE(ExportWheel(request, directory / "a.png"));
+        const QImage picture(QString::fromStdString((directory / "a.png").string()));
+        ASSERT_EQ(picture.size(), image.size());
+        const double scale = kSize / (surface.extent.right - surface.extent.left);
+        const auto pixel = [&](double x, double y) {
+            return QPoint(qRound((x - surface.extent.left) * scale),
+                          qRound((surface.extent.top - y) * scale));
+        };
+        EXPECT_GT(surface.texts.size(), 100u);
+        for (const WheelText& text : surface.texts) {
+            const Extent ink = InkOf(text, surface);
+            const QRect area(pixel(ink.left, ink.top), pixel(ink.right, ink.bottom));
+            const double covered = Covered(picture, area, PaletteColour(text.colour));
+            EXPECT_GT(covered, 0.08) << text.text << " of type " << type;
+            EXPECT_LT(covered, 0.97) << text.text << " of type " << type;
         }
+        for (const double angle : {33.0, 100.0, 222.0}) {
+            const Point on = OnWheel(angle, kOuterRadius);
+            EXPECT_GT(Covered(picture, QRect(pixel(on.x, on.y) - QPoint(3, 3), QSize(7, 7)), Qt::black),
+                      0.15);
+        }
+        EXPECT_LT(Covered(picture, QRect(kSize - 90, 10, 80, 80), Qt::black), 0.01) << "an empty corner";
     }
 }
 
-TEST_F(WheelsTest, TextsOfOrdinaryChartsStandClear) {
-    OrbTable orbs{};
-    ASSERT_TRUE(ReadOrbsFile(directory / "NATAL.ORB", orbs));
-    const std::vector<std::string> personal = {"Jane Doe, Astrologer",
-                                               "12 Long and Winding Lane, Upper Slaughter, Gloucestershire",
-                                               "Telephone 555-0123"};
-    for (const char* record : kOrdinaryBirths) {
-        const WheelSnapshot birth = SnapshotOf(record);
-        for (const ChartType type : {ChartType::American, ChartType::European}) {
-            const int number = static_cast<int>(type);
-            const std::string what = record + std::to_string(number);
-            for (const QSize size : {QSize(700, 700), QSize(937, 740), QSize(1600, 900), QSize(600, 900)}) {
-                ExpectClear(size, what, [&](DrawingSurface& surface) {
-                    DrawWheel(surface, {birth, data, options, type, size.width() * 1.0, size.height() * 1.0});
-                });
-            }
-            for (const QSize page : {QSize(523, 770), QSize(540, 720)}) {  // A4 and Letter less half an inch
-                ExpectClear(page, what + " page", [&](DrawingSurface& surface) {
-                    DrawPage(surface, {birth, data, options, number, personal, orbs, page.width() * 1.0,
-                                       page.height() * 1.0});
-                });
-            }
+// The rectangle of a printed page that holds ink, in shares of the page.
+QRectF InkOfPage(const Path& pdf) {
+    const QString picture = QString::fromStdString(pdf.string()) + QStringLiteral(".page");
+    QProcess::execute(QStringLiteral("pdftoppm"),
+                      {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
+                       QStringLiteral("50"), QString::fromStdString(pdf.string()), picture});
+    const QImage page(picture + QStringLiteral(".png"));
+    QRect ink;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            if (qGray(page.pixel(x, y)) < 160) ink |= QRect(x, y, 1, 1);
         }
     }
+    const double width = page.width();
+    const double height = page.height();
+    return {ink.left() / width, ink.top() / height, ink.width() / width, ink.height() / height};
+}
+
+TEST_F(WheelsTest, PrintsFillTheirPageOrItsUpperHalf) {
+    for (const int type : {0, 1, 2}) {
+        Wheels wheels(chart, context, type);
+        const Path file = directory / "wheel.pdf";
+        dialogs.answer = file.string();
+        messages.answers = {Answer::Yes};
+        Item(wheels, "mnuPrintChartwheel").trigger();
+        const QRectF full = InkOfPage(file);
+        EXPECT_LT(full.left(), 0.12);
+        EXPECT_GT(full.right(), 0.88);
+        EXPECT_LT(full.top(), 0.1) << "the title";
+        EXPECT_GT(full.bottom(), 0.9) << "grid and table";
+        messages.answers = {Answer::No};
+        Item(wheels, "mnuPrintChartwheel").trigger();
+        const QRectF half = InkOfPage(file);
+        EXPECT_LT(half.bottom(), 0.51);
+        EXPECT_GT(half.height(), 0.3);
+        EXPECT_GT(half.left(), 0.02);
+        EXPECT_LT(half.right(), 0.98);
+    }
+}
+
+// Tab and arrows go around the wheel; each stop shows a tip and is what a screen reader finds in focus.
+TEST_F(WheelsTest, KeyboardAndScreenReaderMeetThePoints) {
+    Wheels wheels(chart, context, 2);
+    wheels.show();
+    auto& canvas = Find<WheelCanvas>(wheels, "canvas");
+    canvas.grab();
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&canvas);
+    ASSERT_NE(list, nullptr);
+    ASSERT_EQ(list->childCount(), kChartPointCount);
+    canvas.setFocus();
+    QTest::keyClick(&canvas, Qt::Key_Tab);
+    EXPECT_EQ(canvas.current(), 0);
+    QTest::keyClick(&canvas, Qt::Key_Right);
+    QTest::keyClick(&canvas, Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(&canvas, Qt::Key_Left);
+    EXPECT_EQ(canvas.current(), kChartPointCount - 1) << "behind the first comes the last";
+    std::set<int> points;
+    for (int index = 0; index < kChartPointCount; ++index) {
+        const int point = canvas.points()[static_cast<std::size_t>(index)].point;
+        points.insert(point);
+        const QString words = list->child(index)->text(QAccessible::Name);
+        EXPECT_TRUE(words.startsWith(QString::fromUtf8(PointName(point).data()))) << words.toStdString();
+        EXPECT_TRUE(canvas.accessibleDescription().contains(words));
+        const QPoint middle = list->child(index)->rect().center();
+        EXPECT_EQ(list->childAt(middle.x(), middle.y()), list->child(index));
+        EXPECT_EQ(list->indexOfChild(list->child(index)), index);
+    }
+    EXPECT_EQ(points.size(), static_cast<std::size_t>(kChartPointCount));
+    const QString before = canvas.accessibleDescription();
+    Item(wheels, "mnuCTAmerican").trigger();
+    EXPECT_NE(canvas.accessibleDescription(), before) << "it tells the aspects of the picture";
+    QHelpEvent rest(QEvent::ToolTip, canvas.points()[0].place.center(),
+                    canvas.mapToGlobal(canvas.points()[0].place.center()));
+    QApplication::sendEvent(&canvas, &rest);
+    EXPECT_TRUE(QToolTip::text().startsWith(QString::fromUtf8(PointName(canvas.points()[0].point).data())));
 }
 
 // Tiny and odd windows, every latitude that can be computed, sizes of zero in the options: nothing fails.
@@ -228,7 +334,7 @@ TEST_F(WheelsTest, OddWindowsAndOptionsStillDraw) {
     const WheelSnapshot north = SnapshotOf("Far North,21 Jun 1985,11.40,P,-2,-018.57,65.40");
     for (int option = 60; option <= 114; ++option) options[option] = 0.0F;
     for (const QSize size : {QSize(1, 1), QSize(2000, 20), QSize(20, 2000), QSize(300, 300)}) {
-        for (const ChartType type : {ChartType::American, ChartType::European}) {
+        for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
             const Path file = directory / "odd.png";
             EXPECT_TRUE(
                 ExportWheel({north, data, options, type, size.width() * 1.0, size.height() * 1.0}, file));

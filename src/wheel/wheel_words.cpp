@@ -1,0 +1,107 @@
+#include "wheel/wheel_words.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "aspects/aspect_definitions.h"
+#include "output/zodiac_text.h"
+#include "text/numbers.h"
+#include "wheel/zodiac_ring.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::array kSignNames = {"Aries", "Taurus",  "Gemini",      "Cancer",    "Leo",      "Virgo",
+                                   "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
+
+std::string PlaceInWords(double longitude) {
+    const ZodiacPlace place = SplitZodiac(longitude);
+    return TwoDigits(place.degrees) + " " + kSignNames[static_cast<std::size_t>(place.sign - 1)] + " " +
+           TwoDigits(place.minutes);
+}
+
+struct Partner {
+    int point = kSun;
+    int code = kNoAspect;
+};
+
+// The aspects of a point that the picture shows.
+std::vector<Partner> PartnersOf(const WheelRequest& request, int point) {
+    std::vector<Partner> partners;
+    const auto take = [&](const auto& aspects) {
+        for (const auto& aspect : aspects) {
+            if (aspect.first == point) partners.push_back({aspect.second, aspect.code});
+            if (aspect.second == point) partners.push_back({aspect.first, aspect.code});
+        }
+    };
+    if (request.options[kAspectLinesOption] != 1.0F) return partners;
+    const WheelPlan plan = PlanFor(request);
+    if (request.type == ChartType::ZodiacRing) {
+        take(RingAspects(plan));
+    } else {
+        take(AspectLines(plan, PlaceGlyphs(request.chart, request.type)));
+    }
+    std::ranges::stable_sort(partners, {}, [](const Partner& partner) {
+        return std::ranges::find(kGridOrder, partner.point) - kGridOrder.begin();
+    });
+    return partners;
+}
+
+// Degrees and minutes: "1 12".
+std::string ArcText(double degrees) {
+    const int minutes = static_cast<int>(std::lround(std::abs(degrees) * 60.0));
+    return std::to_string(minutes / 60) + "\xC2\xB0" + TwoDigits(minutes % 60) + "'";
+}
+
+bool IsRetrograde(const WheelSnapshot& chart, int point) {
+    return point <= kMoon && chart.IsRetrograde[point];
+}
+
+}  // namespace
+
+std::string PointInWords(const WheelRequest& request, int point) {
+    const WheelSnapshot& chart = request.chart;
+    std::string words = std::string(PointName(point)) + " " + PlaceInWords(chart.PointLongitude[point]) +
+                        ", house " + std::to_string(chart.PointHouse[point]);
+    if (IsRetrograde(chart, point)) words += ", retrograde";
+    words += ".";
+    bool isFirst = true;
+    for (const Partner& partner : PartnersOf(request, point)) {
+        words += isFirst ? " " : ", ";
+        words += std::string(DefinitionOf(partner.code).name) + " " + std::string(PointName(partner.point));
+        isFirst = false;
+    }
+    return isFirst ? words : words + ".";
+}
+
+std::string PointTip(const WheelRequest& request, int point) {
+    const WheelSnapshot& chart = request.chart;
+    std::string tip = std::string(PointName(point)) + "  " + PlaceInWords(chart.PointLongitude[point]);
+    if (IsRetrograde(chart, point)) tip += "  R";
+    tip += "\nHouse " + std::to_string(chart.PointHouse[point]) + ", declination " +
+           FormatDeclination(chart.PointDeclination[point]);
+    for (const Partner& partner : PartnersOf(request, point)) {
+        const AspectDefinition& aspect = DefinitionOf(partner.code);
+        const double separation =
+            Separation(chart.PointLongitude[point], chart.PointLongitude[partner.point]);
+        tip += "\n" + std::string(aspect.name) + " " + std::string(PointName(partner.point)) + "  " +
+               ArcText(separation - aspect.angle);
+    }
+    return tip;
+}
+
+std::string WheelInWords(const WheelRequest& request) {
+    std::string words;
+    const std::vector<int> order = PlacementOrder(request.chart);
+    for (int house = 1; house <= 12; ++house) {
+        words += "House " + std::to_string(house) + ", cusp " +
+                 PlaceInWords(request.chart.HouseCusps.OfHouse(house)) + ". ";
+        for (const int point : order) {
+            if (request.chart.PointHouse[point] == house) words += PointInWords(request, point) + " ";
+        }
+    }
+    words.pop_back();
+    return words;
+}
+
+}  // namespace tolvanis
