@@ -26,7 +26,6 @@ const kAreas = [
   { zone: 'America/Coyhaique', country: 'CL', division: '02' },
   { zone: 'Europe/Uzhgorod', country: 'UA', division: '25' },
   { zone: 'Europe/Zaporozhye', country: 'UA', division: ['26', '14'] },
-  { zone: 'Europe/Tiraspol', country: 'MD', division: '58' },
   { zone: 'Africa/Timbuktu', country: 'ML', division: '08' },
   { zone: 'America/Ensenada', country: 'MX', division: '02', fits: isNear(31.87, -116.6, 80) },
   { zone: 'America/Bahia_Banderas', country: 'MX', division: '18', second: '020' },

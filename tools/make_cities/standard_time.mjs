@@ -5,8 +5,9 @@ import { readFileSync } from 'node:fs';
 
 const kReferenceYear = 2025;
 
-// Ireland calls winter time the exception; as everywhere else, winter time counts here.
-const kStandardIsEarlier = { 'Europe/Dublin': 0 };
+// Ireland calls winter time the exception; as everywhere else, winter time counts here. Xinjiang stands at its
+// legal time, that of Beijing.
+const kHoursEast = { 'Europe/Dublin': 0, 'Asia/Urumqi': 8, 'Asia/Kashgar': 8 };
 
 function hoursOf(text) {
   const [, sign, hours, minutes = '0', seconds = '0'] = /^(-?)(\d+)(?::(\d+))?(?::(\d+))?$/.exec(text);
@@ -36,7 +37,7 @@ const zones = readZones();
 
 // Throws when the hours are no whole quarters or the zone is unknown.
 export function standardHoursWest(zone) {
-  const hours = -(kStandardIsEarlier[zone] ?? zones.get(zone)) || 0;
+  const hours = -(kHoursEast[zone] ?? zones.get(zone)) || 0;
   if (!Number.isInteger(hours * 4)) throw new Error(`odd offset in ${zone}`);
   return hours;
 }
