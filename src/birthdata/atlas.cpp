@@ -42,7 +42,7 @@ std::size_t CellOf(double north, double east) {
 
 // How far a city's own ground reaches, roughly.
 double OutskirtsKm(int population) {
-    return std::min(15.0, 0.015 * std::sqrt(static_cast<double>(population)));
+    return std::min(30.0, 0.015 * std::sqrt(static_cast<double>(population)));
 }
 
 std::vector<std::string> KeysOfNames(std::span<const std::string> names) {

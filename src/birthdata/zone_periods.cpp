@@ -10,6 +10,7 @@ namespace tolvanis {
 namespace {
 
 constexpr int kHour = 3600;
+constexpr std::int64_t kLongestSummer = std::int64_t{300} * 24 * kHour;
 
 // +0530 or -004430: hours and as many minutes and seconds as there are.
 std::string NumericAbbreviation(int offset) {
@@ -88,6 +89,13 @@ class PeriodMaker {
                 joined.pop_back();
             }
             if (joined.empty() || !AreAlike(joined.back(), period)) joined.push_back(std::move(period));
+        }
+        for (std::size_t i = 0; i < joined.size(); ++i) {
+            const bool isSummer =
+                i + 1 < joined.size() && joined[i + 1].start - joined[i].start < kLongestSummer;
+            const bool isForward = joined[i].save != 0;
+            if (joined[i].kind == ZoneKind::Daylight && !isForward && !isSummer)
+                joined[i].kind = ZoneKind::Standard;
         }
         return joined;
     }
