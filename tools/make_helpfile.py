@@ -8,7 +8,7 @@ import sys
 from pathlib import Path
 
 DATA = Path(__file__).resolve().parent.parent / "data"
-ORDER = ["TOLVANIS", "INPUTD", "NAMES", "GEOGRAPH", "OPTIONS", "OUTPUTD1", "WHEELS", "NAMEEDIT", "LONGLAT", "SELECT",
+ORDER = ["TOLVANIS", "INPUTD", "NAMES", "GEOGRAPH", "ATLAS", "OPTIONS", "OUTPUTD1", "WHEELS", "NAMEEDIT", "LONGLAT", "SELECT",
          "PRNTFILE", "HINTS", "UPGRADES", "SHORTCUT", "PHILO", "REVISION"]
 WIDTH = 72
 RULE = "=" * WIDTH

@@ -30,6 +30,12 @@ Result<void> SetPlace(BirthArguments& births, const std::string& place) {
     return {};
 }
 
+Result<void> SetZone(BirthArguments& births, const std::string& hours) {
+    births.zone = WholeNumber(hours);
+    if (births.zone && *births.zone >= -24.0 && *births.zone <= 24.0) return {};
+    return Fault{"--zone needs hours, positive west, not \"" + hours + "\""};
+}
+
 template <std::optional<std::string> BirthArguments::*member>
 Result<void> Set(BirthArguments& births, const std::string& value) {
     births.*member = value;
@@ -45,6 +51,8 @@ constexpr std::array kBirthArguments = {
     BirthArgument{"--names", Set<&BirthArguments::namesFile>},
     BirthArgument{"--name", Set<&BirthArguments::name>},
     BirthArgument{"--place", SetPlace},
+    BirthArgument{"--at", Set<&BirthArguments::at>},
+    BirthArgument{"--zone", SetZone},
     BirthArgument{"--houses", SetHouses},
     BirthArgument{"--theory", SetTheory},
     BirthArgument{"--app-dir", Set<&BirthArguments::appDirectory>},
@@ -90,18 +98,38 @@ Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const 
     return std::optional<Place>(PlaceOfCity(*city));
 }
 
-// The entry of a birth given as a record. With a place the record's own one is not read and may be missing.
-Result<NatalEntry> EntryOfBirth(const std::string& birth, const std::optional<Place>& place) {
+enum class RecordsPlace { Read, LeaveOut };
+
+// The entry of a birth given as a record. Where its own place is left out it may be missing.
+Result<NatalEntry> EntryOfBirth(const std::string& birth, RecordsPlace place) {
     constexpr std::size_t kFieldsBeforePlace = 4;
+    const bool leaveOut = place == RecordsPlace::LeaveOut;
     std::string line = ToUtf8(birth);
-    if (place && SplitFields(line).size() == kFieldsBeforePlace) line += ",,,";
+    if (leaveOut && SplitFields(line).size() == kFieldsBeforePlace) line += ",,,";
     Result<NameRecord> record = ParseNameRecord(line);
     if (!record) return record.fault();
     if (record->name.empty()) return Fault{"the name is empty"};
-    if (place) record->timeZone = record->longitude = record->latitude = "0";
-    Result<NatalEntry> entry = EntryFromRecord(*record);
-    if (entry && place) FillPlace(*entry, *place);
-    return entry;
+    if (leaveOut) record->timeZone = record->longitude = record->latitude = "0";
+    return EntryFromRecord(*record);
+}
+
+// A birth or the present moment at a place of the atlas.
+void ReadPlacedBirth(const BirthArguments& births, const Options& options, const DataFiles& files,
+                     Clock clock, EntryReceiver& receiver) {
+    const Result<ZoneBook> book = ZoneBook::Open(files);
+    if (!book) return receiver.Refuse("--at", book.message());
+    if (!births.birth) {
+        NatalEntry now;
+        const auto placed =
+            PlacePresentMoment(*book, *births.at, births.zone, OnClockOfZone(clock(), 0.0), options, now);
+        if (!placed) return receiver.Refuse("--at", placed.message());
+        return receiver.TakePlaced(now, "--now", *placed);
+    }
+    Result<NatalEntry> entry = EntryOfBirth(*births.birth, RecordsPlace::LeaveOut);
+    if (!entry) return receiver.Refuse("--birth", entry.message());
+    const Result<PlacedBirth> placed = PlaceBirth(*book, *births.at, births.zone, *entry);
+    if (!placed) return receiver.Refuse("--at", placed.message());
+    receiver.TakePlaced(*entry, "--birth", *placed);
 }
 
 NatalEntry EntryOfNow(std::time_t moment, const Options& options, const std::optional<Place>& place) {
@@ -155,17 +183,23 @@ Result<void> CheckBirthArguments(const BirthArguments& births) {
     if (sources > 1) return Fault{"only one of --now, --birth and --names can be given"};
     if (births.name && !births.namesFile) return Fault{"--name needs --names"};
     if (births.place && births.namesFile) return Fault{"--place goes with --birth or --now only"};
+    if (births.at && births.namesFile) return Fault{"--at goes with --birth or --now only"};
+    if (births.at && births.place) return Fault{"only one of --at and --place can be given"};
+    if (births.zone && !births.at) return Fault{"--zone needs --at"};
     return {};
 }
 
 void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files, Clock clock,
                 EntryReceiver& receiver) {
     if (births.namesFile) return ReadNamesFile(births, receiver);
+    if (births.at) return ReadPlacedBirth(births, options, files, clock, receiver);
     const Result<std::optional<Place>> place = RequestedPlace(births, files);
     if (!place) return receiver.Refuse("--place", place.message());
     if (!births.birth) return receiver.Take(EntryOfNow(clock(), options, *place), "--now");
-    const Result<NatalEntry> entry = EntryOfBirth(*births.birth, *place);
+    Result<NatalEntry> entry =
+        EntryOfBirth(*births.birth, *place ? RecordsPlace::LeaveOut : RecordsPlace::Read);
     if (!entry) return receiver.Refuse("--birth", entry.message());
+    if (*place) FillPlace(*entry, **place);
     receiver.Take(*entry, "--birth");
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/placed_birth.h"
 #include "astro/natal_chart.h"
 #include "platform/clock.h"
 #include "platform/data_files.h"
@@ -26,6 +27,8 @@ struct BirthArguments {
     std::optional<std::string> namesFile;
     std::optional<std::string> name;  // of one record of the names file
     std::optional<PlaceRequest> place;
+    std::optional<std::string> at;      // a place of the atlas, with its zone in force
+    std::optional<double> zone;         // settles the zone of `at`
     std::optional<HouseSystem> houses;  // else those that the options name
     std::optional<Theory> theory;
     std::optional<std::string> appDirectory;
@@ -65,6 +68,10 @@ class EntryReceiver {
   public:
     virtual ~EntryReceiver() = default;
     virtual void Take(const NatalEntry& entry, const std::string& source) = 0;
+    // The same with what the atlas and the zone history know of it.
+    virtual void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth&) {
+        Take(entry, source);
+    }
     virtual void Refuse(const std::string& source, const std::string& fault) = 0;
     virtual bool WantsMore() const = 0;
 };

@@ -6,6 +6,7 @@
 
 #include "app/app_directory.h"
 #include "app/desktop_arguments.h"
+#include "app/own_atlas.h"
 #include "app/qt/desktop.h"
 #include "app/qt/file_dialogs.h"
 #include "app/qt/wheel_command_run.h"
@@ -37,6 +38,9 @@ int Run(const DesktopArguments& arguments) {
     ProgramState state;
     state.files = *files;
     state.order = HostDateTimeOrder();
+    // Without the delivered atlas the user is asked for another one.
+    const Path programDirectory = HintsOfProcess({}).programDirectory;
+    if (const auto atlas = PrepareOwnAtlas(files->directory(), programDirectory)) state.ownAtlas = *atlas;
     DesktopFileDialogs dialogs(files->directory());
     Desktop desktop(state, {messages, dialogs, PresentMoment});
     QObject::connect(&desktop, &Desktop::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);

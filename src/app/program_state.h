@@ -23,7 +23,8 @@ struct ProgramState {
     DateTimeOrder order;
     ScreenConstants screen;
     std::string titlePrefix{kStartTitlePrefix};
-    Method method;  // the ticked items
+    Method method;         // the ticked items
+    std::string ownAtlas;  // the directory of the delivered atlas, or empty
     NamesState names;
     CurrentChart chart;
     bool chartComputed = false;

@@ -10,7 +10,6 @@ namespace {
 
 constexpr double kDaysPerCentury = 36525.0;
 constexpr double kEpoch1900 = 2415020.0;     // JD of 1900 January 0.5
-constexpr int kFirstGregorianDay = 2299171;  // 15 October 1582, still counted in the Julian calendar
 
 double Fraction(double x) {
     return x - std::floor(x);
@@ -67,12 +66,6 @@ void SplitSiderealTime(TimeFrame& frame) {
 }
 
 }  // namespace
-
-double JulianDayNumberOf(int year, int month, int day) {
-    const int months = (year + 4800) * 12 + month - 3;
-    const int julian = (months * 365 + 2 * (months % 12) + 7) / 12 + day + months / 48 - 32083;
-    return julian < kFirstGregorianDay ? julian : julian + months / 4800 - months / 1200 + 38;
-}
 
 double MeanObliquity(double centuries) {
     const double t = centuries;

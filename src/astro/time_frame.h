@@ -4,6 +4,7 @@
 #include <string>
 
 #include "chart/natal_data.h"
+#include "text/dates.h"
 
 namespace tolvanis {
 
@@ -27,11 +28,6 @@ struct TimeFrame {
     int SiderealMinutes = 0;
     int SiderealSeconds = 0;
 };
-
-// The Julian day number (at noon) of a date: Gregorian from 15 October 1582 on, Julian before. Days beyond
-// the month's end run on into the next month. Source of the formula: the day count by months of 1461 / 48
-// days, with the century correction of the Gregorian rule. Months 1 to 12, years 100 to 2099.
-double JulianDayNumberOf(int year, int month, int day);
 
 // Mean obliquity of the ecliptic of date in degrees, from centuries since 1900 January 0.5 (Newcomb 1895).
 double MeanObliquity(double centuries);

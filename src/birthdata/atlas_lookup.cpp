@@ -2,15 +2,12 @@
 
 #include <vector>
 
+#include "birthdata/atlas_exchange.h"
 #include "text/columns.h"
 #include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
-
-constexpr std::string_view kProgram = "ATLAS.EXE";
-constexpr std::string_view kPathFile = "PCATPATH.TXT";
-constexpr std::string_view kExchangeFile = "TSRTEMP.TXT";
 
 // Far more than any coordinate needs; what a damaged file holds must not fill the screen.
 constexpr std::size_t kLongestCoordinate = 40;
@@ -38,11 +35,38 @@ std::optional<Coordinate> Split(std::string_view text, char positiveLetter, char
     return CoordinateOf(text.substr(0, letter), text.substr(letter + 1), isNegative);
 }
 
+// Whether a text is degrees up to `most`, one of two letters, and minutes.
+bool IsCoordinate(std::string_view text, std::string_view letters, int most) {
+    text = TrimBlanks(text);
+    const std::size_t letter = text.find_first_of(letters);
+    if (letter == std::string_view::npos) return false;
+    const auto isNumber = [](std::string_view part) {
+        return WholeNumber(part) &&
+               TrimBlanks(part).find_first_not_of("0123456789.") == std::string_view::npos;
+    };
+    const std::string_view degrees = text.substr(0, letter);
+    const std::string_view minutes = text.substr(letter + 1);
+    return isNumber(degrees) && isNumber(minutes) && LeadingNumber(degrees) <= most &&
+           LeadingNumber(minutes) < 60;
+}
+
+std::string LineFault(int number, const std::string& line, std::string_view what) {
+    return "line " + std::to_string(number) + " (\"" +
+           std::string(FirstCharacters(line, kLongestCoordinate)) + "\") is no " + std::string(what);
+}
+
 std::string CoordinateText(const std::string& line) {
     return std::string(FirstCharacters(TrimBlanks(line), kLongestCoordinate));
 }
 
 }  // namespace
+
+std::string AtlasLinesFault(std::span<const std::string> lines) {
+    if (!IsCoordinate(lines[1], "NS", 90)) return LineFault(2, lines[1], "latitude");
+    if (!IsCoordinate(lines[2], "WE", 180)) return LineFault(3, lines[2], "longitude");
+    if (!WholeNumber(lines[4])) return LineFault(5, lines[4], "time zone in hours");
+    return {};
+}
 
 Place PlaceOfAtlas(const AtlasResult& result) {
     return {Split(result.longitude, 'W', 'E'), Split(result.latitude, 'N', 'S'), NumberText(result.timeZone)};
@@ -62,7 +86,8 @@ std::optional<Place> AtlasLookup::LookUp(std::string& atlasDir) {
 
 bool AtlasLookup::RunAtlas(std::string& atlasDir) {
     while (true) {
-        const ProgramRun run = atlasDir.empty() ? ProgramRun::NotStarted : run_(FileIn(atlasDir, kProgram));
+        const ProgramRun run =
+            atlasDir.empty() ? ProgramRun::NotStarted : run_(FileIn(atlasDir, kAtlasProgram));
         if (run != ProgramRun::NotStarted) return run == ProgramRun::Ended;
         std::string answer =
             messages_.AskText("Where do I find ATLAS.EXE?",
@@ -76,15 +101,21 @@ bool AtlasLookup::RunAtlas(std::string& atlasDir) {
 
 std::optional<AtlasResult> AtlasLookup::ReadResult(const std::string& atlasDir) {
     const auto warn = [&](const std::string& text) { messages_.Tell("Warning!", text, MessageIcon::Stop); };
-    const auto path = FirstLines(FileIn(atlasDir, kPathFile), 1);
+    const auto path = FirstLines(FileIn(atlasDir, kAtlasPathFile), 1);
     if (!path) {
         warn("Cannot find the file called PCATPATH in the " + atlasDir + " directory.");
         return std::nullopt;
     }
     const std::string& workingDirectory = path->front();
-    const auto lines = FirstLines(FileIn(workingDirectory, kExchangeFile), 5);
+    const auto lines = FirstLines(FileIn(workingDirectory, kAtlasExchangeFile), 5);
+    const bool cancelled = !lines && !ownDirectory_.empty() && atlasDir == ownDirectory_;
+    if (cancelled) return std::nullopt;
     if (!lines) {
         warn("Cannot find the file called TSRTEMP.TXT in the " + workingDirectory + " directory.");
+        return std::nullopt;
+    }
+    if (const std::string fault = AtlasLinesFault(*lines); !fault.empty()) {
+        warn("The file TSRTEMP.TXT in the " + workingDirectory + " directory cannot be used: " + fault + ".");
         return std::nullopt;
     }
     return AtlasResult{CoordinateText((*lines)[2]), CoordinateText((*lines)[1]),

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "birthdata/place.h"
@@ -25,9 +26,16 @@ struct AtlasResult {
 // The place of a result. A coordinate that does not hold exactly one of its two letters is not known.
 Place PlaceOfAtlas(const AtlasResult& result);
 
+// What is wrong with the lines of an exchange file, as "line 2 ...", or an empty text. Latitude and longitude
+// are degrees, their letter and minutes within their ranges, the zone is a number.
+std::string AtlasLinesFault(std::span<const std::string> lines);
+
 class AtlasLookup {
   public:
-    AtlasLookup(RunProgram run, Messages& messages) : run_(std::move(run)), messages_(messages) {}
+    // In `ownDirectory`, that of the delivered atlas, a missing result means that its user has cancelled, and
+    // nothing is said of it.
+    AtlasLookup(RunProgram run, Messages& messages, std::string ownDirectory = {})
+        : run_(std::move(run)), messages_(messages), ownDirectory_(std::move(ownDirectory)) {}
 
     // Runs ATLAS.EXE of the atlas directory, asks for the directory when that cannot be started (`atlasDir`
     // then takes the answer, with a separator at its end), waits, reads what the atlas has left and shows it
@@ -41,6 +49,7 @@ class AtlasLookup {
 
     RunProgram run_;
     Messages& messages_;
+    std::string ownDirectory_;
     bool running_ = false;
 };
 

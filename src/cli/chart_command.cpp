@@ -2,6 +2,7 @@
 
 #include "app/command_data.h"
 #include "cli/chart_output.h"
+#include "cli/zone_check.h"
 #include "platform/clock.h"
 #include "platform/terminal.h"
 
@@ -21,23 +22,11 @@ class ChartPrinter : public EntryReceiver {
           errors_(errors),
           order_(HostDateTimeOrder()) {}
 
-    void Take(const NatalEntry& entry, const std::string& source) override {
-        const auto made = MakeChart(entry, method_, order_.iDate, options_);
-        if (!made) {
-            for (const std::string& detail : made.fault().Details()) Refuse(source, detail);
-            return;
-        }
-        const CurrentChart& chart = *made;
-        switch (format_) {
-            case OutputFormat::Text:
-                return Write(ChartAsText(chart, options_));
-            case OutputFormat::Json:
-                return Write(ChartAsJson(chart));
-            case OutputFormat::Ascii:
-                return Write(ChartAsAscii(chart));
-            case OutputFormat::Report:
-                return WriteReport(chart, source);
-        }
+    void Take(const NatalEntry& entry, const std::string& source) override { Print(entry, source, nullptr); }
+
+    void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth& placed) override {
+        if (!placed.note.empty()) TellOn(errors_, source + ": " + placed.note);
+        Print(entry, source, &placed);
     }
 
     void Refuse(const std::string& source, const std::string& fault) override {
@@ -52,6 +41,25 @@ class ChartPrinter : public EntryReceiver {
     void WriteReport(const CurrentChart& chart, const std::string& source) {
         const Result<std::string> report = ChartAsReport(chart, options_, files_);
         report ? Write(*report) : Refuse(source, report.message());
+    }
+
+    void Print(const NatalEntry& entry, const std::string& source, const PlacedBirth* placed) {
+        const auto made = MakeChart(entry, method_, order_.iDate, options_);
+        if (!made) {
+            for (const std::string& detail : made.fault().Details()) Refuse(source, detail);
+            return;
+        }
+        const CurrentChart& chart = *made;
+        switch (format_) {
+            case OutputFormat::Text:
+                return Write(ChartAsText(chart, options_));
+            case OutputFormat::Json:
+                return Write(ChartAsJson(chart, placed));
+            case OutputFormat::Ascii:
+                return Write(ChartAsAscii(chart));
+            case OutputFormat::Report:
+                return WriteReport(chart, source);
+        }
     }
 
     void Write(const std::string& text) {
@@ -81,6 +89,7 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
         TellOn(errors, data.message());
         return kSomethingRefused;
     }
+    if (request.checkZones) return CheckZones(request, *data, output, errors, clock);
     ChartPrinter printer(request, *data, output, errors);
     ReadBirths(request, data->options, data->files, clock, printer);
     return printer.status();

@@ -111,6 +111,25 @@ void WriteAspects(JsonWriter& json, const FoundAspects& aspects) {
     json.Close(']');
 }
 
+void WritePlaced(JsonWriter& json, const PlacedBirth& placed) {
+    const AtlasPlace& place = placed.place;
+    json.Member("zone", placed.zone);
+    json.Key("place");
+    json.Open('{');
+    json.Member("name", place.name);
+    json.Member("region", place.region);
+    json.Member("country", place.country);
+    json.Member("longitude", -place.place.degreesEast);
+    json.Member("latitude", place.place.degreesNorth);
+    json.Member("zoneName", place.place.zone);
+    json.Close('}');
+    if (placed.reading) {
+        json.Member("zoneKind", KindCode(placed.reading->kind));
+        json.Member("zoneGrade", GradeCode(placed.reading->grade));
+    }
+    json.Member("zoneRelease", placed.release);
+}
+
 }  // namespace
 
 std::string ChartAsText(const CurrentChart& chart, const Options& options) {
@@ -137,7 +156,7 @@ Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& opti
     return SavedReport(report, ReportPageFormOf(options), "\n");
 }
 
-std::string ChartAsJson(const CurrentChart& chart) {
+std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed) {
     const NatalData& natal = chart.natal;
     const ChartPositions& positions = chart.positions;
     JsonWriter json;
@@ -146,6 +165,7 @@ std::string ChartAsJson(const CurrentChart& chart) {
     json.Member("year", natal.Year);
     json.Member("month", natal.Month);
     json.Member("day", natal.Day);
+    if (placed != nullptr) WritePlaced(json, *placed);
     json.Member("houseSystem", HouseSystemCode(natal.HouseSystem));
     json.Member("theory", TheoryCode(positions.Theory));
     json.Member("julianDay", positions.JulianDay);

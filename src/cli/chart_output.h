@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "app/placed_birth.h"
 #include "astro/natal_chart.h"
 #include "platform/data_files.h"
 
@@ -19,7 +20,7 @@ std::string ChartAsAscii(const CurrentChart& chart);
 Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files);
 
 // One JSON object and a line end: the members that docs/file-formats.md names, numbers at full precision,
-// angles in degrees.
-std::string ChartAsJson(const CurrentChart& chart);
+// angles in degrees; with `placed` also what the atlas and the zone history know of the birth.
+std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed = nullptr);
 
 }  // namespace tolvanis

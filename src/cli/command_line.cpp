@@ -6,8 +6,9 @@ namespace tolvanis {
 
 const std::string_view kUsage =
     "Usage: tolvanis-chart [--now | --birth RECORD | --names FILE [--name NAME]]\n"
-    "                      [--place FILE:CITY] [--houses CODE] [--theory classic|modern]\n"
-    "                      [--format FORMAT] [--app-dir DIR] [--output FILE]\n"
+    "                      [--place FILE:CITY | --at PLACE [--zone HOURS]]\n"
+    "                      [--houses CODE] [--theory classic|modern] [--format FORMAT]\n"
+    "                      [--app-dir DIR] [--output FILE] [--check-zones]\n"
     "\n"
     "Computes natal charts and prints them.\n"
     "\n"
@@ -25,6 +26,12 @@ const std::string_view kUsage =
     "                   For --now, and for a --birth, where the place replaces the last\n"
     "                   three fields, which may be missing:\n"
     "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --place \"GA_MA.LL:Macon,GA\"\n"
+    "  --at PLACE       a place of the atlas with the zone in force there at that time;\n"
+    "                   \"city\", \"city, region\", \"city, country\" or all three:\n"
+    "                   --birth \"Ann Smith,22 Sep 1949,9.05,A\" --at \"Atlanta, GA\"\n"
+    "  --zone HOURS     settles the zone where a time came twice or did not exist\n"
+    "  --check-zones    with --names: list every record whose zone is not the one in\n"
+    "                   force at its place; 1 is the exit status when there are any\n"
     "  --houses CODE    P Placidus, R Regiomontanus, K Koch, C Campanus, O Porphyry,\n"
     "                   EA Equal - Ascendant, EM Equal - MC, M Meridian, I Morinus\n"
     "  --theory NAME    classic, the theory of the program, or modern: positions that agree\n"
@@ -64,6 +71,10 @@ Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {
     const Result<bool> taken = TakeBirthArgument(reader, request);
     if (!taken) return taken.fault();
     if (*taken) return {};
+    if (reader.Is("--check-zones")) {
+        request.checkZones = true;
+        return {};
+    }
     if (reader.name() != "--format" && reader.name() != "--output") return reader.Unknown();
     const Result<std::string> value = reader.Value();
     if (!value) return value.fault();
@@ -83,6 +94,7 @@ Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> argument
         if (const Result<void> taken = TakeArgument(reader, request); !taken) return taken.fault();
     }
     if (const Result<void> together = CheckBirthArguments(request); !together) return together.fault();
+    if (request.checkZones && !request.namesFile) return Fault{"--check-zones needs --names"};
     return request;
 }
 

@@ -13,6 +13,8 @@ constexpr std::array<std::string_view, 12> kMonths = {"January",   "February", "
                                                       "May",       "June",     "July",     "August",
                                                       "September", "October",  "November", "December"};
 
+constexpr int kFirstGregorianDay = 2299171;  // 15 October 1582, still counted in the Julian calendar
+
 std::vector<std::string_view> SplitParts(std::string_view text) {
     constexpr std::string_view kSeparators = " \t-/.";
     std::vector<std::string_view> parts;
@@ -27,11 +29,7 @@ std::vector<std::string_view> SplitParts(std::string_view text) {
 }
 
 std::optional<int> MonthNumber(std::string_view name) {
-    if (name.size() < 3) return std::nullopt;
-    for (std::size_t i = 0; i < kMonths.size(); ++i) {
-        if (StartsWithIgnoringAsciiCase(kMonths[i], name)) return static_cast<int>(i) + 1;
-    }
-    return std::nullopt;
+    return name.size() < 3 ? std::nullopt : MonthOfAbbreviation(name);
 }
 
 std::optional<int> Digits(std::string_view text) {
@@ -50,6 +48,13 @@ std::string_view MonthAbbreviation(int month) {
     return month >= 1 && month <= 12 ? kMonths[static_cast<std::size_t>(month) - 1].substr(0, 3) : "???";
 }
 
+std::optional<int> MonthOfAbbreviation(std::string_view text) {
+    for (std::size_t i = 0; i < kMonths.size(); ++i) {
+        if (StartsWithIgnoringAsciiCase(kMonths[i], text)) return static_cast<int>(i) + 1;
+    }
+    return std::nullopt;
+}
+
 std::string FormatDate(const CalendarDate& date) {
     std::string year = std::to_string(date.year);
     if (year.size() < 4) year.insert(0, 4 - year.size(), '0');
@@ -65,6 +70,22 @@ std::optional<CalendarDate> ParseDate(std::string_view text) {
     const auto day = Digits(parts[yearFirst ? 2 : 0]);
     if (!month || !year || !day || *day < 1 || *day > 31) return std::nullopt;
     return CalendarDate{*year, *month, *day};
+}
+
+int JulianDayNumberOf(int year, int month, int day) {
+    const int months = (year + 4800) * 12 + month - 3;
+    const int julian = (months * 365 + 2 * (months % 12) + 7) / 12 + day + months / 48 - 32083;
+    return julian < kFirstGregorianDay ? julian : julian + months / 4800 - months / 1200 + 38;
+}
+
+// E. G. Richards, Calendars, in: Explanatory Supplement to the Astronomical Almanac, 3rd ed., section 15.11.
+CalendarDate DateOfJulianDayNumber(int number) {
+    constexpr int kGregorianReform = 2299161;
+    const int century = number >= kGregorianReform ? (4 * number + 274277) / 146097 * 3 / 4 - 38 : 0;
+    const int e = 4 * (number + 1401 + century) + 3;
+    const int h = 5 * (e % 1461 / 4) + 2;
+    const int month = (h / 153 + 2) % 12 + 1;
+    return {e / 1461 - 4716 + (14 - month) / 12, month, h % 153 / 5 + 1};
 }
 
 std::string JoinDate(std::string_view year, std::string_view month, std::string_view day, int iDate) {

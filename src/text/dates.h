@@ -19,6 +19,9 @@ struct CalendarDate {
 // "Jan" to "Dec" for 1 to 12, "???" for any other month.
 std::string_view MonthAbbreviation(int month);
 
+// The month whose English name begins with this text, of several the first; letter case does not matter.
+std::optional<int> MonthOfAbbreviation(std::string_view text);
+
 // The form "dd mmm yyyy": 05 Jan 0277.
 std::string FormatDate(const CalendarDate& date);
 
@@ -26,6 +29,14 @@ std::string FormatDate(const CalendarDate& date);
 // month may be written out; letter case does not matter. The year is the part of more than two digits, or
 // the last one. Nothing for any other text, a day outside 1 to 31 or a year of more than four digits.
 std::optional<CalendarDate> ParseDate(std::string_view text);
+
+// The Julian day number (at noon) of a date: Gregorian from 15 October 1582 on, Julian before. Days beyond
+// the month's end run on into the next month. Source of the formula: the day count by months of 1461 / 48
+// days, with the century correction of the Gregorian rule. Months 1 to 12, years 100 to 2100.
+int JulianDayNumberOf(int year, int month, int day);
+
+// The date of a Julian day number, in the same calendars.
+CalendarDate DateOfJulianDayNumber(int number);
 
 // How the system orders the parts of a date and shows the time.
 struct DateTimeOrder {

@@ -56,6 +56,16 @@ std::string FirstField(std::string_view line) {
     return TakeField(line);
 }
 
+std::vector<std::string> SplitAt(std::string_view text, char separator) {
+    std::vector<std::string> parts;
+    while (true) {
+        const std::size_t end = text.find(separator);
+        parts.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos) return parts;
+        text.remove_prefix(end + 1);
+    }
+}
+
 std::string QuotedWhereNeeded(const std::string& field) {
     const std::vector<std::string> readBack = SplitFields(field);
     if (readBack.size() == 1 && readBack.front() == field) return field;

@@ -16,6 +16,9 @@ std::vector<std::string> SplitFields(std::string_view line);
 // The first of them.
 std::string FirstField(std::string_view line);
 
+// The parts of a text between separators, empty ones included.
+std::vector<std::string> SplitAt(std::string_view text, char separator);
+
 // The field, put in quotes when it would not read back as it stands.
 std::string QuotedWhereNeeded(const std::string& field);
 

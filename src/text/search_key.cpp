@@ -1,5 +1,8 @@
 #include "text/search_key.h"
 
+#include <algorithm>
+#include <array>
+
 #include "text/columns.h"
 
 namespace tolvanis {
@@ -44,12 +47,17 @@ bool IsDropped(char32_t code) {
 }
 
 bool IsSeparator(char32_t code) {
-    if (code < 0x80) {
-        return !((code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z') ||
-                 (code >= 'a' && code <= 'z'));
-    }
     return code < 0xC0 || code == 0xD7 || code == 0xF7 || (code >= 0x2000 && code <= 0x206F);
 }
+
+// The letters and digits of ASCII in upper case, 0 for its other characters.
+constexpr std::array<char, 128> MakePlainLetters() {
+    std::array<char, 128> letters{};
+    for (std::size_t c = '0'; c <= '9'; ++c) letters[c] = static_cast<char>(c);
+    for (std::size_t c = 'A'; c <= 'Z'; ++c) letters[c] = letters[c + 32] = static_cast<char>(c);
+    return letters;
+}
+constexpr std::array<char, 128> kPlainLetters = MakePlainLetters();
 
 // Takes one character off the text; a byte that begins none is taken alone.
 std::string_view TakeCharacter(std::string_view& text, char32_t& code) {
@@ -64,10 +72,6 @@ std::string_view TakeCharacter(std::string_view& text, char32_t& code) {
 }
 
 void AppendPlain(std::string& key, char32_t code, std::string_view character) {
-    if (code < 0x80) {
-        key += code >= 'a' ? static_cast<char>(code - 32) : static_cast<char>(code);
-        return;
-    }
     for (const Block& block : kBlocks) {
         if (code < block.first || code - block.first >= block.letters.size()) continue;
         const char letter = block.letters[code - block.first];
@@ -85,13 +89,50 @@ void AppendPlain(std::string& key, char32_t code, std::string_view character) {
     key += UpperCase(character);
 }
 
+// The key with a word exchanged for another wherever it stands.
+std::string WithWord(const std::string& key, std::string_view word, std::string_view other) {
+    std::string made = " " + key + " ";
+    const std::string from = " " + std::string(word) + " ";
+    for (std::size_t at = 0; (at = made.find(from, at)) != std::string::npos; ++at) {
+        made.replace(at + 1, word.size(), other);
+    }
+    return made.substr(1, made.size() - 2);
+}
+
+std::string WithoutUmlauts(std::string key) {
+    for (std::size_t at = 0; at + 1 < key.size(); ++at) {
+        const bool first = key[at] == 'A' || key[at] == 'O' || key[at] == 'U';
+        if (first && key[at + 1] == 'E') key.erase(at + 1, 1);
+    }
+    return key;
+}
+
 }  // namespace
+
+std::vector<std::string> KeySpellings(const std::string& key) {
+    std::vector<std::string> spellings = {key};
+    for (std::string other :
+         {WithWord(key, "SAINT", "ST"), WithWord(key, "ST", "SAINT"), WithWord(key, "SAINTE", "STE"),
+          WithWord(key, "STE", "SAINTE"), WithoutUmlauts(key)}) {
+        if (std::ranges::find(spellings, other) == spellings.end()) spellings.push_back(std::move(other));
+    }
+    return spellings;
+}
 
 std::string SearchKey(std::string_view text) {
     std::string key;
     key.reserve(text.size());
     bool separated = false;
     while (!text.empty()) {
+        // Nearly all characters are plain letters.
+        const auto byte = static_cast<unsigned char>(text.front());
+        if (byte < kPlainLetters.size() && kPlainLetters[byte] != 0) {
+            if (separated && !key.empty()) key += ' ';
+            separated = false;
+            key += kPlainLetters[byte];
+            text.remove_prefix(1);
+            continue;
+        }
         char32_t code = 0;
         const std::string_view character = TakeCharacter(text, code);
         if (IsDropped(code)) continue;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tolvanis {
 
@@ -10,5 +11,9 @@ namespace tolvanis {
 // for two), apostrophes and full stops dropped, and any other run of punctuation and blanks as one blank,
 // none at either end: "Saint-Étienne" and "saint etienne" both give "SAINT ETIENNE".
 std::string SearchKey(std::string_view text);
+
+// The key and the other spellings under which the same place may be listed: ST for SAINT and the reverse, STE
+// for SAINTE, and A, O and U for AE, OE and UE.
+std::vector<std::string> KeySpellings(const std::string& key);
 
 }  // namespace tolvanis

@@ -109,13 +109,29 @@ TEST_F(AtlasTest, TellsWhichFileIsMissing) {
     }
 }
 
-TEST_F(AtlasTest, ShowsOnlyTheStartOfRubbish) {
-    Leave("x\n" + std::string(100'000, '7') + "\n\x01\x02\n\n1e999\n");
-    messages.answers = {Answer::Yes};
-    const auto place = AtlasLookup(run, messages).LookUp(atlasDir);
-    ASSERT_TRUE(place);
-    EXPECT_FALSE(place->longitude || place->latitude);
-    EXPECT_LT(messages.told.at(0).text.size(), 200U);
+TEST_F(AtlasTest, RefusesAnUnreadableLineAndNamesIt) {
+    const struct {
+        std::string lines, named;
+    } cases[] = {{"47N36\n" + std::string(100'000, '7') + "\n\n8\n", "line 3"},
+                 {"\x01\n122W20\n\n8\n", "line 2"},
+                 {"91N00\n122W20\n\n8\n", "line 2"},
+                 {"47N60\n122W20\n\n8\n", "line 2"},
+                 {"47N36\n12W2E0\n\n8\n", "line 3"},
+                 {"47N36\n122W20\n\neight\n", "line 5"}};
+    for (const auto& test : cases) {
+        Leave("x\n" + test.lines);
+        messages.told.clear();
+        EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir)) << test.named;
+        ASSERT_EQ(messages.told.size(), 1U);
+        EXPECT_NE(messages.told[0].text.find("TSRTEMP.TXT"), std::string::npos);
+        EXPECT_NE(messages.told[0].text.find(test.named), std::string::npos) << messages.told[0].text;
+        EXPECT_LT(messages.told[0].text.size(), 300U) << "only the start of rubbish is shown";
+    }
+}
+
+TEST_F(AtlasTest, SaysNothingWhereTheOwnAtlasWasCancelled) {
+    EXPECT_FALSE(AtlasLookup(run, messages, atlasDir).LookUp(atlasDir));
+    EXPECT_TRUE(messages.told.empty());
 }
 
 }  // namespace

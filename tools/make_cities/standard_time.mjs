@@ -1,46 +1,43 @@
-// Standard time of an IANA zone, in hours positive WEST of Greenwich,
-// as in force in the reference year.
+// Standard time of a zone, in hours positive WEST of Greenwich, as in force in the reference year, from the
+// same rules that data/ZONES.DAT holds.
+
+import { readFileSync } from 'node:fs';
 
 const kReferenceYear = 2025;
 
-// Zones whose standard time is the later of their two offsets: Morocco and
-// Western Sahara keep +1 and go back an hour for Ramadan. (Ireland calls
-// winter time the exception; as everywhere else, winter time counts here.)
-const kStandardIsLater = new Set(['Africa/Casablanca', 'Africa/El_Aaiun']);
+// Ireland calls winter time the exception; as everywhere else, winter time counts here. Xinjiang stands at its
+// legal time, that of Beijing.
+const kHoursEast = { 'Europe/Dublin': 0, 'Asia/Urumqi': 8, 'Asia/Kashgar': 8 };
 
-function offsetMinutesEast(formatter, date) {
-  const part = formatter
-    .formatToParts(date)
-    .find(({ type }) => type === 'timeZoneName').value;
-  if (part === 'GMT') return 0;
-  const match = /^GMT([+-])(\d\d):(\d\d)$/.exec(part);
-  if (!match) throw new Error(`cannot read the offset "${part}"`);
-  const minutes = Number(match[2]) * 60 + Number(match[3]);
-  return match[1] === '-' ? -minutes : minutes;
+function hoursOf(text) {
+  const [, sign, hours, minutes = '0', seconds = '0'] = /^(-?)(\d+)(?::(\d+))?(?::(\d+))?$/.exec(text);
+  const value = Number(hours) + Number(minutes) / 60 + Number(seconds) / 3600;
+  return sign ? -value : value;
 }
 
-function standardMinutesEast(zone) {
-  const formatter = new Intl.DateTimeFormat('en-US', {
-    timeZone: zone,
-    timeZoneName: 'longOffset',
-  });
-  const offsets = [];
-  for (let day = 1; day <= 365; day += 5) {
-    const date = new Date(Date.UTC(kReferenceYear, 0, day, 12));
-    offsets.push(offsetMinutesEast(formatter, date));
+// The hours east of every zone's last era that begins in the reference year or before.
+function readZones() {
+  const source = new URL('../make_zones/tzdata_complete.zi', import.meta.url);
+  const east = new Map();
+  const links = new Map();
+  let zone = null;
+  for (const line of readFileSync(source, 'utf8').split('\n')) {
+    const words = line.split(' ');
+    if (words[0] === 'L') links.set(words[2], words[1]);
+    if ('RL#'.includes(words[0][0] ?? '#')) continue;
+    if (words[0] === 'Z') zone = words[1];
+    const [standard, , , until] = words[0] === 'Z' ? words.slice(2) : words;
+    if (!east.has(zone) && (!until || Number(until) > kReferenceYear)) east.set(zone, hoursOf(standard));
   }
-  return kStandardIsLater.has(zone) ? Math.max(...offsets) : Math.min(...offsets);
+  for (const [other, name] of links) east.set(other, east.get(name));
+  return east;
 }
 
-const known = new Map();
+const zones = readZones();
 
-// Hours west of the zone's standard time; throws when they are no whole
-// quarters of an hour or the zone is unknown.
+// Throws when the hours are no whole quarters or the zone is unknown.
 export function standardHoursWest(zone) {
-  if (!known.has(zone)) {
-    const hours = -standardMinutesEast(zone) / 60 || 0;
-    if (!Number.isInteger(hours * 4)) throw new Error(`odd offset in ${zone}`);
-    known.set(zone, hours);
-  }
-  return known.get(zone);
+  const hours = -(kHoursEast[zone] ?? zones.get(zone)) || 0;
+  if (!Number.isInteger(hours * 4)) throw new Error(`odd offset in ${zone}`);
+  return hours;
 }

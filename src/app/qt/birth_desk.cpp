@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <limits>
 
+#include "birthdata/atlas_exchange.h"
 #include "platform/qt/external_program.h"
 
 namespace tolvanis {
 namespace {
 
-constexpr int kGap = 10;          // pixels between neighbouring windows
+constexpr int kGap = 10;  // pixels between neighbouring windows
+constexpr int kNoZoneAdviceOption = 166;
 constexpr int kListLetters = 46;  // width of a list window with its frame
 
 // Windows close inside their own signals, so they are deleted later.
@@ -36,9 +38,14 @@ BirthDesk::BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialo
     : state_(state),
       messages_(messages),
       dialogs_(dialogs),
-      atlas_(RunAndWait, messages),
-      input_(std::make_unique<InputD>(state.options, messages, clock)) {
+      input_(std::make_unique<InputD>(state.options, messages, clock)),
+      atlas_(
+          [this](const Path& program) {
+              return RunAndWait(program, AtlasEnvironment(input_->Entry(), state_.files.directory()));
+          },
+          messages, state.ownAtlas) {
     ConnectInput();
+    input_->SetAdviser([this](const NatalEntry& entry) { return Advise(entry); });
 }
 
 BirthDesk::~BirthDesk() {
@@ -174,6 +181,13 @@ void BirthDesk::SaveEntry() {
 
 void BirthDesk::LookUpInAtlas() {
     if (const auto place = atlas_.LookUp(state_.settings.AtlasDir)) FillInPlace(*place);
+}
+
+// Advice is an extra: without its files there is none.
+ZoneAdvice BirthDesk::Advise(const NatalEntry& entry) {
+    if (state_.options[kNoZoneAdviceOption] != 0.0F) return {};
+    if (!zoneBook_) zoneBook_ = ZoneBook::Open(state_.files);
+    return *zoneBook_ ? AdviseZone(**zoneBook_, entry) : ZoneAdvice{};
 }
 
 void BirthDesk::FillInPlace(const Place& place) {

@@ -14,6 +14,7 @@
 #include "birthdata/qt/names_window.h"
 #include "birthdata/qt/natal_input_window.h"
 #include "birthdata/qt/time_zone_window.h"
+#include "birthdata/zone_advice.h"
 #include "platform/file_dialogs.h"
 #include "platform/messages.h"
 #include "platform/qt/placement.h"
@@ -60,6 +61,7 @@ class BirthDesk : public QObject {
     void ConnectInput();
     void SaveEntry();
     void LookUpInAtlas();
+    ZoneAdvice Advise(const NatalEntry& entry);
     void FillInPlace(const Place& place);
     void ChangeNamesList();
     void ChangeCitiesList();
@@ -71,10 +73,11 @@ class BirthDesk : public QObject {
     ProgramState& state_;
     Messages& messages_;
     FileDialogs& dialogs_;
-    AtlasLookup atlas_;
     std::unique_ptr<InputD> input_;
-    QPoint firstPlace_;    // where the natal input has been put first
-    KeptPlace listPlace_;  // of names and cities, which take turns
+    AtlasLookup atlas_;
+    std::optional<Result<ZoneBook>> zoneBook_;  // opened at the first advice
+    QPoint firstPlace_;                         // where the natal input has been put first
+    KeptPlace listPlace_;                       // of names and cities, which take turns
     KeptPlace zonesPlace_;
     QPointer<Names> names_;
     QPointer<Geograph> cities_;

@@ -9,6 +9,7 @@
 #include "app/chart_driver.h"
 #include "app/clock_caption.h"
 #include "app/options_file.h"
+#include "app/own_atlas.h"
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
@@ -51,6 +52,7 @@ bool Desktop::Start() {
     if (state_.options[kTitleOption] != 0.0F) ShowTitle();
     const Hourglass hourglass;
     state_.settings = ReadSettings(state_.files.directory());
+    state_.settings.AtlasDir = AtlasDirectoryOf(state_.settings.AtlasDir, state_.ownAtlas);
     MeasureScreen();
     state_.method = MethodOfOptions(state_.options);
     MakeWindows();

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "platform/qt/bevel_frame.h"
 #include "platform/qt/entry_box.h"
@@ -15,6 +16,7 @@ namespace tolvanis {
 namespace {
 
 constexpr const char* kDigits = "0123456789";
+constexpr int kAdviceDelay = 120;  // milliseconds after the last key
 constexpr const char* kZoneCharacters = "0123456789.-";
 
 }  // namespace
@@ -25,6 +27,7 @@ InputD::InputD(const Options& options, Messages& messages, Clock clock)
     setWindowTitle(QStringLiteral("Natal Input Data"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(MakeEntryFrame());
+    layout->addLayout(MakeAdviceRow());
     layout->addStretch();
     layout->addLayout(MakeButtonRow());
     cmdOK_->setDefault(true);  // Enter in a box or on an option
@@ -65,6 +68,65 @@ QWidget* InputD::MakeEntryFrame() {
     AddPair(*grid, 5, "No/So", optNorth_, "optNorth", "North", optSouth_, "optSouth", "South");
     grid->setColumnStretch(5, 1);
     return frame;
+}
+
+// The advice has its room from the start, so that nothing moves when it comes and goes.
+QHBoxLayout* InputD::MakeAdviceRow() {
+    lblAdvice_ = new QLabel;
+    lblAdvice_->setObjectName(QStringLiteral("lblAdvice"));
+    lblAdvice_->setAccessibleName(QStringLiteral("Time zone advice"));
+    lblAdvice_->setWordWrap(true);
+    lblAdvice_->setTextFormat(Qt::PlainText);
+    lblAdvice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblAdvice_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblAdvice_->setMinimumHeight(3 * fontMetrics().lineSpacing());
+    lblAdvice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    cmdTakeZone_ = MakeButton("cmdTakeZone", "Take zone", &InputD::cmdTakeZone_Click);
+    QSizePolicy keepsRoom = cmdTakeZone_->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    cmdTakeZone_->setSizePolicy(keepsRoom);
+    cmdTakeZone_->hide();
+    adviceTimer_ = new QTimer(this);
+    adviceTimer_->setSingleShot(true);
+    adviceTimer_->setInterval(kAdviceDelay);
+    connect(adviceTimer_, &QTimer::timeout, this, &InputD::UpdateAdvice);
+    const auto later = [this] { adviceTimer_->start(); };
+    for (EntryBox* box : {txtMonth_, txtDay_, txtYear_, txtBirthHour_, txtBirthMinute_, txtTZ_, txtLongDeg_,
+                          txtLongMin_, txtLatDeg_, txtLatMin_}) {
+        connect(box, &QLineEdit::textChanged, this, later);
+    }
+    for (QRadioButton* option : {optPM_, optEast_, optSouth_}) {
+        connect(option, &QRadioButton::toggled, this, later);
+    }
+    auto* row = new QHBoxLayout;
+    row->addWidget(lblAdvice_, 1);
+    row->addWidget(cmdTakeZone_, 0, Qt::AlignTop);
+    return row;
+}
+
+void InputD::SetAdviser(Adviser adviser) {
+    adviser_ = std::move(adviser);
+    adviceTimer_->start();
+}
+
+void InputD::UpdateAdvice() {
+    if (!adviser_ || !isVisible()) return;
+    const ZoneAdvice advice = adviser_(Entry());
+    lblAdvice_->setText(ToQt(advice.text));
+    lblAdvice_->setToolTip(ToQt(advice.text));
+    lblAdvice_->setAccessibleDescription(ToQt(advice.text));
+    cmdTakeZone_->setProperty("zone", ToQt(advice.zone));
+    cmdTakeZone_->setVisible(!advice.zone.empty());
+    const std::string caption = "Take zone " + advice.zone;
+    cmdTakeZone_->setText(ToQt(caption));
+    cmdTakeZone_->setAccessibleName(ToQt(caption));
+    cmdTakeZone_->setAccessibleDescription(ToQt(advice.text));
+}
+
+void InputD::cmdTakeZone_Click() {
+    txtTZ_->Fill(cmdTakeZone_->property("zone").toString());
+    UpdateAdvice();
+    txtTZ_->setFocus();
 }
 
 QHBoxLayout* InputD::MakeButtonRow() {
@@ -126,7 +188,7 @@ void InputD::SetTabOrder() {
     QWidget* const order[] = {txtName_, txtMonth_,  txtDay_,    txtYear_,    txtBirthHour_, txtBirthMinute_,
                               optAM_,   optPM_,     txtTZ_,     txtLongDeg_, txtLongMin_,   optEast_,
                               optWest_, txtLatDeg_, txtLatMin_, optNorth_,   optSouth_,     cmdNow_,
-                              cmdOK_,   cmdSave_,   Label1_,    Label2_};
+                              cmdOK_,   cmdSave_,   Label1_,    Label2_,     cmdTakeZone_};
     for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -258,6 +320,11 @@ void InputD::txtBirthHour_Change() {
 
 void InputD::reject() {
     Q_EMIT mainWindowRequested();  // Esc
+}
+
+void InputD::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    adviceTimer_->start();
 }
 
 void InputD::mouseReleaseEvent(QMouseEvent* event) {

@@ -5,13 +5,16 @@
 #include <functional>
 
 #include "birthdata/natal_entry.h"
+#include "birthdata/zone_advice.h"
 #include "platform/messages.h"
 
 class QAbstractButton;
 class QGridLayout;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QRadioButton;
+class QTimer;
 
 namespace tolvanis {
 
@@ -39,6 +42,10 @@ class InputD : public QDialog {
 
     void FocusField(EntryField field);
 
+    // Gives the line below the boxes its text: asked a moment after the last change of a box.
+    using Adviser = std::function<ZoneAdvice(const NatalEntry&)>;
+    void SetAdviser(Adviser adviser);
+
   Q_SIGNALS:
     void computeRequested();
     void saveRequested();
@@ -60,6 +67,7 @@ class InputD : public QDialog {
     void reject() override;
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -73,6 +81,9 @@ class InputD : public QDialog {
     QPushButton* MakeButton(const char* name, const char* caption, void (InputD::*handler)());
     QWidget* MakeEntryFrame();
     QHBoxLayout* MakeButtonRow();
+    QHBoxLayout* MakeAdviceRow();
+    void UpdateAdvice();
+    void cmdTakeZone_Click();
     void SetTabOrder();
     EntryBox* BoxOf(EntryField field) const;
 
@@ -83,6 +94,10 @@ class InputD : public QDialog {
     EntryBox *txtName_, *txtMonth_, *txtDay_, *txtYear_, *txtBirthHour_, *txtBirthMinute_, *txtTZ_;
     EntryBox *txtLongDeg_, *txtLongMin_, *txtLatDeg_, *txtLatMin_;
     QRadioButton *optAM_, *optPM_, *optEast_, *optWest_, *optNorth_, *optSouth_;
+    Adviser adviser_;
+    QTimer* adviceTimer_ = nullptr;
+    QLabel* lblAdvice_ = nullptr;
+    QPushButton* cmdTakeZone_ = nullptr;
     QPushButton *cmdNow_, *cmdOK_, *cmdSave_, *Label1_, *Label2_;
 };
 

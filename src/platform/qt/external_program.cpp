@@ -3,18 +3,22 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <memory>
 
 #include "platform/qt/text.h"
 
 namespace tolvanis {
 
-ProgramRun RunAndWait(const Path& program) {
+ProgramRun RunAndWait(const Path& program, const std::vector<std::pair<std::string, std::string>>& more) {
     auto process = std::make_unique<QProcess>();
     QEventLoop loop;
     QObject::connect(process.get(), &QProcess::finished, &loop, &QEventLoop::quit);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &loop, &QEventLoop::quit);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& [name, value] : more) environment.insert(ToQt(name), ToQt(value));
+    process->setProcessEnvironment(environment);
     const Path absolute = AbsolutePath(program);  // it starts in its own directory
     process->setWorkingDirectory(ToQt(absolute.parent_path().string()));
     process->start(ToQt(absolute.string()), QStringList());

@@ -1,6 +1,10 @@
 #pragma once
 // Another program, started and waited for.
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "platform/external_program.h"
 #include "platform/files.h"
 
@@ -8,7 +12,7 @@ namespace tolvanis {
 
 // Starts a program in its own directory and waits until it has ended, handling the windows' events meanwhile.
 // A file that is missing or not executable is not started. When this program ends first, the other one goes
-// on by itself.
-ProgramRun RunAndWait(const Path& program);
+// on by itself. The program gets this one's environment with `more` variables set in it.
+ProgramRun RunAndWait(const Path& program, const std::vector<std::pair<std::string, std::string>>& more = {});
 
 }  // namespace tolvanis

@@ -1,0 +1,63 @@
+// The delivered atlas program. It is started as another one would be, as ATLAS.EXE in its own directory, and
+// leaves its result in the working directory that PCATPATH.TXT names.
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+
+#include "app/app_directory.h"
+#include "app/exit_status.h"
+#include "birthdata/atlas_exchange.h"
+#include "birthdata/qt/atlas_window.h"
+#include "platform/qt/text.h"
+
+using namespace tolvanis;
+
+namespace {
+
+constexpr const char* kUsage =
+    "Usage: tolvanis-atlas\n"
+    "\n"
+    "Finds a place and the time zone in force there. Started by \"ACS Atlas\" of TOLVANIS,\n"
+    "it hands both over in the file TSRTEMP.TXT.\n";
+
+int Fail(const std::string& message) {
+    QMessageBox::critical(nullptr, QStringLiteral("Error!"), ToQt(message));
+    return EXIT_FAILURE;
+}
+
+// The exchange file in the directory that PCATPATH.TXT of the present directory names, or in that itself.
+Path ExchangeFile() {
+    LineReader reader(kAtlasPathFile);
+    std::string directory;
+    if (!reader.Next(directory)) directory = ".";
+    return FindFile(PathFromText(directory), kAtlasExchangeFile);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1) {
+        const std::string_view argument = argv[1];
+        const bool help = argument == "--help" || argument == "-h";
+        std::fputs(kUsage, help ? stdout : stderr);
+        return help ? EXIT_SUCCESS : kWrongUsage;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tolvanis-atlas"));
+    QApplication::setApplicationVersion(QStringLiteral(TOLVANIS_VERSION));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tolvanis.svg")));
+    const Path exchangeFile = ExchangeFile();
+    std::error_code error;
+    std::filesystem::remove(exchangeFile, error);  // a cancelled look-up must not offer the last place
+    const Result<DataFiles> files = ApplicationDirectory(HintsOfProcess({}), FirstStart::LeaveAsIs);
+    if (!files) return Fail(files.message());
+    const Result<ZoneBook> book = ZoneBook::Open(*files);
+    if (!book) return Fail(book.message());
+    const char* birth = std::getenv(kAtlasBirthVariable);
+    AtlasWindow window(*book, BirthOfEnvironment(birth != nullptr ? birth : ""), exchangeFile);
+    window.show();
+    return QApplication::exec();
+}

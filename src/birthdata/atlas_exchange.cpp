@@ -1,0 +1,44 @@
+#include "birthdata/atlas_exchange.h"
+
+#include <cmath>
+
+#include "text/fields.h"
+#include "text/numbers.h"
+
+namespace tolvanis {
+namespace {
+
+constexpr std::string NatalEntry::*kBoxes[] = {&NatalEntry::year, &NatalEntry::month, &NatalEntry::day,
+                                               &NatalEntry::birthHour, &NatalEntry::birthMinute};
+
+std::string CoordinateText(const Coordinate& coordinate, std::string_view letters) {
+    const int minutes = RoundToInt16(LeadingNumber(coordinate.minutes));
+    return coordinate.degrees + letters[coordinate.negative ? 1 : 0] + TwoDigits(minutes);
+}
+
+}  // namespace
+
+Environment AtlasEnvironment(const NatalEntry& entry, const Path& appDirectory) {
+    std::string birth;
+    for (const auto box : kBoxes) birth += entry.*box + " ";
+    birth += entry.pm ? 'P' : 'A';
+    return {{kAtlasBirthVariable, birth}, {kAtlasDataVariable, appDirectory.string()}};
+}
+
+NatalEntry BirthOfEnvironment(std::string_view value) {
+    NatalEntry entry;
+    const std::vector<std::string> parts = SplitAt(value, ' ');
+    if (parts.size() != std::size(kBoxes) + 1) return entry;
+    for (std::size_t i = 0; i < std::size(kBoxes); ++i) entry.*kBoxes[i] = parts[i];
+    entry.pm = parts.back() == "P";
+    return entry;
+}
+
+std::string ExchangeText(const AtlasPlace& place, int offset) {
+    const double hours = EntryZoneOf(offset, place.place.degreesEast).hours;
+    return place.FullName() + "\r\n" + CoordinateText(place.Latitude(), "NS") + "\r\n" +
+           CoordinateText(place.Longitude(), "WE") + "\r\n\r\n" +
+           ZoneHoursText(static_cast<int>(std::lround(-hours * 3600.0))) + "\r\n";
+}
+
+}  // namespace tolvanis

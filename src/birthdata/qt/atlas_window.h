@@ -1,0 +1,54 @@
+#pragma once
+// The window of the delivered atlas: a place is searched, the zone in force is shown, OK leaves both in the
+// exchange file.
+
+#include <QDialog>
+
+#include "birthdata/atlas_exchange.h"
+
+class QButtonGroup;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+class QTreeWidget;
+class QVBoxLayout;
+
+namespace tolvanis {
+
+class EntryBox;
+
+class AtlasWindow : public QDialog {
+    Q_OBJECT
+
+  public:
+    // `birth` gives date and time, as far as they are known. OK writes `exchangeFile`.
+    AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile);
+
+  public Q_SLOTS:
+    void txtSearch_Change();
+    void cmdOK_Click();
+
+  private:
+    QWidget* MakeBirthRow(const NatalEntry& birth);
+    QWidget* MakeReadings();
+    void ShowReadings();
+    void ShowReading(std::size_t index, const ZoneReading& reading, bool withClock);
+    void UpdateOK();
+    const ZoneReading* Chosen() const;
+    NatalEntry Birth() const;
+    std::string Advice(const EntryReadings& found) const;
+
+    const ZoneBook& book_;
+    Path exchangeFile_;
+    std::optional<EntryReadings> found_;
+    EntryBox *txtSearch_, *txtMonth_, *txtDay_, *txtYear_, *txtBirthHour_, *txtBirthMinute_;
+    QRadioButton *optAM_, *optPM_;
+    QTreeWidget* lstPlaces_;
+    QLabel* lblAnswer_;
+    QLabel* lblGrade_;
+    QButtonGroup* choices_;
+    QRadioButton* optReadings_[2];
+    QPushButton *cmdOK_, *cmdCancel_;
+};
+
+}  // namespace tolvanis

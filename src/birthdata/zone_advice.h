@@ -1,0 +1,60 @@
+#pragma once
+// What the zone history has to say to a natal entry.
+
+#include <optional>
+#include <string>
+
+#include "birthdata/atlas.h"
+#include "birthdata/natal_entry.h"
+#include "birthdata/zone_lookup.h"
+#include "platform/data_files.h"
+
+namespace tolvanis {
+
+// Zone history and atlas together.
+struct ZoneBook {
+    ZoneHistory history;
+    Atlas atlas;
+
+    // Reads both delivered files. A fault names the file that cannot be read.
+    static Result<ZoneBook> Open(const DataFiles& files);
+};
+
+// Date and clock time of an entry; nothing while its boxes hold none.
+std::optional<ClockMoment> ClockOfEntry(const NatalEntry& entry);
+
+// The zone of an offset as an entry takes it. Places in west longitude that keep the date of the east, and
+// the reverse, are entered with the clock time of `days` days later.
+struct EntryZone {
+    double hours = 0.0;  // positive west
+    int days = 0;
+};
+EntryZone EntryZoneOf(int offset, double degreesEast);
+
+// What is in force where and when an entry says: the place nearest to its coordinates within 60 km, taken at
+// the coordinates themselves, and the readings there. Nothing while the entry is not complete, or in the
+// middle of the sea.
+struct EntryReadings {
+    AtlasPlace place;
+    ClockMoment clock;  // of the entry
+    ZoneAnswer answer;
+
+    // The hours that the entry's boxes take for one of the readings.
+    double HoursOf(const ZoneReading& reading) const;
+    // The reading that has these hours, to the second.
+    const ZoneReading* WithZone(double hours) const;
+};
+std::optional<EntryReadings> ReadingsOfEntry(const ZoneBook& book, const NatalEntry& entry);
+
+// One line for below the boxes; an empty text when the zone typed is the one in force, or nothing is known.
+struct ZoneAdvice {
+    std::string text;
+    std::string zone;  // to be taken over; empty where there is not exactly one
+};
+ZoneAdvice AdviseZone(const ZoneBook& book, const NatalEntry& entry);
+
+// A reading in words: "daylight saving (EDT)", with the grade and its reason where it is not sure.
+std::string ReadingText(const ZoneReading& reading);
+std::string GradeText(const ZoneReading& reading);
+
+}  // namespace tolvanis
