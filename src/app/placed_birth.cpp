@@ -61,13 +61,9 @@ void SetPlace(NatalEntry& entry, const AtlasPlace& place) {
 
 // The place with the coordinates that the entry takes, whole minutes.
 ZonePlace AsEntered(const AtlasPlace& place) {
-    const auto degrees = [](const Coordinate& coordinate) {
-        const double value = LeadingNumber(coordinate.degrees) + LeadingNumber(coordinate.minutes) / 60.0;
-        return coordinate.negative ? -value : value;
-    };
     ZonePlace entered = place.place;
-    entered.degreesEast = -degrees(place.Longitude());
-    entered.degreesNorth = degrees(place.Latitude());
+    entered.degreesEast = -DegreesOf(place.Longitude());
+    entered.degreesNorth = DegreesOf(place.Latitude());
     return entered;
 }
 

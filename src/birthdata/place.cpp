@@ -18,6 +18,11 @@ void FillPlace(NatalEntry& entry, const Place& place) {
     entry.timeZone = place.timeZone;
 }
 
+double DegreesOf(const Coordinate& coordinate) {
+    const double value = LeadingNumber(coordinate.degrees) + LeadingNumber(coordinate.minutes) / 60.0;
+    return coordinate.negative ? -value : value;
+}
+
 Coordinate CoordinateOf(std::string_view degrees, std::string_view minutes, bool negative) {
     return {NumberText(LeadingNumber(degrees)), NumberText(LeadingNumber(minutes)), negative};
 }

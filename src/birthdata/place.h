@@ -28,6 +28,9 @@ struct Place {
 // keeps its sign whatever the hemisphere.
 void FillPlace(NatalEntry& entry, const Place& place);
 
+// Decimal degrees, negative in the east and in the south.
+double DegreesOf(const Coordinate& coordinate);
+
 // The coordinate that a text describes by its degrees and minutes, each with the leading-number reading.
 Coordinate CoordinateOf(std::string_view degrees, std::string_view minutes, bool negative);
 

@@ -1,14 +1,35 @@
 #include "birthdata/record_search.h"
 
+#include <algorithm>
 #include <array>
 
 #include "text/search_key.h"
 
 namespace tolvanis {
+namespace {
 
-RecordSearch::RecordSearch(std::size_t count, const std::function<std::string(std::size_t)>& textAt) {
+constexpr int kGroups = 4;
+
+}  // namespace
+
+RecordSearch::RecordSearch(std::size_t count, const std::function<std::string(std::size_t)>& textAt,
+                           const MoreAt& moreAt) {
     keys_.Reserve(count);
-    for (std::size_t i = 0; i < count; ++i) keys_.Append(SearchKey(textAt(i)));
+    firstPart_.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string text = textAt(i);
+        keys_.Append(SearchKey(text));
+        const std::size_t comma = text.rfind(',');
+        firstPart_.push_back(static_cast<std::uint32_t>(
+            comma == std::string::npos ? keys_[i].size()
+                                       : SearchKey(std::string_view(text).substr(0, comma)).size()));
+        if (!moreAt) continue;
+        const More more = moreAt(i);
+        std::string names = "\n";
+        for (const std::string& name : more.names) names += name + '\n';
+        otherNames_.Append(names);
+        weights_.push_back(more.weight);
+    }
 }
 
 std::optional<std::size_t> RecordSearch::FindBeginning(std::string_view typed, std::size_t from) const {
@@ -21,20 +42,33 @@ std::optional<std::size_t> RecordSearch::FindBeginning(std::string_view typed, s
     return std::nullopt;
 }
 
+// The group of a record for one spelling, or kGroups.
+int RecordSearch::GroupOf(std::size_t index, const std::string& key) const {
+    const std::string_view text = keys_[index];
+    if (text.starts_with(key) && firstPart_[index] == key.size()) return 0;
+    if (!weights_.empty() && otherNames_[index].find('\n' + key + '\n') != std::string_view::npos) return 0;
+    if (text.starts_with(key)) return 1;
+    if (!weights_.empty() && otherNames_[index].find('\n' + key) != std::string_view::npos) return 1;
+    if (text.find(' ' + key) != std::string_view::npos) return 2;
+    return text.find(key) != std::string_view::npos ? 3 : kGroups;
+}
+
 std::vector<std::size_t> RecordSearch::FindAll(std::string_view typed) const {
     const std::string key = SearchKey(typed);
     if (key.empty()) return {};
-    const std::string wordStart = ' ' + key;
-    std::array<std::vector<std::size_t>, 3> groups;
+    const std::vector<std::string> spellings = KeySpellings(key);
+    std::array<std::vector<std::size_t>, kGroups> groups;
     for (std::size_t i = 0; i < size(); ++i) {
-        const std::string_view text = keys_[i];
-        if (text.find(key) == std::string_view::npos) continue;
-        const bool laterWord = text.find(wordStart) != std::string_view::npos;
-        groups[text.starts_with(key) ? 0 : laterWord ? 1 : 2].push_back(i);
+        int group = kGroups;
+        for (const std::string& spelling : spellings) group = std::min(group, GroupOf(i, spelling));
+        if (group < kGroups) groups[static_cast<std::size_t>(group)].push_back(i);
     }
-    std::vector<std::size_t> found = std::move(groups[0]);
-    found.insert(found.end(), groups[1].begin(), groups[1].end());
-    found.insert(found.end(), groups[2].begin(), groups[2].end());
+    std::vector<std::size_t> found;
+    for (std::vector<std::size_t>& group : groups) {
+        if (!weights_.empty())
+            std::ranges::stable_sort(group, std::greater(), [&](std::size_t i) { return weights_[i]; });
+        found.insert(found.end(), group.begin(), group.end());
+    }
     return found;
 }
 

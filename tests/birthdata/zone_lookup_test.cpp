@@ -266,14 +266,10 @@ TEST(DeliveredCities, HaveTheStandardTimeOfTheZoneData) {
         for (std::size_t i = 0; i < cities.size(); ++i) {
             const CityRecord record = *ParseCityRecord(cities.Line(i));
             const Place place = PlaceOfCity(record);
-            const auto degrees = [](const Coordinate& c) {
-                const double value = LeadingNumber(c.degrees) + LeadingNumber(c.minutes) / 60.0;
-                return c.negative ? -value : value;
-            };
             const std::string name = record.city.substr(0, record.city.find(" ("));
-            const double east = -degrees(*place.longitude);
-            const auto known = Book().atlas.Named(name, degrees(*place.latitude), east, 3.0);
-            const auto found = known ? known : Book().atlas.Nearest(degrees(*place.latitude), east, 3.0);
+            const double east = -DegreesOf(*place.longitude);
+            const auto known = Book().atlas.Named(name, DegreesOf(*place.latitude), east, 3.0);
+            const auto found = known ? known : Book().atlas.Nearest(DegreesOf(*place.latitude), east, 3.0);
             ASSERT_TRUE(found) << record.ListText();
             const AtlasPlace at = Book().atlas.At(*found);
             if (twoClocks.contains(at.place.zone)) continue;

@@ -138,7 +138,10 @@ void BirthDesk::OpenNames() {
 
 void BirthDesk::OpenCities() {
     CloseCities();
-    cities_ = new Geograph(state_.settings.GeoDataFile, messages_);
+    cities_ = new Geograph(state_.settings.GeoDataFile, messages_, [this] {
+        const Result<ZoneBook>& book = Book();
+        return book ? &book->atlas : nullptr;
+    });
     connect(cities_, &Geograph::placePicked, this, &BirthDesk::FillInPlace);
     connect(cities_, &Geograph::changeListRequested, this, &BirthDesk::ChangeCitiesList);
     connect(cities_, &Geograph::editListRequested, this, [this] {
@@ -186,8 +189,13 @@ void BirthDesk::LookUpInAtlas() {
 // Advice is an extra: without its files there is none.
 ZoneAdvice BirthDesk::Advise(const NatalEntry& entry) {
     if (state_.options[kNoZoneAdviceOption] != 0.0F) return {};
+    const Result<ZoneBook>& book = Book();
+    return book ? AdviseZone(*book, entry) : ZoneAdvice{};
+}
+
+const Result<ZoneBook>& BirthDesk::Book() {
     if (!zoneBook_) zoneBook_ = ZoneBook::Open(state_.files);
-    return *zoneBook_ ? AdviseZone(**zoneBook_, entry) : ZoneAdvice{};
+    return *zoneBook_;
 }
 
 void BirthDesk::FillInPlace(const Place& place) {

@@ -62,6 +62,7 @@ class BirthDesk : public QObject {
     void SaveEntry();
     void LookUpInAtlas();
     ZoneAdvice Advise(const NatalEntry& entry);
+    const Result<ZoneBook>& Book();
     void FillInPlace(const Place& place);
     void ChangeNamesList();
     void ChangeCitiesList();
@@ -75,7 +76,7 @@ class BirthDesk : public QObject {
     FileDialogs& dialogs_;
     std::unique_ptr<InputD> input_;
     AtlasLookup atlas_;
-    std::optional<Result<ZoneBook>> zoneBook_;  // opened at the first advice
+    std::optional<Result<ZoneBook>> zoneBook_;  // opened when first needed
     QPoint firstPlace_;                         // where the natal input has been put first
     KeptPlace listPlace_;                       // of names and cities, which take turns
     KeptPlace zonesPlace_;

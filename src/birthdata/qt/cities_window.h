@@ -2,7 +2,9 @@
 // The cities window.
 
 #include <QWidget>
+#include <functional>
 
+#include "birthdata/atlas.h"
 #include "birthdata/cities_file.h"
 #include "birthdata/qt/record_loader.h"
 
@@ -16,8 +18,12 @@ class Geograph : public QWidget {
     Q_OBJECT
 
   public:
-    // `file` is the full path of the current cities file. Nothing is read before Load.
-    Geograph(std::string file, Messages& messages, QWidget* parent = nullptr);
+    // The atlas, or nothing where there is none; asked for at the first search.
+    using AtlasSource = std::function<const Atlas*()>;
+
+    // `file` is the full path of the current cities file. Nothing is read before Load. With an atlas a city
+    // is found by its other names too, and the largest comes first.
+    Geograph(std::string file, Messages& messages, AtlasSource atlas = {}, QWidget* parent = nullptr);
 
     // Reads the file. A fault is told after the good records are in the list. The records of a large file
     // come into the list later, when the event loop runs.

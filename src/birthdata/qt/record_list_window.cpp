@@ -34,7 +34,7 @@ std::string RecordListModel::Text(int row) const {
 const RecordSearch& RecordListModel::Search() const {
     if (!search_) {
         const Hourglass hourglass;
-        search_.emplace(static_cast<std::size_t>(count_), textAt_);
+        search_.emplace(static_cast<std::size_t>(count_), textAt_, moreAt_);
     }
     return *search_;
 }

@@ -29,6 +29,8 @@ class RecordListModel : public QAbstractListModel {
     using QAbstractListModel::QAbstractListModel;
 
     void SetRecords(std::size_t count, TextAt textAt);
+    // What else the records are found by; asked when the search is built.
+    void SetMore(RecordSearch::MoreAt moreAt) { moreAt_ = std::move(moreAt); }
     std::string Text(int row) const;
     // Built at the first search in the list.
     const RecordSearch& Search() const;
@@ -39,6 +41,7 @@ class RecordListModel : public QAbstractListModel {
   private:
     int count_ = 0;
     TextAt textAt_;
+    RecordSearch::MoreAt moreAt_;
     mutable std::optional<RecordSearch> search_;
 };
 
@@ -52,6 +55,7 @@ class RecordListView : public QListView {
 
     void SetRecords(std::size_t count, RecordListModel::TextAt textAt);
     const RecordListModel& records() const { return model_; }
+    void SetMore(RecordSearch::MoreAt moreAt) { model_.SetMore(std::move(moreAt)); }
 
     int CurrentRow() const;              // -1 without one
     void SelectRow(int row);             // with its neighbours in view
