@@ -9,6 +9,7 @@
 #include <QTableWidget>
 #include <QTextBlock>
 
+#include "app/study_texts.h"
 #include "support/desktop_fixture.h"
 
 namespace tolvanis {
@@ -18,7 +19,16 @@ using testing::ElementsAre;
 
 class InterpDeskTest : public DesktopWindow {
   protected:
+    // The delivered interpretations and lessons give way to texts whose every line is known.
     InterpDeskTest() {
+        std::vector<std::filesystem::path> delivered;
+        for (const auto& entry : std::filesystem::directory_iterator(directory_.path())) {
+            const std::string name = entry.path().filename().string();
+            const bool study = std::ranges::any_of(
+                kStudyTexts, [&](const StudyText& known) { return known.fileName == name; });
+            if (name.ends_with(".TXT") && !study) delivered.push_back(entry.path());
+        }
+        for (const auto& path : delivered) std::filesystem::remove(path);
         std::string text;
         for (int i = 0; i < 200; ++i) text += "text " + std::to_string(i) + "\r\n";
         directory_.Write("PHILO.HLP", text);
