@@ -1,0 +1,122 @@
+// The delivered atlas and the advice in the natal input, as their users meet them.
+#include "birthdata/qt/atlas_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeWidget>
+
+#include "app/own_atlas.h"
+#include "birthdata/qt/natal_input_window.h"
+#include "support.h"
+#include "support/window_user.h"
+
+namespace tolvanis {
+namespace {
+
+const ZoneBook& Book() {
+    static const Result<ZoneBook> book = ZoneBook::Open(DataFiles(Path(DELIVERED_DATA_DIR)));
+    return *book;
+}
+
+NatalEntry BirthAt(const char* year, const char* month, const char* day, const char* hour) {
+    NatalEntry birth;
+    birth.year = year;
+    birth.month = month;
+    birth.day = day;
+    birth.birthHour = hour;
+    birth.birthMinute = "30";
+    return birth;
+}
+
+TEST(AtlasProgramTest, LeavesPlaceAndZone) {
+    const ScratchDirectory directory;
+    AtlasWindow window(Book(), BirthAt("1951", "7", "14", "9"), directory / "TSRTEMP.TXT");
+    window.show();
+    EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled()) << "no place yet";
+    Type(window, "txtSearch", "koeln");
+    const auto& places = Find<QTreeWidget>(window, "lstPlaces");
+    ASSERT_GT(places.topLevelItemCount(), 0);
+    EXPECT_EQ(places.topLevelItem(0)->text(0), QStringLiteral("Köln"));
+    EXPECT_TRUE(
+        Find<QLabel>(window, "lblAnswer").text().contains(QStringLiteral("standard time (CET), zone -1")));
+    EXPECT_TRUE(Find<QLabel>(window, "lblGrade").text().contains(QStringLiteral("Berlin")));
+    Type(window, "txtYear", "1949");
+    EXPECT_TRUE(Find<QLabel>(window, "lblAnswer").text().contains(QStringLiteral("zone -2")));
+    Press(window, "cmdOK");
+    EXPECT_EQ(window.result(), QDialog::Accepted);
+    EXPECT_EQ(FileContent(directory / "TSRTEMP.TXT"),
+              "Köln, North Rhine-Westphalia, Germany\r\n50N56\r\n6E57\r\n\r\n-2\r\n");
+}
+
+TEST(AtlasProgramTest, AsksWhichOfTwoAndLeavesNothingWhenCancelled) {
+    const ScratchDirectory directory;
+    AtlasWindow window(Book(), BirthAt("2001", "10", "28", "1"), directory / "TSRTEMP.TXT");
+    window.show();
+    Type(window, "txtSearch", "Atlanta, GA");
+    auto& first = Find<QRadioButton>(window, "optReading1");
+    auto& second = Find<QRadioButton>(window, "optReading2");
+    EXPECT_TRUE(first.isVisible() && !first.isChecked() && !second.isChecked())
+        << "none is chosen for the user";
+    EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    EXPECT_TRUE(first.text().startsWith(QStringLiteral("Zone 4"))) << first.text().toStdString();
+    second.click();
+    EXPECT_TRUE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    Type(window, "txtMonth", "4");
+    Type(window, "txtDay", "1");
+    Type(window, "txtBirthHour", "2");
+    EXPECT_TRUE(Find<QLabel>(window, "lblAnswer").text().contains(QStringLiteral("did not exist")));
+    EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    Press(window, "cmdCancel");
+    EXPECT_FALSE(std::filesystem::exists(directory / "TSRTEMP.TXT"));
+}
+
+TEST(AtlasProgramTest, IsSetUpOnceAndFollowsTheProgram) {
+    const ScratchDirectory directory;
+    EXPECT_FALSE(PrepareOwnAtlas(directory.path(), directory / "bin")) << "no program";
+    for (const char* programs : {"bin", "moved"}) {
+        std::filesystem::create_directory(directory / programs);
+        directory.Write(std::string(programs) + "/tolvanis-atlas", "program");
+        const auto prepared = PrepareOwnAtlas(directory.path(), directory / programs);
+        ASSERT_TRUE(prepared) << prepared.message();
+        EXPECT_EQ(*prepared, (directory / "ATLAS").string() + "/");
+        EXPECT_EQ(std::filesystem::read_symlink(directory / "ATLAS/ATLAS.EXE"),
+                  directory / programs / "tolvanis-atlas");
+        EXPECT_EQ(FileContent(directory / "ATLAS/PCATPATH.TXT"), *prepared + "\r\n");
+    }
+    EXPECT_EQ(AtlasDirectoryOf("", "/own/"), "/own/");
+    EXPECT_EQ(AtlasDirectoryOf(directory.path().string(), "/own/"), directory.path().string())
+        << "the user's";
+    EXPECT_EQ(AtlasDirectoryOf("c:\\gone\\", "/own/"), "/own/");
+}
+
+TEST(NatalInputAdvice, TellsAndTakesOverOnlyWhenPressed) {
+    Options options;
+    RecordingMessages messages;
+    InputD window(options, messages, [] { return LocalTime{{2027, 1, 5}, 14, 7, 3}; });
+    window.SetAdviser([](const NatalEntry& entry) { return AdviseZone(Book(), entry); });
+    window.show();
+    NatalEntry entry = BirthAt("1951", "7", "14", "9");
+    entry.timeZone = "5";
+    entry.longDeg = "73";
+    entry.longMin = "59";
+    entry.latDeg = "40";
+    entry.latMin = "45";
+    window.SetEntry(entry);
+    auto& take = Find<QPushButton>(window, "cmdTakeZone");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return take.isVisible(); }, 3000));
+    EXPECT_TRUE(
+        Find<QLabel>(window, "lblAdvice").text().contains(QStringLiteral("daylight saving was in force")));
+    EXPECT_EQ(window.Entry().timeZone, "5") << "nothing is changed by itself";
+    take.click();
+    EXPECT_EQ(window.Entry().timeZone, "4");
+    EXPECT_TRUE(Find<QLabel>(window, "lblAdvice").text().isEmpty());
+    EXPECT_FALSE(take.isVisible());
+    EXPECT_TRUE(messages.told.empty());
+}
+
+}  // namespace
+}  // namespace tolvanis
