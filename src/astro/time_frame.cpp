@@ -9,7 +9,7 @@ namespace tolvanis {
 namespace {
 
 constexpr double kDaysPerCentury = 36525.0;
-constexpr double kEpoch1900 = 2415020.0;     // JD of 1900 January 0.5
+constexpr double kEpoch1900 = 2415020.0;  // JD of 1900 January 0.5
 
 double Fraction(double x) {
     return x - std::floor(x);

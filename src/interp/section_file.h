@@ -25,6 +25,7 @@ enum class SectionOutcome {
 // Takes the first section whose heading begins with the key: its heading and the lines up to the terminator,
 // all of them unchanged. Leading blanks of a line and the case of ASCII letters do not matter for heading and
 // terminator; a line of blanks is not an empty line. What hindered the reading is found in the reader.
-SectionOutcome TakeSection(LineReader& file, std::string_view key, SearchEnd searchEnd, const LineTaker& take);
+SectionOutcome TakeSection(LineReader& file, std::string_view key, SearchEnd searchEnd,
+                           const LineTaker& take);
 
 }  // namespace tolvanis
