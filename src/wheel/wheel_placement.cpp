@@ -178,7 +178,7 @@ void SpreadAroundTrueAngles(const WheelSnapshot& chart, std::vector<PlacedGlyph>
             cut = i;
         }
     }
-    std::ranges::rotate(glyphs, glyphs.begin() + static_cast<std::ptrdiff_t>(cut));
+    std::rotate(glyphs.begin(), glyphs.begin() + static_cast<std::ptrdiff_t>(cut), glyphs.end());
     std::vector<double> angles;
     for (const PlacedGlyph& glyph : glyphs) {
         angles.push_back(angles.empty() || glyph.angle >= angles.front() ? glyph.angle : glyph.angle + 360.0);

@@ -13,7 +13,7 @@ namespace {
 class Receiver : public EntryReceiver {
   public:
     void Take(const NatalEntry& entry, const std::string&) override {
-        static_cast<void>(MakeChart(entry, HouseSystem::Placidus, 1, Options{}));
+        static_cast<void>(MakeChart(entry, Method{}, 1, Options{}));
     }
     void Refuse(const std::string&, const std::string& fault) override {
         Require(!fault.empty(), "a refusal has a reason");
@@ -34,7 +34,8 @@ void Fuzz(std::string_view input) {
     if (IsWheelCommand(arguments)) static_cast<void>(ParseWheelArguments(arguments));
     const Result<ChartRequest> request = ParseCommandLine(arguments);
     Require(request || !request.message().empty(), "wrong usage is explained");
-    if (!request || request->namesFile || request->place) return;  // no file of this machine is read
+    if (!request || request->namesFile || request->place || request->at)
+        return;  // no file of this machine is read
     Receiver receiver;
     ReadBirths(*request, Options{}, DataFiles(), HostClock, receiver);
 }

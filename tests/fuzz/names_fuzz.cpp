@@ -16,8 +16,9 @@ void Fuzz(std::string_view input) {
         Require(again && *again == record, "a record reads back as it was written");
         const Result<NatalEntry> entry = EntryFromRecord(record);
         Require(static_cast<bool>(entry), "a record of a list is an entry");
-        const auto system = static_cast<HouseSystem>(i % kHouseSystems.size());
-        const auto chart = MakeChart(*entry, system, static_cast<int>(i % 3), options);
+        const Method method{static_cast<HouseSystem>(i % kHouseSystems.size()),
+                            i % 2 == 0 ? Theory::Classic : Theory::Modern};
+        const auto chart = MakeChart(*entry, method, static_cast<int>(i % 3), options);
         if (!chart) continue;
         const std::string text = ChartAsText(*chart, options) + ChartAsJson(*chart) + ChartAsAscii(*chart);
         LineReader lines = LineReader::OfText(text);

@@ -19,16 +19,17 @@ class BlindSurface : public DrawingSurface {
     void SetCoordinates(const Extent&) override {}
     void Clear(int) override {}
     void Line(Point from, Point to, Stroke) override { Check(from), Check(to); }
+    void Lines(std::span<const LineSpan> lines, Stroke stroke) override {
+        for (const LineSpan& line : lines) Line(line.from, line.to, stroke);
+    }
     void Circle(Point centre, double, Stroke) override { Check(centre); }
     void Disc(Point centre, double, int) override { Check(centre); }
     TextBox Measure(std::string_view text, TextFont font) const override {
         const double width = 0.6 * font.size * static_cast<double>(text.size());
         return {width, 1.2 * font.size, 0.0, 0.2 * font.size, width, 0.9 * font.size};
     }
-    void Text(Point corner, std::string_view, TextFont, int colour) override {
-        Check(corner);
-        Require(colour >= 0 && colour < 16, "a colour is one of the palette");
-    }
+    void Sector(const RingSector&, int) override {}
+    void Text(Point corner, std::string_view, TextFont, int) override { Check(corner); }
 
   private:
     static void Check(Point point) {
@@ -44,8 +45,10 @@ const WheelData& DeliveredWheelData() {
 void Draw(const CurrentChart& chart, const Options& options) {
     const WheelSnapshot snapshot = MakeWheelSnapshot(chart.natal, chart.positions);
     BlindSurface surface;
-    for (const ChartType type : {ChartType::American, ChartType::European}) {
-        DrawWheel(surface, {snapshot, DeliveredWheelData(), options, type, 800, 600});
+    for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
+        WheelRequest request{snapshot, DeliveredWheelData(), options, type, 800, 600};
+        request.orbs.fill(options[1]);
+        Require(!DrawWheel(surface, request).empty(), "a wheel has points");
     }
     DrawPage(surface, {snapshot, DeliveredWheelData(), options, 0, {"Ann", "Main Street"}});
 }
@@ -56,10 +59,10 @@ void Fuzz(std::string_view input) {
     const MemoryFile file(input);
     Options options;
     if (!ReadNumberLines(file.path(), options.table())) return;
-    static_cast<void>(
-        MakeChart(FillNow({{2027, 1, 5}, 14, 7, 3}, options), HouseSystemOfOption(options[27]), 1, options));
+    const Method method = MethodOfOptions(options);
+    static_cast<void>(MakeChart(FillNow({{2027, 1, 5}, 14, 7, 3}, options), method, 1, options));
     const Result<NameRecord> record = ParseNameRecord("Ann,5 Feb 1962,8.10,A,0,000.10,51.30");
-    const auto chart = MakeChart(*EntryFromRecord(*record), HouseSystemOfOption(options[27]), 1, options);
+    const auto chart = MakeChart(*EntryFromRecord(*record), method, 1, options);
     Require(static_cast<bool>(chart), "options do not refuse a birth");
     static_cast<void>(ChartAsText(*chart, options));
     Draw(*chart, options);
