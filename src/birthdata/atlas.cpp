@@ -370,6 +370,10 @@ void Atlas::VisitNear(double north, double east, double km, Visit visit) const {
             const std::size_t cell = CellOf(row, east - reachEast + column);
             for (std::uint32_t i = cellStart_[cell]; i < cellStart_[cell + 1]; ++i) {
                 const Row& place = rows_[cellPlaces_[i]];
+                const double eastward = std::abs(Degrees(place.east) - east);
+                const bool far = std::abs(Degrees(place.north) - north) > reach ||
+                                 std::min(eastward, 360.0 - eastward) > reachEast;
+                if (far) continue;
                 const double distance = DistanceKm(north, east, Degrees(place.north), Degrees(place.east));
                 if (distance <= km) visit(std::size_t{cellPlaces_[i]}, distance);
             }

@@ -65,8 +65,11 @@ std::vector<std::size_t> RecordSearch::FindAll(std::string_view typed) const {
     }
     std::vector<std::size_t> found;
     for (std::vector<std::size_t>& group : groups) {
-        if (!weights_.empty())
-            std::ranges::stable_sort(group, std::greater(), [&](std::size_t i) { return weights_[i]; });
+        const auto isOwnName = [&](std::size_t i) { return keys_[i].substr(0, firstPart_[i]) == key; };
+        const auto heavier = [&](std::size_t a, std::size_t b) {
+            return std::pair(weights_[a], isOwnName(a)) > std::pair(weights_[b], isOwnName(b));
+        };
+        if (!weights_.empty()) std::ranges::stable_sort(group, heavier);
         found.insert(found.end(), group.begin(), group.end());
     }
     return found;

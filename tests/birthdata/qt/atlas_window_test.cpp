@@ -5,11 +5,13 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
 
 #include "app/own_atlas.h"
+#include "birthdata/qt/cities_window.h"
 #include "birthdata/qt/natal_input_window.h"
 #include "support.h"
 #include "support/window_user.h"
@@ -116,6 +118,31 @@ TEST(NatalInputAdvice, TellsAndTakesOverOnlyWhenPressed) {
     EXPECT_TRUE(Find<QLabel>(window, "lblAdvice").text().isEmpty());
     EXPECT_FALSE(take.isVisible());
     EXPECT_TRUE(messages.told.empty());
+}
+
+TEST(CitiesSearch, FindsTheNamesThatPeopleType) {
+    const char* cases[][3] = {{"EUROPE.LL", "wien", "Vienna,Austria"},
+                              {"EUROPE.LL", "muenchen", "Munich,Germany"},
+                              {"EUROPE.LL", "München", "Munich,Germany"},
+                              {"EUROPE.LL", "zuerich", "Zürich,Switzerland"},
+                              {"EUROPE.LL", "Roma", "Rome,Italy"},
+                              {"EUROPE.LL", "praha", "Prague,Czech Republic"},
+                              {"EUROPE.LL", "Moskva", "Moscow,Russia"},
+                              {"EUROPE.LL", "koln", "Köln,Germany"},
+                              {"EUROPE.LL", "newcastle", "Newcastle upon Tyne,United Kingdom"},
+                              {"MI_NY.LL", "Saint Louis", "St. Louis,MO"},
+                              {"MI_NY.LL", "st louis", "St. Louis,MO"}};
+    RecordingMessages messages;
+    for (const auto& [file, typed, city] : cases) {
+        Geograph window(std::string(DELIVERED_DATA_DIR) + "/" + file, messages, [] { return &Book().atlas; });
+        window.show();
+        window.Load();
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return Find<QListView>(window, "CitiesOnFile").model()->rowCount() > 0; }));
+        Type(window, "txtFind", typed);
+        const QListView& list = Find<QListView>(window, "CitiesOnFile");
+        EXPECT_EQ(list.currentIndex().data().toString().toStdString(), city) << typed;
+    }
 }
 
 }  // namespace
