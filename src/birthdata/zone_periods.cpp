@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 #include "text/numbers.h"
 
@@ -60,6 +59,10 @@ ZoneKind KindOf(const ZonePeriod& period, bool winterTimeOnly) {
     const bool mean = IsMeanTime(period.abbreviation, period.offset);
     return mean ? ZoneKind::NationalMean : ZoneKind::Standard;
 }
+
+// Far outside of every calendar, and near enough that differences of moments can be taken.
+constexpr std::int64_t kEndOfTime = std::int64_t{1} << 60;
+constexpr std::int64_t kBeginningOfTime = -kEndOfTime;
 
 // Works through the eras of one zone.
 class PeriodMaker {
@@ -123,7 +126,7 @@ class PeriodMaker {
     }
 
     std::int64_t UntilOf(const ZoneEra& era) const {
-        if (!era.untilYear) return std::numeric_limits<std::int64_t>::max();
+        if (!era.untilYear) return kEndOfTime;
         return ToUniversal(era.until.In(*era.untilYear), era.until.clock, era.standard);
     }
 
@@ -181,7 +184,7 @@ class PeriodMaker {
     const ZoneRuleSets& rules_;
     int lastYear_;
     std::vector<ZonePeriod> periods_;
-    std::int64_t start_ = std::numeric_limits<std::int64_t>::min();  // of the era
+    std::int64_t start_ = kBeginningOfTime;  // of the era
     int save_ = 0;
     bool winterTimeOnly_ = false;
 };

@@ -112,7 +112,8 @@ void InputD::SetAdviser(Adviser adviser) {
 void InputD::UpdateAdvice() {
     if (!adviser_ || !isVisible()) return;
     const ZoneAdvice advice = adviser_(Entry());
-    lblAdvice_->setText(ToQt(advice.text));
+    // A zone stays beside its number where the line breaks.
+    lblAdvice_->setText(ToQt(advice.text).replace(QStringLiteral("zone "), QStringLiteral("zone\u00a0")));
     lblAdvice_->setToolTip(ToQt(advice.text));
     lblAdvice_->setAccessibleDescription(ToQt(advice.text));
     cmdTakeZone_->setProperty("zone", ToQt(advice.zone));
