@@ -15,7 +15,7 @@ void NatalReport(benchmark::State& state) {
     if (!IsReadableFile(files.FindText("RISING.TXT"))) state.SkipWithError("no texts");
     const NatalEntry entry{"Ann Smith", "9",  "22", "1949", "9",  "5",  false,
                            "5",         "73", "59", false,  "40", "45", false};
-    const auto chart = MakeChart(entry, HouseSystem::Placidus, 1, options);
+    const auto chart = MakeChart(entry, Method{}, 1, options);
     for (auto _ : state) benchmark::DoNotOptimize(ChartAsReport(*chart, options, files));
     state.SetItemsProcessed(state.iterations());
 }

@@ -48,12 +48,12 @@ int RunOnce(const char* directory, int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tolvanis.svg")));
     ProgramState state;
-    state.applicationDirectory = directory;
+    state.files = DataFiles(directory);
     state.order = HostDateTimeOrder();
     MessageBoxes messages;
     DesktopFileDialogs dialogs(directory);
     Desktop desktop(state, {messages, dialogs, PresentMoment});
-    if (!desktop.Start({})) return EXIT_FAILURE;
+    if (!desktop.Start()) return EXIT_FAILURE;
     PaintWatch(desktop.natalInput()).Wait();
     std::puts("shown");
     std::fflush(stdout);
