@@ -58,7 +58,7 @@ AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exc
     lstPlaces_->setRootIsDecorated(false);
     lstPlaces_->setUniformRowHeights(true);
     lstPlaces_->setHeaderLabels({QStringLiteral("Name"), QStringLiteral("Region"), QStringLiteral("Country"),
-                                 QStringLiteral("Longitude, latitude")});
+                                 QStringLiteral("Coordinates")});
     const int letter = fontMetrics().averageCharWidth();
     for (int column = 0; column < 3; ++column) lstPlaces_->setColumnWidth(column, 24 * letter);
     cmdOK_ = new QPushButton(QStringLiteral("OK"));
