@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -62,41 +63,55 @@ inline std::string FileContent(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-// Notes what it is told and answers what the test has prepared, in order; the last answer repeats.
-class RecordingMessages : public Messages {
+// A message as its user has read it, "title: text", and its parts.
+struct ReadMessage : std::string {
+    ReadMessage(const std::string& itsTitle, const std::string& itsText, MessageIcon itsIcon)
+        : std::string(itsTitle + ": " + itsText), title(itsTitle), text(itsText), icon(itsIcon) {}
+    std::string title;
+    std::string text;
+    MessageIcon icon;
+    friend void PrintTo(const ReadMessage& message, std::ostream* out) { *out << message.c_str(); }
+};
+
+// Records what it is told and asked, and gives the answers laid out beforehand.
+class RecordedMessages : public Messages {
   public:
-    struct Told {
-        std::string title;
-        std::string text;
-        MessageIcon icon = MessageIcon::Question;
-    };
-    std::vector<Told> told;
-    std::vector<Answer> answers = {Answer::Yes};
-    std::vector<std::string> texts = {""};
+    std::vector<ReadMessage> told;
+    std::vector<ReadMessage> asked;
+    std::deque<Answer> answers;
+    std::deque<std::string> texts;
     std::function<void()> whileAsking;  // what happens while a question is open
 
     void Tell(const std::string& title, const std::string& text, MessageIcon icon) override {
-        told.push_back({title, text, icon});
+        told.emplace_back(title, text, icon);
     }
     Answer AskYesNo(const std::string& title, const std::string& text) override {
-        told.push_back({title, text});
-        if (whileAsking) whileAsking();
-        return Next(answers);
+        return Take(answers, title, text, Answer::Cancel);
     }
     Answer AskYesNoCancel(const std::string& title, const std::string& text) override {
-        return AskYesNo(title, text);
+        return Take(answers, title, text, Answer::Cancel);
     }
     std::string AskText(const std::string& title, const std::string& prompt) override {
-        told.push_back({title, prompt});
-        return Next(texts);
+        return Take(texts, title, prompt, std::string());
+    }
+
+    std::vector<std::string> TakeTold() {
+        const std::vector<ReadMessage> taken = std::exchange(told, {});
+        return {taken.begin(), taken.end()};
     }
 
   private:
     template <typename T>
-    static T Next(std::vector<T>& prepared) {
-        T next = prepared.front();
-        if (prepared.size() > 1) prepared.erase(prepared.begin());
-        return next;
+    T Take(std::deque<T>& prepared, const std::string& title, const std::string& text, const T& otherwise) {
+        asked.emplace_back(title, text, MessageIcon::Question);
+        if (whileAsking) whileAsking();
+        if (prepared.empty()) {
+            ADD_FAILURE() << "nobody expected the question " << text;
+            return otherwise;
+        }
+        const T answer = prepared.front();
+        prepared.pop_front();
+        return answer;
     }
 };
 

@@ -14,7 +14,7 @@ TEST(ChartDriver, AFaultIsToldAndLeavesTheChartBefore) {
     Options options;
     CurrentChart chart;
     DataBuffer buffer;
-    RecordingMessages messages;
+    RecordedMessages messages;
     const auto compute = [&](const std::string& record) {
         return ComputeChart(EntryOf(record), {}, 1, options, chart, buffer, messages);
     };

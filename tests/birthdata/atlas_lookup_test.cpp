@@ -10,7 +10,7 @@ namespace {
 
 struct AtlasTest : ::testing::Test {
     ScratchDirectory directory;
-    RecordingMessages messages;
+    RecordedMessages messages;
     std::string atlasDir = directory.path().string() + "\\";
     std::vector<Path> started;
     ProgramRun outcome = ProgramRun::Ended;
@@ -32,13 +32,12 @@ TEST_F(AtlasTest, FillsWhatTheUserAccepts) {
     const auto place = AtlasLookup(run, messages).LookUp(atlasDir);
     ASSERT_TRUE(place);
     EXPECT_EQ(*place, (Place{Coordinate{"122", "20", false}, Coordinate{"47", "36", false}, "8"}));
-    EXPECT_EQ(messages.told.at(0).title, "Accept or Reject data");
-    EXPECT_EQ(messages.told[0].text,
+    EXPECT_EQ(messages.asked.at(0).title, "Accept or Reject data");
+    EXPECT_EQ(messages.asked[0].text,
               "Accept following data? \r\n\r\nLongitude = 122W20\r\nLatitude  = 47N36\r\nTime zone =  8");
     messages.answers = {Answer::No};
     EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir));
     outcome = ProgramRun::Abandoned;
-    messages.told.clear();
     EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir));
     EXPECT_TRUE(messages.told.empty()) << "an abandoned lookup says nothing";
 }
@@ -71,14 +70,15 @@ TEST_F(AtlasTest, AsksForTheDirectoryUntilTheProgramStarts) {
     Leave("\n1N2\n3E4\n\n-1\n");
     std::string remembered;
     messages.texts = {"c:\\atlas", directory.path().string(), ""};
+    messages.answers = {Answer::Yes};
     AtlasLookup(run, messages).LookUp(remembered);
-    EXPECT_EQ(messages.told.at(0).title, "Where do I find ATLAS.EXE?");
-    EXPECT_EQ(messages.told[0].text,
+    EXPECT_EQ(messages.asked.at(0).title, "Where do I find ATLAS.EXE?");
+    EXPECT_EQ(messages.asked[0].text,
               "Enter the complete path for where ATLAS.EXE resides: \r\n\r\n(Example: c:\\atlas OR "
               "c:\\charts\\atlas OR d:\\windows\\atlas\\)");
     EXPECT_EQ(started.at(0), Path("c:/atlas/ATLAS.EXE"));
     EXPECT_EQ(remembered, directory.path().string() + "\\");
-    EXPECT_NE(messages.told.back().text.find("Time zone = -1"), std::string::npos);
+    EXPECT_NE(messages.asked.back().find("Time zone = -1"), std::string::npos);
 
     std::string kept = "c:\\gone\\";
     EXPECT_FALSE(AtlasLookup(run, messages).LookUp(kept)) << "an empty answer ends the lookup";

@@ -40,13 +40,13 @@ bool ListShowsTheNewRecord(const Path& file) {
 struct SaveCase {
     const char* what;
     std::string before, after;
-    std::vector<Answer> answers = {};
+    std::deque<Answer> answers = {};
     std::string name = "Ann";
 };
 
 TEST(NameSavingTest, MakesAFileThatDoesNotExistYet) {
     const ScratchDirectory directory;
-    RecordingMessages messages;
+    RecordedMessages messages;
     EXPECT_TRUE(SaveTo(directory / "FIRST.FIL", "Ann", messages));
     EXPECT_EQ(FileContent(directory / "FIRST.FIL"), "Ann" + kRest);
     EXPECT_EQ(directory.Names(), std::vector<std::string>{"FIRST.FIL"}) << "there is nothing to back up";
@@ -95,24 +95,25 @@ TEST(NameSavingTest, KeepsEveryOtherLineAsItIs) {
     const ScratchDirectory directory;
     for (const SaveCase& test : cases) {
         const Path file = directory.Write("MY.FIL", test.before);
-        RecordingMessages messages;
+        RecordedMessages messages;
         messages.answers = test.answers;
         EXPECT_TRUE(SaveTo(file, test.name, messages)) << test.what;
         EXPECT_EQ(FileContent(directory / "MY.FIL"), test.after) << test.what;
         EXPECT_EQ(FileContent(directory / "MY.OLD"), test.before) << test.what;
         EXPECT_TRUE(ListShowsTheNewRecord(file)) << test.what;
-        EXPECT_EQ(messages.told.size(), test.answers.size()) << test.what;
+        EXPECT_EQ(messages.asked.size(), test.answers.size()) << test.what;
         EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"})) << test.what;
     }
 }
 
 TEST(NameSavingTest, AsksInTheDescribedWords) {
     const ScratchDirectory directory;
-    RecordingMessages messages;
+    RecordedMessages messages;
+    messages.answers = {Answer::Yes};
     SaveTo(directory.Write("MY.FIL", "Ann" + kOld), "ANN", messages);
-    EXPECT_EQ(messages.told.at(0).title, "Ann already exists");
+    EXPECT_EQ(messages.asked.at(0).title, "Ann already exists");
     EXPECT_EQ(
-        messages.told[0].text,
+        messages.asked[0].text,
         "There is already a name on file matching your current name with the following associated data: "
         "\r\n\r\nDate =  01 Jan 2000\r\nTime =  12.30 P\r\nTime zone =  -1\r\nLongitude =  -002.21\r\n"
         "Latitude =  -33.52\r\n\r\nDo you want to replace it?\r\n\r\nAnswering 'NO' will append the "
@@ -129,7 +130,7 @@ TEST(NameSavingTest, RefusesWhatNoReaderWouldSee) {
     entries[3].birthMinute = "100";
     entries.push_back(Entry("Lee, Ann"));
     entries.push_back(Entry("  "));
-    RecordingMessages messages;
+    RecordedMessages messages;
     const auto save = [&](const NatalEntry& entry, const std::string& chosen) {
         return SaveRecord(
             entry, [&] { return chosen; }, messages);
@@ -148,7 +149,7 @@ TEST(NameSavingTest, WritesNothingOverABinaryFileOrADirectory) {
         "\xFF\xFE"
         "A\0n\0",
         6);
-    RecordingMessages messages;
+    RecordedMessages messages;
     EXPECT_FALSE(SaveTo(directory.Write("MY.FIL", binary), "Ann", messages));
     EXPECT_FALSE(SaveTo(directory.path(), "Ann", messages));
     EXPECT_FALSE(SaveTo("/dev/full", "Ann", messages));
@@ -159,18 +160,19 @@ TEST(NameSavingTest, WritesNothingOverABinaryFileOrADirectory) {
 TEST(NameSavingTest, KeepsWhatAnotherProgramWritesMeanwhile) {
     const ScratchDirectory directory;
     const Path file = directory.Write("MY.FIL", "Ann" + kOld);
-    RecordingMessages messages;
+    RecordedMessages messages;
     messages.answers = {Answer::Yes};
     messages.whileAsking = [&] { directory.Write("MY.FIL", "Ann" + kOld + "Eve" + kOld); };
     EXPECT_TRUE(SaveTo(file, "Ann", messages));
     EXPECT_EQ(FileContent(directory / "MY.FIL"), "Eve" + kOld + "Ann" + kRest);
-    EXPECT_EQ(messages.told.size(), 1U) << "the answer holds when the saving is done again";
+    EXPECT_EQ(messages.asked.size(), 1U) << "the answer holds when the saving is done again";
 }
 
 TEST(NameSavingTest, GivesUpWhenTheFileNeverRests) {
     const ScratchDirectory directory;
     const Path file = directory.Write("MY.FIL", "Ann" + kOld);
-    RecordingMessages messages;
+    RecordedMessages messages;
+    messages.answers.assign(100, Answer::Yes);
     int change = 0;
     messages.whileAsking = [&] {
         directory.Write("MY.FIL",
@@ -190,7 +192,7 @@ TEST(NameSavingTest, SurvivesAFullDiskAtEveryByte) {
     const std::string after = before + "Ann" + kRest;
     std::vector<std::string> wrong;
     for (rlim_t limit = 0; limit < after.size(); ++limit) {
-        RecordingMessages messages;
+        RecordedMessages messages;
         const bool saved = [&] {
             const FileSizeLimit full(limit);
             return SaveTo(file, "Ann", messages);
@@ -228,7 +230,7 @@ TEST(NameSavingTest, RefusesWhereItMayNotWrite) {
         ::chmod(file.c_str(), test.file);
         ::chmod(directory.path().c_str(), test.directory);
         const int status = StatusOfChild([&] {
-            RecordingMessages messages;
+            RecordedMessages messages;
             return SaveTo(file, "Ann", messages) || messages.told.size() != 1;
         });
         EXPECT_EQ(status, 0) << test.what;
@@ -243,7 +245,7 @@ TEST(NameSavingTest, RefusesWithoutABackup) {
     const Path file = directory.Write("MY.FIL", "Bob" + kOld);
     std::filesystem::create_directory(directory / "MY.OLD");
     directory.Write("MY.OLD/full", "");
-    RecordingMessages messages;
+    RecordedMessages messages;
     EXPECT_FALSE(SaveTo(file, "Ann", messages));
     EXPECT_EQ(FileContent(file), "Bob" + kOld);
     EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"}));
@@ -253,7 +255,7 @@ TEST(NameSavingTest, BacksUpWhatALinkPointsTo) {
     const ScratchDirectory directory;
     directory.Write("REAL.FIL", "Bob" + kOld);
     std::filesystem::create_symlink("REAL.FIL", directory / "MY.FIL");
-    RecordingMessages messages;
+    RecordedMessages messages;
     EXPECT_TRUE(SaveTo(directory / "MY.FIL", "Ann", messages));
     EXPECT_EQ(FileContent(directory / "REAL.FIL"), "Bob" + kOld + "Ann" + kRest);
     EXPECT_EQ(FileContent(directory / "MY.OLD"), "Bob" + kOld);
@@ -272,7 +274,7 @@ int CountPersons(const std::string& content) {
 pid_t StartSaving(const Path& file, int first, int count) {
     const pid_t child = ::fork();
     if (child != 0) return child;
-    RecordingMessages messages;
+    RecordedMessages messages;
     for (int i = first; i < first + count; ++i) {
         if (!SaveTo(file, "Person " + std::to_string(i), messages)) ::_exit(1);
     }
@@ -300,7 +302,7 @@ TEST(NameSavingTest, SurvivesBeingKilledAtAnyMoment) {
     }
     EXPECT_GT(count, kKills / 10) << "saves did happen";
     EXPECT_LE(directory.Names().size(), 4U) << "what killed programs leave does not pile up";
-    RecordingMessages messages;
+    RecordedMessages messages;
     EXPECT_TRUE(SaveTo(file, "Person " + std::to_string(count), messages));
     EXPECT_EQ(directory.Names(), (std::vector<std::string>{"MY.FIL", "MY.OLD"}));
 }

@@ -55,7 +55,7 @@ TEST(NamesFileTest, SaysWhenThereIsNoReadableFile) {
         ASSERT_TRUE(list.fault());
         EXPECT_EQ(list.size(), 0U);
         EXPECT_EQ(list.fault()->line, 0);
-        RecordingMessages messages;
+        RecordedMessages messages;
         TellNamesFault(*list.fault(), messages);
         EXPECT_NE(messages.told.at(0).text.find(path.string()), std::string::npos);
     }

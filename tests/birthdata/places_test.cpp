@@ -41,7 +41,7 @@ TEST(CitiesFileTest, KeepsTheRecordsInFrontOfTheFirstFault) {
     EXPECT_EQ(CityTextAt(list, 0), "Washington, D.C.,DC");
     EXPECT_EQ(list.fault()->line, 3);
     EXPECT_EQ(FindCityText(list, "Bern,Switzerland")->latitude, "46N57");
-    RecordingMessages messages;
+    RecordedMessages messages;
     TellCitiesFault(*list.fault(), messages);
     EXPECT_EQ(
         messages.told.at(0).text,
@@ -109,7 +109,7 @@ TEST(TimeZoneTableTest, StopsAtALineWithoutRoom) {
         const RecordList zones = ReadTimeZones(directory.Write("TZ.DAT", good + bad + "\n" + good));
         EXPECT_EQ(zones.size(), 1U) << bad;
         ASSERT_TRUE(zones.fault()) << bad;
-        RecordingMessages messages;
+        RecordedMessages messages;
         TellTimeZoneFault(*zones.fault(), messages);
         EXPECT_EQ(messages.told.at(0).text, "The file TZ.DAT is corrupt.");
     }

@@ -9,45 +9,13 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWidget>
-#include <deque>
 #include <string>
 #include <vector>
 
 #include "platform/file_dialogs.h"
-#include "platform/messages.h"
+#include "support.h"
 
 namespace tolvanis {
-
-// Records what it is told, and gives the answers laid out beforehand.
-class RecordedMessages : public Messages {
-  public:
-    std::vector<std::string> told;   // "title: text"
-    std::vector<std::string> asked;  // "title: text"
-    std::deque<Answer> answers;
-
-    void Tell(const std::string& title, const std::string& text, MessageIcon) override {
-        told.push_back(title + ": " + text);
-    }
-    Answer AskYesNo(const std::string& title, const std::string& text) override { return Take(title, text); }
-    Answer AskYesNoCancel(const std::string& title, const std::string& text) override {
-        return Take(title, text);
-    }
-    std::string AskText(const std::string&, const std::string&) override { return {}; }
-
-    std::vector<std::string> TakeTold() { return std::exchange(told, {}); }
-
-  private:
-    Answer Take(const std::string& title, const std::string& text) {
-        asked.push_back(title + ": " + text);
-        if (answers.empty()) {
-            ADD_FAILURE() << "nobody expected the question " << text;
-            return Answer::Cancel;
-        }
-        const Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-};
 
 class RecordedDialogs : public FileDialogs {
   public:

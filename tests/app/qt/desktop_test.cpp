@@ -42,7 +42,7 @@ TEST_F(DesktopWindow, StartsWithTheMainMenuAndTheNatalInput) {
 TEST_F(DesktopWindow, ATypedBirthGivesItsListing) {
     TypeBirth();
     PressOK();
-    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+    EXPECT_EQ(messages_.TakeTold(), std::vector<std::string>{});
     EXPECT_TRUE(ListingHas("  Ann Smith\n  22 Sep 1949    TZ = 4.0      9.05 P.M.   40.45 NORTH"));
     EXPECT_TRUE(ListingHas("HOUSE CUSPS - Placidus"));
     EXPECT_TRUE(ListingHas("NATAL PLANET ASPECTS"));
@@ -74,7 +74,7 @@ TEST_F(DesktopWindow, WrongEntriesAreToldOneByOneAndKeepTheLastListing) {
     Type(input(), "txtDay", "31");
     Type(input(), "txtBirthMinute", "5");
     PressOK();
-    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+    EXPECT_EQ(messages_.TakeTold(), std::vector<std::string>{});
     EXPECT_TRUE(ListingHas("31 Feb 1949"));
 }
 

@@ -30,7 +30,7 @@ TEST_F(WheelDeskTest, ShowsTheComputedChartAndItsTexts) {
     EXPECT_TRUE(ListingHas("     Ann Smith - natal\n     22 Sep 1949\n     9.05 P.M. (4)"));
     Trigger("mnuHelp");
     EXPECT_TRUE(ListingHas("THE WHEEL WINDOW"));
-    EXPECT_EQ(messages_.told, std::vector<std::string>{});
+    EXPECT_EQ(messages_.TakeTold(), std::vector<std::string>{});
 }
 
 TEST_F(WheelDeskTest, ClosesWithTheInputAndKeepsTheTypeForTheNextWheel) {

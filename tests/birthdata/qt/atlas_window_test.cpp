@@ -97,7 +97,7 @@ TEST(AtlasProgramTest, IsSetUpOnceAndFollowsTheProgram) {
 
 TEST(NatalInputAdvice, TellsAndTakesOverOnlyWhenPressed) {
     Options options;
-    RecordingMessages messages;
+    RecordedMessages messages;
     InputD window(options, messages, [] { return LocalTime{{2027, 1, 5}, 14, 7, 3}; });
     window.SetAdviser([](const NatalEntry& entry) { return AdviseZone(Book(), entry); });
     window.show();
@@ -132,7 +132,7 @@ TEST(CitiesSearch, FindsTheNamesThatPeopleType) {
                               {"EUROPE.LL", "newcastle", "Newcastle upon Tyne,United Kingdom"},
                               {"MI_NY.LL", "Saint Louis", "St. Louis,MO"},
                               {"MI_NY.LL", "st louis", "St. Louis,MO"}};
-    RecordingMessages messages;
+    RecordedMessages messages;
     for (const auto& [file, typed, city] : cases) {
         Geograph window(std::string(DELIVERED_DATA_DIR) + "/" + file, messages, [] { return &Book().atlas; });
         window.show();

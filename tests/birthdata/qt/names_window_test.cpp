@@ -20,7 +20,7 @@ namespace {
 struct NamesWindowTest : ::testing::Test {
     ScratchDirectory directory;
     NamesState state;
-    RecordingMessages messages;
+    RecordedMessages messages;
     std::unique_ptr<Names> window;
     std::vector<NatalEntry> picked, computed;
 

@@ -21,7 +21,7 @@ namespace {
 
 TEST(CitiesWindowTest, ClickGivesThePlaceOfTheFirstSuchCity) {
     const ScratchDirectory directory;
-    RecordingMessages messages;
+    RecordedMessages messages;
     Geograph window(
         directory.Write("a.ll", "Bern,CH,07E27,46N57,-1\nRome,IT,12E29,41N54,-1\nBern,CH,99W99,99S99,9\nx")
             .string(),
@@ -44,7 +44,7 @@ TEST(CitiesWindowTest, ClickGivesThePlaceOfTheFirstSuchCity) {
 }
 
 TEST(TimeZoneWindowTest, DeliveredZonesCanAllBePicked) {
-    RecordingMessages messages;
+    RecordedMessages messages;
     TimeZone window(Path(DELIVERED_DATA_DIR) / "TZ.DAT", messages);
     window.show();
     window.Load();
@@ -86,7 +86,9 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         ::chmod(directory.Write("Atlas.exe", test.script).c_str(), 0755);
         std::string atlasDir = directory.path().string() + "\\";
         directory.Write("PCATPATH.TXT", atlasDir + "\r\n");
-        RecordingMessages messages;
+        RecordedMessages messages;
+        messages.answers = {Answer::Yes, Answer::Yes};
+        messages.texts = {""};
         AtlasLookup lookup([](const Path& program) { return RunAndWait(program); }, messages);
         int ticks = 0;
         QTimer timer;
@@ -98,7 +100,7 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         const auto place = lookup.LookUp(atlasDir);
         timer.stop();
         EXPECT_EQ(place.has_value(), test.found) << test.what;
-        EXPECT_EQ(messages.told.size(), 1U) << test.what;
+        EXPECT_EQ(messages.asked.size() + messages.told.size(), 1U) << test.what;
         if (std::string(test.what) == "a good one") {
             EXPECT_EQ(place->longitude->degrees, "122");
             EXPECT_GT(ticks, 3) << "the windows stay alive";

@@ -28,7 +28,7 @@ namespace {
 
 struct WheelsTest : ::testing::Test {
     ScratchDirectory directory;
-    RecordingMessages messages;
+    RecordedMessages messages;
     RecordedDialogs dialogs;
     Options options = DeliveredOptions();
     WheelData data = DeliveredWheelData();
@@ -118,8 +118,8 @@ TEST_F(WheelsTest, PrintsAsAsked) {
     messages.answers = {Answer::Cancel};
     Item(wheels, "mnuPrintChartwheel").trigger();
     EXPECT_FALSE(std::filesystem::exists(file));
-    EXPECT_EQ(messages.told[0].title, "Full page or half page chartwheel");
-    EXPECT_EQ(messages.told[0].text,
+    EXPECT_EQ(messages.asked.at(0).title, "Full page or half page chartwheel");
+    EXPECT_EQ(messages.asked[0].text,
               "Click 'YES' for full page chartwheel. Click 'NO' for half page chartwheel.");
     for (const Answer answer : {Answer::Yes, Answer::No}) {
         messages.answers = {answer};
