@@ -42,11 +42,16 @@ void WheelDesk::Connect() {
     connect(wheels_, &Wheels::mainWindowRequested, this, &WheelDesk::mainWindowRequested);
 }
 
-// The display constants give the size; a small screen cuts it.
+void WheelDesk::Close() {
+    if (wheels_ != nullptr) place_.Note(*wheels_);
+    delete wheels_;
+}
+
+// The display constants give the size, until the user has given one.
 void WheelDesk::Place() {
     const TwipsPlacement wanted{0.0, 0.0, static_cast<double>(state_.screen.windowHeight),
                                 static_cast<double>(state_.screen.windowWidth)};
-    PlaceWindow(*wheels_, BroughtIntoView(ToPixels(wanted, state_.screen.twipsPerPixel), UsableScreens()));
+    place_.Apply(*wheels_, ToPixels(wanted, state_.screen.twipsPerPixel));
 }
 
 void WheelDesk::WriteAscii() {

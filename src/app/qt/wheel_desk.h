@@ -7,6 +7,7 @@
 
 #include "app/editor_uses.h"
 #include "app/program_state.h"
+#include "platform/qt/placement.h"
 #include "wheel/qt/wheels_window.h"
 
 namespace tolvanis {
@@ -22,7 +23,7 @@ class WheelDesk : public QObject {
     // or damaged is told to the user.
     void Open();
     // Closes the wheel and its aspect window.
-    void Close() { delete wheels_; }
+    void Close();
 
     Wheels* wheels() { return wheels_; }
 
@@ -41,6 +42,7 @@ class WheelDesk : public QObject {
     PrintServices printing_;
     std::optional<WheelData> data_;
     QPointer<Wheels> wheels_;
+    KeptPlace place_;
 };
 
 }  // namespace tolvanis

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <compare>
 #include <tuple>
 #include <vector>
 
@@ -43,7 +44,14 @@ QRect ScreenOf(const QRect& window, const QList<QRect>& screens) {
 // A part of one axis of the screen, in pixels; both ends belong to it.
 struct Stretch {
     int first = 0, last = 0;
+    auto operator<=>(const Stretch&) const = default;
 };
+
+template <typename T>
+void KeepEachOnce(std::vector<T>& values) {
+    std::sort(values.begin(), values.end());
+    values.erase(std::unique(values.begin(), values.end()), values.end());
+}
 
 Stretch Horizontally(const QRect& rect) {
     return {rect.left(), rect.right()};
@@ -74,6 +82,8 @@ std::vector<Stretch> Stretches(const WantedStretch& wanted, const Stretch& scree
         starts.push_back(other.last + kGap);
         ends.push_back(other.first - kGap);
     }
+    KeepEachOnce(starts);
+    KeepEachOnce(ends);
     const int shortest = std::min(wanted.shortest, screen.last - screen.first + 1);
     std::vector<Stretch> found;
     const auto add = [&](int first, int last) {
@@ -85,6 +95,7 @@ std::vector<Stretch> Stretches(const WantedStretch& wanted, const Stretch& scree
         add(end - wanted.length + 1, end);
         add(end - shortest + 1, end);
     }
+    KeepEachOnce(found);
     return found;
 }
 
@@ -149,22 +160,27 @@ QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows&
     const QRect start = WhollyInView(wanted, screens);
     if (screens.isEmpty() || CoveredArea(start, others.frames) == 0) return start;
     const QRect screen = ScreenOf(start, screens);
-    const auto horizontal = Stretches({wanted.left(), wanted.width(), smallest.width()},
-                                      {screen.left(), screen.right()}, Along(&Horizontally, others.frames));
-    const auto vertical =
-        Stretches({wanted.top(), wanted.height(), smallest.height()}, {screen.top(), screen.bottom()},
-                  Along(&Vertically, others.frames + others.controls));
     const auto cost = [&](const QRect& place) {
         return std::tuple(CoveredArea(place, others.controls), CoveredArea(place, others.frames),
                           -place.width() * place.height(),
                           (place.topLeft() - wanted.topLeft()).manhattanLength());
     };
+    // A window that shows next to nothing is of no use: it shrinks by half of what it can, and by all of it
+    // only where it would cover a control otherwise.
     QRect best = start;
-    for (const Stretch& across : horizontal) {
-        for (const Stretch& down : vertical) {
-            const QRect place(QPoint(across.first, down.first), QPoint(across.last, down.last));
-            if (cost(place) < cost(best)) best = place;
+    for (const QSize& least : {(smallest + wanted.size()) / 2, smallest}) {
+        const QList<QRect> shown = others.frames + others.controls;
+        const auto horizontal = Stretches({wanted.left(), wanted.width(), least.width()},
+                                          Horizontally(screen), Along(&Horizontally, shown));
+        const auto vertical = Stretches({wanted.top(), wanted.height(), least.height()}, Vertically(screen),
+                                        Along(&Vertically, shown));
+        for (const Stretch& across : horizontal) {
+            for (const Stretch& down : vertical) {
+                const QRect place(QPoint(across.first, down.first), QPoint(across.last, down.last));
+                if (cost(place) < cost(best)) best = place;
+            }
         }
+        if (CoveredArea(best, others.controls) == 0) break;
     }
     return best;
 }
@@ -178,9 +194,7 @@ void PlaceBesideOthers(QWidget& window, const QRect& wanted) {
     for (QRect& screen : screens) screen.setHeight(screen.height() + CaptionHeight());
     const QSize caption(0, CaptionHeight());
     const QRect frame(wanted.topLeft(), wanted.size() + caption);
-    // A window that shows next to nothing is of no use: it shrinks by half of what it can.
-    const QSize smallest = (window.minimumSizeHint() + wanted.size()) / 2;
-    const QRect place = ClearPlace(frame, smallest + caption, others, screens);
+    const QRect place = ClearPlace(frame, window.minimumSizeHint() + caption, others, screens);
     PlaceWindow(window, QRect(place.topLeft(), place.size() - caption));
 }
 

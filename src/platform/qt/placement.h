@@ -33,7 +33,8 @@ struct ShownWindows {
 
 // The rectangle for a new window where it covers as little as can be of others' controls, then of their
 // windows. Where several do, it keeps its size as far as can be and comes as near as can be to where it is
-// wanted. It becomes no smaller than `smallest` and stays on one screen.
+// wanted. It shrinks by half of what it can, and down to `smallest` only to keep off a control; it stays on
+// one screen.
 QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows& others,
                  const QList<QRect>& screens);
 
