@@ -26,10 +26,6 @@ constexpr std::string_view kTemporaryStart = ".tolvanis-";
 constexpr std::string_view kTemporaryPattern = "XXXXXX";
 constexpr int kAttempts = 100;
 
-std::string Reason(int error) {
-    return std::generic_category().message(error != 0 ? error : EIO);
-}
-
 Fault CannotWrite(const Path& path, const std::string& reason) {
     return {"Cannot write the file " + path.string() + ": " + reason + "."};
 }
@@ -189,21 +185,27 @@ void FlushDirectory(const Path& directory) {
     if (opened.IsOpen()) ::fsync(opened.number());
 }
 
+// Tries every few milliseconds, for five seconds at most, whether something is still in the way.
+template <typename Blocked>
+bool StaysBlocked(Blocked blocked) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::seconds(5);
+    while (blocked()) {
+        if (Clock::now() >= end) return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return false;
+}
+
 // Keeps other programs of this kind from replacing files in the directory.
 class DirectoryLock {
   public:
     explicit DirectoryLock(const Path& directory)
         : descriptor_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-        using Clock = std::chrono::steady_clock;
-        constexpr auto kPause = std::chrono::milliseconds(2);
-        const auto end = Clock::now() + std::chrono::seconds(5);
-        while (descriptor_.IsOpen() && ::flock(descriptor_.number(), LOCK_EX | LOCK_NB) != 0) {
-            const bool mayComeFree = errno == EWOULDBLOCK || errno == EINTR;
-            if (!mayComeFree) break;
-            late_ = Clock::now() >= end;
-            if (late_) break;
-            std::this_thread::sleep_for(kPause);
-        }
+        late_ = descriptor_.IsOpen() && StaysBlocked([&] {
+                    const bool locked = ::flock(descriptor_.number(), LOCK_EX | LOCK_NB) == 0;
+                    return !locked && (errno == EWOULDBLOCK || errno == EINTR);
+                });
     }
 
     // Whether another program holds the lock for too long. Where there are no locks the work goes on.
@@ -264,23 +266,37 @@ Target TargetOf(const Path& path) {
     return target;
 }
 
+// A pipe that nobody reads is waited for, but not for ever.
+int OpenToWrite(const Path& path) {
+    int opened = -1;
+    const bool unread = StaysBlocked([&] {
+        opened = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+        return opened < 0 && errno == ENXIO;
+    });
+    if (unread) errno = ENXIO;
+    if (opened >= 0) ::fcntl(opened, F_SETFL, 0);
+    return opened;
+}
+
 Result<void> WriteInto(const Path& path, const Target& target, const Writer& write) {
-    const Descriptor file(target.descriptor >= 0
-                              ? ::fcntl(target.descriptor, F_DUPFD_CLOEXEC, 0)
-                              : ::open(target.path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
-    if (!file.IsOpen()) return CannotWrite(path, Reason(errno));
+    const Descriptor file(target.descriptor >= 0 ? ::fcntl(target.descriptor, F_DUPFD_CLOEXEC, 0)
+                                                 : OpenToWrite(target.path));
+    if (!file.IsOpen()) {
+        return CannotWrite(path, errno == ENXIO ? "nothing reads from this pipe" : SystemReason(errno));
+    }
     Output output(file);
     const bool written = write([&](std::string_view bytes) { return output.Write(bytes); });
     if (written && output.Flush()) return {};
-    return CannotWrite(path, output.error() != 0 ? Reason(output.error()) : "the content is incomplete");
+    return CannotWrite(path,
+                       output.error() != 0 ? SystemReason(output.error()) : "the content is incomplete");
 }
 
 // Writes the new content beside its target and flushes it to the disk.
 Result<void> Prepare(TemporaryFile& file, const Path& path, const Path& target, const Writer& write) {
-    if (file.error() != 0) return CannotWrite(path, Reason(file.error()));
+    if (file.error() != 0) return CannotWrite(path, SystemReason(file.error()));
     const bool written = write([&](std::string_view bytes) { return file.Write(bytes); });
     if (written && file.Finish(target)) return {};
-    return CannotWrite(path, file.error() != 0 ? Reason(file.error()) : "the content is incomplete");
+    return CannotWrite(path, file.error() != 0 ? SystemReason(file.error()) : "the content is incomplete");
 }
 
 // Where file systems have no hard links, the backup is a copy.
@@ -289,14 +305,14 @@ Result<void> CopyToBackup(const Path& backup, std::string_view content) {
     const Result<void> prepared =
         Prepare(copy, backup, backup, [&](const Sink& sink) { return sink(content); });
     if (!prepared) return prepared;
-    if (!copy.Place(backup)) return CannotWrite(backup, Reason(copy.error()));
+    if (!copy.Place(backup)) return CannotWrite(backup, SystemReason(copy.error()));
     return {};
 }
 
 // Puts the present content under the backup's name without a moment in which the file itself is missing.
 Result<void> MakeBackup(const Path& file, const Path& backup, std::string_view content) {
     const Target target = TargetOf(FindPath(backup));
-    if (target.error != 0) return CannotWrite(backup, Reason(target.error));
+    if (target.error != 0) return CannotWrite(backup, SystemReason(target.error));
     if (!target.IsReplaced()) return CannotWrite(backup, "it is no regular file");
     std::error_code error;
     const bool itself = target.path.filename() == file.filename() &&
@@ -308,7 +324,7 @@ Result<void> MakeBackup(const Path& file, const Path& backup, std::string_view c
     const bool kept = ::rename(spare.c_str(), target.path.c_str()) == 0;
     const int failure = errno;
     ::unlink(spare.c_str());  // left by a fault, and by rename when both are names of one file
-    if (!kept) return CannotWrite(backup, Reason(failure));
+    if (!kept) return CannotWrite(backup, SystemReason(failure));
     return {};
 }
 
@@ -320,13 +336,13 @@ Result<void> ReplaceFile(const Path& path, std::string_view content) {
 
 Result<void> ReplaceFile(const Path& path, const Writer& write) {
     const Target target = TargetOf(path);
-    if (target.error != 0) return CannotWrite(path, Reason(target.error));
+    if (target.error != 0) return CannotWrite(path, SystemReason(target.error));
     if (!target.IsReplaced()) return WriteInto(path, target, write);
     const Path directory = DirectoryOf(target.path);
     RemoveLeftFiles(directory);
     TemporaryFile file(directory);
     if (const Result<void> prepared = Prepare(file, path, target.path, write); !prepared) return prepared;
-    if (!file.Place(target.path)) return CannotWrite(path, Reason(file.error()));
+    if (!file.Place(target.path)) return CannotWrite(path, SystemReason(file.error()));
     FlushDirectory(directory);
     return {};
 }
@@ -334,7 +350,7 @@ Result<void> ReplaceFile(const Path& path, const Writer& write) {
 Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
                                 std::string_view content) {
     const Target target = TargetOf(FindPath(path));
-    if (target.error != 0) return CannotWrite(path, Reason(target.error));
+    if (target.error != 0) return CannotWrite(path, SystemReason(target.error));
     if (!target.IsReplaced()) return CannotWrite(path, "it is no regular file");
     const Path directory = DirectoryOf(target.path);
     const DirectoryLock lock(directory);
@@ -355,7 +371,7 @@ Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::strin
     } else if (!expected.empty()) {
         return false;
     }
-    if (!file.Place(target.path)) return CannotWrite(path, Reason(file.error()));
+    if (!file.Place(target.path)) return CannotWrite(path, SystemReason(file.error()));
     FlushDirectory(directory);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -21,16 +22,21 @@ constexpr int kMostNumberLines = 100000;
 constexpr double kLargestNumber = 9999999.0;  // seven digits
 constexpr char kDosEndMark = '\x1A';
 
-std::string Reason(int error) {
-    return std::generic_category().message(error);
-}
-
 std::string TooLarge(std::string_view what, std::size_t limit) {
     return std::string(what) + " has more than " + std::to_string(limit) + " bytes";
 }
 
 Fault CannotRead(const Path& path, const std::string& reason) {
     return {"Cannot read the file " + path.string() + ": " + reason + "."};
+}
+
+constexpr int kPatience = 2000;  // milliseconds for the first byte of a pipe
+constexpr int kForEver = -1;
+
+// Waits until there is something to read, or its end.
+bool HasInput(int descriptor, int patience) {
+    pollfd waiting{descriptor, POLLIN, 0};
+    return ::poll(&waiting, 1, patience) > 0;
 }
 
 // Calls `take` with every entry of a directory; one that cannot be read has none.
@@ -90,6 +96,10 @@ bool IsAscii(std::string_view text) {
 }
 
 }  // namespace
+
+std::string SystemReason(int error) {
+    return std::generic_category().message(error != 0 ? error : EIO);
+}
 
 Path PathFromText(std::string_view text) {
     std::string native(text);
@@ -166,9 +176,10 @@ std::string LineText(std::string_view line) {
     return IsAscii(text) ? std::string(text) : ToUtf8(text);
 }
 
+// A pipe that nobody writes into would keep the opening waiting for ever.
 ByteReader::ByteReader(const Path& path)
-    : descriptor_(::open(FindPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)) {
-    if (descriptor_ < 0) fault_ = Reason(errno);
+    : descriptor_(::open(FindPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)) {
+    if (descriptor_ < 0) fault_ = SystemReason(errno);
 }
 
 ByteReader::~ByteReader() {
@@ -178,12 +189,19 @@ ByteReader::~ByteReader() {
 std::string_view ByteReader::Next() {
     if (!fault_.empty()) return {};
     buffer_.resize(kPieceSize);
-    ssize_t count = 0;
-    do {
-        count = ::read(descriptor_, buffer_.data(), buffer_.size());
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) fault_ = Reason(errno);
-    return {buffer_.data(), count < 0 ? 0 : static_cast<std::size_t>(count)};
+    while (fault_.empty()) {
+        const ssize_t count = ::read(descriptor_, buffer_.data(), buffer_.size());
+        if (count > 0 || (count == 0 && begun_)) return {buffer_.data(), static_cast<std::size_t>(count)};
+        if (count == 0) {  // an empty file, or a pipe that nobody has opened to write
+            if (!HasInput(descriptor_, kPatience)) fault_ = "nothing writes into this pipe";
+        } else if (errno == EAGAIN) {
+            HasInput(descriptor_, kForEver);
+        } else if (errno != EINTR) {
+            fault_ = SystemReason(errno);
+        }
+        begun_ = true;
+    }
+    return {};
 }
 
 LineReader::LineReader(const Path& path)

@@ -49,6 +49,9 @@ bool IsReadableFile(const Path& path);
 inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
 inline constexpr std::size_t kLargestFile = std::size_t{1} << 28;
 
+// The system's words for one of its error numbers; 0, which tells nothing, is an input or output error.
+std::string SystemReason(int error);
+
 // Takes the first line, with its end, off the bytes. A line ends in LF, in CR LF or in CRs alone; any number
 // of CRs counts as one.
 std::string_view TakeLine(std::string_view& bytes);
@@ -70,12 +73,13 @@ class ByteReader {
 
     // The next piece, valid until the next call; empty at the end and after a fault.
     std::string_view Next();
-    // Why the file could not be opened or read to its end ("No such file or directory"); empty when all is
-    // well.
+    // Why the file could not be opened or read to its end, or that nothing comes out of a pipe ("No such file
+    // or directory"); empty when all is well.
     const std::string& Problem() const { return fault_; }
 
   private:
     int descriptor_;
+    bool begun_ = false;
     std::string fault_;
     std::vector<char> buffer_;
 };

@@ -136,10 +136,12 @@ TEST(SearchKeyTest, DropsWhatPeopleDoNotType) {
 }
 
 TEST(RecordSearchTest, RanksBeginningsBeforeWordsBeforeTheRest) {
-    const std::vector<std::string> texts = {"New York,NY", "Newyorker", "York,PA", "Yorkville", "Zürich"};
+    const std::vector<std::string> texts = {"New York,NY", "Newyorker", "York,PA",
+                                            "Yorkville",   "Zürich",    "München"};
     const RecordSearch search(texts.size(), [&](std::size_t i) { return texts[i]; });
     EXPECT_EQ(search.FindAll("york"), (std::vector<std::size_t>{2, 3, 0, 1}));
     EXPECT_EQ(search.FindAll("zuri"), std::vector<std::size_t>{4});
+    EXPECT_EQ(search.FindAll("muenchen"), std::vector<std::size_t>{5});
     EXPECT_EQ(search.FindAll(" "), std::vector<std::size_t>{});
     EXPECT_EQ(search.FindBeginning("y", 3), 3U);
     EXPECT_EQ(search.FindBeginning("york", 4), 2U) << "goes on at the start";

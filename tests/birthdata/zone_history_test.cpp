@@ -53,5 +53,32 @@ TEST(ZoneHistory, HasThePeriodsOfTheCompiledDataInEveryZoneTo2100) {
     EXPECT_EQ(&history->PeriodsOf("Asia/Calcutta"), &history->PeriodsOf("Asia/Kolkata"));
 }
 
+TEST(ZoneMoment, LastAndFirstWeekdaysOfMonths) {
+    constexpr int kSunday = 0, kSaturday = 6;
+    using Day = ZoneMoment::Day;
+    const struct {
+        Day kind;
+        int month, day, weekday, year;
+        CalendarDate date;
+    } cases[] = {{Day::Last, 12, 1, kSunday, 2023, {2023, 12, 31}},
+                 {Day::Last, 12, 1, kSaturday, 2023, {2023, 12, 30}},
+                 {Day::Last, 2, 1, kSunday, 2024, {2024, 2, 25}},
+                 {Day::OnOrAfter, 10, 1, kSunday, 2023, {2023, 10, 1}},
+                 {Day::OnOrAfter, 10, 2, kSunday, 2023, {2023, 10, 8}},
+                 {Day::OnOrBefore, 3, 31, kSunday, 2024, {2024, 3, 31}},
+                 {Day::OnOrBefore, 3, 30, kSunday, 2024, {2024, 3, 24}}};
+    for (const auto& test : cases) {
+        ZoneMoment moment;
+        moment.kind = test.kind;
+        moment.month = test.month;
+        moment.day = test.day;
+        moment.weekday = test.weekday;
+        const auto [year, month, day] = test.date;
+        EXPECT_EQ(moment.In(test.year) / 86400,
+                  JulianDayNumberOf(year, month, day) - JulianDayNumberOf(1970, 1, 1))
+            << year << ' ' << month << ' ' << day;
+    }
+}
+
 }  // namespace
 }  // namespace tolvanis

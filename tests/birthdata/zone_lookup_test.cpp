@@ -241,6 +241,9 @@ TEST(ZoneAdvice, SaysWhatIsInForceAndNothingElse) {
         entry.*box = "";
         EXPECT_TRUE(AdviseZone(Book(), entry).text.empty());
     }
+    incomplete.birthMinute = "60";
+    EXPECT_TRUE(AdviseZone(Book(), incomplete).text.empty()) << "no such minute";
+    incomplete.birthMinute = "30";
     incomplete.longDeg = "40";
     EXPECT_TRUE(AdviseZone(Book(), incomplete).text.empty()) << "the middle of the sea";
 }

@@ -62,9 +62,9 @@ TEST(ChartCommand, ApprovedListings) {
     }
 }
 
-// 2 January 2026, 3.30 hours of Universal Time.
+// 2 January 2026, 3.30 hours of Universal Time and two seconds.
 std::time_t EarlyInTheYear() {
-    return 1767324600;
+    return 1767324602;
 }
 
 // Now is read on the clock of the place: west of Greenwich it is earlier, east of it later. Without a place
@@ -87,6 +87,12 @@ TEST(ChartCommand, NowIsThePlacesOwn) {
     EXPECT_THAT(run({"--now", "--place", "P.LL:East"}), HasSubstr("02 Jan 2026    TZ = -5.8      9.15 A.M."));
     EXPECT_THAT(run({}), HasSubstr("02 Jan 2026    TZ = 5.0      3.30 A.M."));
     EXPECT_THAT(run({}), HasSubstr("HOUSE CUSPS - Koch"));
+    const auto at = [](std::vector<std::string_view> arguments) {
+        arguments.insert(arguments.begin(), {"--now", "--at"});
+        return RunWith(std::move(arguments), DELIVERED_DATA_DIR, EarlyInTheYear).output;
+    };
+    EXPECT_THAT(at({"Chicago, IL"}), HasSubstr("01 Jan 2026    TZ = 6.0      9.30 P.M."));
+    EXPECT_THAT(at({"Chicago, IL", "--zone", "5"}), HasSubstr("01 Jan 2026    TZ = 5.0      10.30 P.M."));
     kept == nullptr ? ::unsetenv("TZ") : ::setenv("TZ", zone.c_str(), 1);
 }
 
@@ -389,6 +395,34 @@ TEST(AppDirectory, ChosenInOrder) {
     EXPECT_EQ(ApplicationDirectory(hints, FirstStart::FillUserDirectory)->directory(), scratch / "given");
     hints.fromCommandLine = "/no/such/place";
     EXPECT_THAT(ApplicationDirectory(hints, FirstStart::LeaveAsIs).message(), HasSubstr("/no/such/place"));
+}
+
+TEST(AppDirectory, TheProcessGivesTheHints) {
+    const struct {
+        const char *own, *data, *home;
+        std::optional<std::string> fromEnvironment;
+        Path userDirectory;
+    } cases[] = {{"/own", "/data", "/home/me", "/own", "/data/tolvanis"},
+                 {nullptr, "data", "/home/me", std::nullopt, "/home/me/.local/share/tolvanis"},
+                 {nullptr, nullptr, nullptr, std::nullopt, ""}};
+    const std::array names = {"TOLVANIS_DIR", "XDG_DATA_HOME", "HOME"};
+    std::array<std::optional<std::string>, 3> kept;
+    const auto set = [&](std::size_t i, const char* value) {
+        value != nullptr ? ::setenv(names[i], value, 1) : ::unsetenv(names[i]);
+    };
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (const char* value = std::getenv(names[i])) kept[i] = value;
+    }
+    for (const auto& test : cases) {
+        const std::array values = {test.own, test.data, test.home};
+        for (std::size_t i = 0; i < names.size(); ++i) set(i, values[i]);
+        const DirectoryHints hints = HintsOfProcess("/line");
+        EXPECT_EQ(hints.fromCommandLine, "/line");
+        EXPECT_EQ(hints.fromEnvironment, test.fromEnvironment);
+        EXPECT_EQ(hints.userDirectory, test.userDirectory);
+        EXPECT_TRUE(std::filesystem::exists(hints.programDirectory / "engine_tests"));
+    }
+    for (std::size_t i = 0; i < names.size(); ++i) set(i, kept[i] ? kept[i]->c_str() : nullptr);
 }
 
 // A user's directory that an earlier version has filled: what the user edits stays, what is delivered for

@@ -8,7 +8,9 @@
 #include <unistd.h>
 
 #include <cmath>
+#include <cstring>
 #include <sstream>
+#include <thread>
 
 #include "platform/clock.h"
 #include "platform/terminal.h"
@@ -147,6 +149,30 @@ TEST(Files, WhatIsNoRegularFileIsWrittenTo) {
     EXPECT_EQ(::read(reading, got.data(), got.size()), 7);
     ::close(reading);
     EXPECT_TRUE(fs::is_fifo(directory / "pipe"));
+}
+
+TEST(Files, APipeThatNobodyServesIsGivenUp) {
+    const ScratchDirectory directory;
+    const Path pipe = directory / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_THAT(ReadBytes(pipe).message(), HasSubstr("nothing writes into this pipe"));
+    EXPECT_THAT(ReplaceFile(pipe, "x").message(), HasSubstr("nothing reads from this pipe"));
+    const auto write = [&](int pause) {
+        return std::thread([=] {
+            const int opened = ::open(pipe.c_str(), O_WRONLY);
+            for (const char* part : {"first\n", "second\n"}) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+                EXPECT_GT(::write(opened, part, std::strlen(part)), 0);
+            }
+            ::close(opened);
+        });
+    };
+    for (const int pause : {0, 50}) {
+        std::thread writer = write(pause);
+        const Result<std::string> read = ReadBytes(pipe);
+        EXPECT_EQ(read ? *read : read.message(), "first\nsecond\n") << pause;
+        writer.join();
+    }
 }
 
 TEST(Files, NamesMayBeAsLongAsTheSystemAllows) {

@@ -77,8 +77,10 @@ class DesktopWindow : public testing::Test {
         EXPECT_TRUE(reader.waitForFinished());
         std::vector<std::string> pages;
         for (const QByteArray& page : reader.readAllStandardOutput().split('\f')) {
-            if (!page.trimmed().isEmpty()) pages.push_back(page.toStdString());
+            pages.push_back(page.toStdString());
         }
+        EXPECT_EQ(pages.back(), "") << "every page ends";
+        pages.pop_back();
         return pages;
     }
 

@@ -36,7 +36,7 @@ TEST(Columns, UpperCaseOfThreeAlphabets) {
                  {"άλφα ώς", "ΆΛΦΑ ΏΣ"},
                  {"жанна ёж", "ЖАННА ЁЖ"},
                  {"đỗ", "ĐỖ"},
-                 {"日本 😀", "日本 😀"},
+                 {"日本 😀é", "日本 😀É"},
                  {"\xE9t\xE9", "\xE9T\xE9"}};
     for (const auto& c : cases) EXPECT_EQ(UpperCase(c.text), c.upper) << c.text;
     EXPECT_TRUE(EqualIgnoringCase("José", "JOSÉ"));
@@ -48,6 +48,9 @@ TEST(Columns, UpperCaseOfThreeAlphabets) {
 TEST(Columns, BytesBecomeUtf8) {
     EXPECT_EQ(ToUtf8("\xEF\xBB\xBFZo\xC3\xAB"), "Zoë");
     EXPECT_EQ(ToUtf8("Zo\xEB \x80 \x9E"), "Zoë € ž");
+    EXPECT_EQ(ToUtf8("\xF0\x90\x80\x80"), "\xF0\x90\x80\x80") << "the first letter of four bytes";
+    EXPECT_EQ(ToUtf8("\xE0\xA0\x80"), "\xE0\xA0\x80") << "the first of three";
+    EXPECT_EQ(ToUtf8("\xF0\x8F\x80\x80").substr(0, 2), "ð");
     EXPECT_EQ(ToUtf8("\xC0\xAF"), "À¯") << "an overlong sequence is not UTF-8";
     EXPECT_EQ(ToUtf8("\xED\xA0\x80").substr(0, 2), "í") << "a surrogate is not UTF-8";
     EXPECT_EQ(ToUtf8("a\xC3"), "aÃ") << "a sequence cut short";

@@ -162,6 +162,7 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     fileLabel_->setObjectName(QLatin1String(wording.label));
     countLabel_->setObjectName(QStringLiteral("lblCount"));
     problemLabel_->setObjectName(QStringLiteral("lblProblem"));
+    countLabel_->setTextFormat(Qt::PlainText);
     problemLabel_->setTextFormat(Qt::PlainText);
     problemLabel_->setWordWrap(true);
     problemLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -25,6 +25,7 @@ class WheelDeskTest : public DesktopWindow {
 
 TEST_F(WheelDeskTest, ShowsTheComputedChartAndItsTexts) {
     OpenWheel();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&wheels()));
     EXPECT_EQ(wheels().windowTitle(), QStringLiteral("Natal Chartwheel Ann Smith"));
     Trigger("mnuAsciiChart");
     EXPECT_TRUE(ListingHas("     Ann Smith - natal\n     22 Sep 1949\n     9.05 P.M. (4)"));
@@ -44,6 +45,18 @@ TEST_F(WheelDeskTest, ClosesWithTheInputAndKeepsTheTypeForTheNextWheel) {
     PressOK();
     Choose("mnuWheels");
     EXPECT_TRUE(Find<QAction>(wheels(), "mnuCTEuropean").isChecked());
+}
+
+TEST_F(WheelDeskTest, OpensBesideTheOthersAndThenWhereItsUserPutIt) {
+    OpenWheel();
+    const QRect menu(desktop_->mainWindow().pos(), desktop_->mainWindow().size());
+    EXPECT_FALSE(QRect(wheels().pos(), wheels().size()).intersects(menu));
+    EXPECT_GT(wheels().width(), 300);
+    const QRect wish(210, 190, 333, 310);
+    wheels().resize(wish.size());
+    wheels().move(wish.topLeft());
+    Choose("mnuWheels");
+    EXPECT_EQ(QRect(wheels().pos(), wheels().size()), wish);
 }
 
 TEST_F(WheelDeskTest, EditsTheOrbsInUse) {

@@ -1,0 +1,169 @@
+// What holds for every window of the program.
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QLabel>
+#include <QMenuBar>
+
+#include "app/qt/editor_window.h"
+#include "app/qt/select_file_window.h"
+#include "app/qt/title_window.h"
+#include "birthdata/qt/atlas_window.h"
+#include "platform/qt/symbol_font.h"
+#include "support/desktop_fixture.h"
+
+namespace tolvanis {
+namespace {
+
+bool IsInner(const QWidget& widget) {  // a part of one of Qt's own controls
+    for (const QWidget* part = &widget; part != nullptr && !part->isWindow(); part = part->parentWidget()) {
+        if (part->objectName().startsWith(QLatin1String("qt_"))) return true;
+        if (part != &widget && qobject_cast<const QAbstractItemView*>(part) != nullptr) return true;
+    }
+    return false;
+}
+
+// The captions of a menu, those of its menus in parentheses behind them.
+std::string ItemsOf(const QWidget& menu) {
+    std::string items;
+    for (const QAction* action : menu.actions()) {
+        if (!action->isVisible()) continue;
+        if (!items.empty()) items += ", ";
+        items += action->isSeparator() ? "-" : action->text().toStdString();
+        if (action->menu() != nullptr) items += " (" + ItemsOf(*action->menu()) + ")";
+    }
+    return items;
+}
+
+class EveryWindow : public DesktopWindow {
+  protected:
+    // The windows that are open now.
+    void CheckAll() {
+        QCoreApplication::processEvents();
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && !window->objectName().isEmpty()) Check(*window);
+        }
+    }
+    void Check(const QWidget& window) {
+        titles_[window.objectName().toStdString()] = window.windowTitle().toStdString();
+        for (const auto* menu : window.findChildren<QMenuBar*>()) {
+            menus_[window.objectName().toStdString()] = ItemsOf(*menu);
+        }
+        for (auto* control : window.findChildren<QWidget*>()) {
+            if (!control->isVisible() || IsInner(*control)) continue;
+            const std::string what =
+                (window.objectName() + QLatin1Char(' ') + control->objectName()).toStdString() + " (" +
+                control->metaObject()->className() + ")";
+            if (control->focusPolicy() != Qt::NoFocus) {
+                const auto* reader = QAccessible::queryAccessibleInterface(control);
+                EXPECT_TRUE(reader != nullptr && !reader->text(QAccessible::Name).isEmpty())
+                    << what << " has no name for those who cannot see it";
+            }
+            if (const auto* button = qobject_cast<QAbstractButton*>(control)) {
+                EXPECT_GE(button->width(), button->minimumSizeHint().width())
+                    << what << " cuts " << button->text().toStdString();
+            }
+            const auto* label = qobject_cast<QLabel*>(control);
+            if (label != nullptr && !label->objectName().isEmpty()) {
+                EXPECT_NE(label->textFormat(), Qt::AutoText) << what << " may take a name for markup";
+            }
+        }
+    }
+
+    std::map<std::string, std::string> titles_;
+    std::map<std::string, std::string> menus_;
+};
+
+TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
+    LoadSymbolFont(DataFiles(Path(DELIVERED_DATA_DIR).parent_path() / "fonts"));
+    CheckAll();
+    Press(input(), "Label1");
+    CheckAll();
+    Q_EMIT desktop_->birthDesk().names()->citiesRequested();
+    CheckAll();
+    for (const char* window : {"TimeZone", "Geograph"}) {
+        for (QWidget* open : QApplication::topLevelWidgets()) {
+            if (open->objectName() == QLatin1String(window)) open->close();
+        }
+    }
+    Press(input(), "Label1");
+    CheckAll();
+    TypeBirth();
+    PressOK();
+    Choose("mnuWheels");
+    Find<QAction>(*desktop_->wheelDesk().wheels(), "mnuAspects").trigger();
+    for (const char* item : {"mnuOptions", "mnuDataMeanings", "mnuReportNatal", "mnuKeywordS",
+                             "mnuKeywordSystem", "mnuHelpPrintHelp"}) {
+        Choose(item);
+        CheckAll();
+    }
+    SelectFIle chooser(directory_.path(), "*.FIL", (directory_.path() / "NAMES.FIL").string());
+    chooser.show();
+    const Result<ZoneBook> book = ZoneBook::Open(DataFiles(Path(DELIVERED_DATA_DIR)));
+    ASSERT_TRUE(book);
+    AtlasWindow atlas(*book, input().Entry(), directory_ / "TSRTEMP.TXT");
+    atlas.show();
+    About about(nullptr);
+    about.show();
+    ChooseInData("mnuPrintPage");
+    CheckAll();
+    const std::map<std::string, std::string> captions = {{"About", "About Tolvanis"},
+                                                         {"Atlas", "Atlas"},
+                                                         {"CWAspect", "Aspects"},
+                                                         {"Geograph", "Cities"},
+                                                         {"InputD", "Natal Input Data"},
+                                                         {"KW_SYSTM", "Keyword System of Analysis"},
+                                                         {"Keywords", "Keywords"},
+                                                         {"MEANINGS", "TOLVANIS MEANINGS"},
+                                                         {"Names", "Names"},
+                                                         {"Options", "Edit: OPTIONS.OPT"},
+                                                         {"OutputD1", "Tolvanis - Data"},
+                                                         {"PrntFile", "Data To Be Printed"},
+                                                         {"Report", "Tolvanis - REPORT"},
+                                                         {"SelectFIle", "Select a File"},
+                                                         {"TOLVANIS", "Tolvanis - 05 Jan 2027     14:07:03"},
+                                                         {"TimeZone", "Time Zones"},
+                                                         {"Wheels", "Natal Chartwheel Ann Smith"}};
+    EXPECT_EQ(titles_, captions);
+    EXPECT_EQ(menus_["OutputD1"],
+              "&File (&Save, Save &As), F&ont (&Increase, &Decrease, &Bold, I&talic), &Clear all data, "
+              "&Print page, Print &data, &Help");
+    EXPECT_EQ(menus_["Wheels"],
+              "AS&CII, &Aspects, &Orbs (&Select new orb file, &Edit orb file), &Print, "
+              "&Type (&American, &European, &Zodiac ring), &Help, &Export");
+}
+
+TEST_F(EveryWindow, EditorsDifferInWhatTheyShowAndAsk) {
+    const Path file = directory_.Write("MY.TXT", "text\r\n");
+    const struct {
+        EditorUse use;
+        const char *name, *caption;
+        bool hint, restores, asks;
+    } cases[] = {{EditorUse::Options, "Options", "Edit: OPTIONS.OPT", false, true, true},
+                 {EditorUse::NameEdit, "NameEdit", nullptr, true, false, true},
+                 {EditorUse::LongLat, "LongLat", nullptr, true, false, true},
+                 {EditorUse::P_Name, "P_Name", "Edit: PERSONAL.NAM", false, false, true},
+                 {EditorUse::OrbsEdit, "OrbsEdit", nullptr, false, false, false}};
+    for (const auto& test : cases) {
+        EditorWindow editor(test.use, file, messages_);
+        editor.setAttribute(Qt::WA_DeleteOnClose, false);
+        editor.show();
+        Check(editor);
+        EXPECT_EQ(titles_[test.name], test.caption != nullptr ? test.caption : "Edit: " + file.string());
+        const auto labels = editor.findChildren<QLabel*>();
+        EXPECT_EQ(labels.size(), test.hint ? 1 : 0) << test.name;
+        EXPECT_TRUE(!test.hint || labels[0]->text().startsWith(QLatin1String("Ctrl-C to copy.")));
+        EXPECT_EQ(editor.findChild<QPushButton*>(QStringLiteral("cmdRestoreDefault")) != nullptr,
+                  test.restores)
+            << test.name;
+        QTest::keyClicks(&Find<QPlainTextEdit>(editor, "txtContent"), QStringLiteral("new"));
+        EXPECT_TRUE(editor.HasUnsavedChanges());
+        messages_.asked.clear();
+        messages_.answers = {Answer::Cancel};
+        EXPECT_EQ(editor.MayClose(), !test.asks) << test.name;
+        EXPECT_EQ(messages_.asked.size(), test.asks ? 1U : 0U) << test.name;
+    }
+}
+
+}  // namespace
+}  // namespace tolvanis
