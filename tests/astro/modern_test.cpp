@@ -84,6 +84,18 @@ TEST(ModernEarth, AgreesWithMeeus) {
     EXPECT_NEAR(hours, 13.0 + 10.0 / 60.0 + 46.1351 / 3600.0, 0.01 / 3600.0);
 }
 
+// Neither the values nor the slopes of the table's pieces jump where they meet, but for the ten days that the
+// years' numbers leave out in 1582.
+TEST(ModernDeltaT, IsSmooth) {
+    constexpr double kStep = 36.525;  // days
+    for (double day = Day(-700, 1, 1); day < Day(2018, 10, 1); day += kStep / 3.0) {
+        if (std::abs(day - Day(1582, 10, 15)) < 2.0 * kStep) continue;
+        const double bend =
+            modern::DeltaT(day - kStep) - 2.0 * modern::DeltaT(day) + modern::DeltaT(day + kStep);
+        ASSERT_NEAR(bend, 0.0, 0.02) << "Julian day " << day;
+    }
+}
+
 TEST(ModernDeltaT, FollowsTheTableAndThePublishedMeanBeyondIt) {
     const struct {
         int year;

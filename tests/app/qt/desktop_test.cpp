@@ -200,9 +200,13 @@ TEST_F(DesktopWindow, AClearedBufferHasNothingToSaveOrPrint) {
 
 TEST_F(DesktopWindow, ANearlyFullBufferWarnsAtEveryShowingAndAFullOneOnce) {
     std::string text;
-    for (int i = 0; i < 1001; ++i) text += "line\r\n";
-    directory_.Write("LONG.HLP", text);
+    while (state_.buffer.BufferLineCount() < DataBuffer::kNearlyFull - 3) state_.buffer.AppendLine("line");
+    directory_.Write("LONG.HLP", "line\r\n");
     desktop_->ShowTextFile("LONG.HLP");
+    ASSERT_EQ(state_.buffer.BufferLineCount(), 1000U);
+    EXPECT_TRUE(messages_.told.empty());
+    ChooseInData("mnuBold");
+    ASSERT_EQ(state_.buffer.BufferLineCount(), 1001U);
     EXPECT_EQ(messages_.TakeTold().size(), 1U);
     ChooseInData("mnuBold");
     EXPECT_NE(messages_.TakeTold().at(0).find("nearly full"), std::string::npos);
@@ -211,26 +215,40 @@ TEST_F(DesktopWindow, ANearlyFullBufferWarnsAtEveryShowingAndAFullOneOnce) {
     ChooseInData("mnuBold");
     EXPECT_TRUE(messages_.told.empty());
 
-    for (int i = 0; i < 33; ++i) text += text.substr(0, 6006);
+    for (int i = 0; i < 33'000; ++i) text += "line\r\n";
     directory_.Write("LONG.HLP", text);
     desktop_->ShowTextFile("LONG.HLP");
     EXPECT_NE(messages_.TakeTold().at(0).find("The data buffer is full."), std::string::npos);
     EXPECT_EQ(state_.buffer.BufferLineCount(), DataBuffer::kMostLines);
     ChooseInData("mnuBold");
     EXPECT_NE(messages_.TakeTold().at(0).find("nearly full"), std::string::npos);
+    ChooseInData("mnuClear");
+    messages_.told.clear();
+    directory_.Write("LONG.HLP", "short\r\n");
+    desktop_->ShowTextFile("LONG.HLP");
+    EXPECT_TRUE(messages_.told.empty()) << "an emptied buffer is not full";
 }
 
 TEST_F(DesktopWindow, FontCommandsChangeTextAndSettings) {
     PressOK();
     auto& text = Find<QPlainTextEdit>(*desktop_->dataWindow(), "Text1");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(desktop_->dataWindow()));
+    EXPECT_TRUE(text.hasFocus());
     EXPECT_TRUE(IsReallyFixedPitch(text.font()));
     ChooseInData("mnuIncrease");
     EXPECT_NEAR(text.font().pointSizeF(), 8.5 + state_.screen.fontStep / 2, 0.1);
-    ChooseInData("mnuBold");
-    EXPECT_TRUE(text.font().bold());
-    EXPECT_EQ(state_.settings.dataView.FontBold, -1.0);
-    ChooseInData("mnuBold");
-    EXPECT_EQ(state_.settings.dataView.FontBold, 0.0);
+    const std::tuple<const char*, bool (QFont::*)() const, double DataViewSettings::*> looks[] = {
+        {"mnuBold", &QFont::bold, &DataViewSettings::FontBold},
+        {"mnuItalic", &QFont::italic, &DataViewSettings::FontItalic}};
+    for (const auto& [item, has, setting] : looks) {
+        const bool before = (text.font().*has)();
+        for (const bool on : {!before, before}) {
+            ChooseInData(item);
+            EXPECT_EQ((text.font().*has)(), on) << item;
+            EXPECT_EQ(state_.settings.dataView.*setting, on ? -1.0 : 0.0) << item;
+            EXPECT_EQ(Find<QAction>(*desktop_->dataWindow(), item).isChecked(), on) << item;
+        }
+    }
     for (int i = 0; i < 20; ++i) ChooseInData("mnuIncrease");
     EXPECT_FALSE(Find<QAction>(*desktop_->dataWindow(), "mnuIncrease").isEnabled());
     EXPECT_LT(state_.settings.dataView.FontSize, 12.0 + state_.screen.fontStep);

@@ -9,6 +9,7 @@
 #include "app/qt/select_file_window.h"
 #include "app/qt/title_window.h"
 #include "birthdata/qt/atlas_window.h"
+#include "interp/qt/status_window.h"
 #include "platform/qt/symbol_font.h"
 #include "support/desktop_fixture.h"
 
@@ -103,6 +104,8 @@ TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
     ASSERT_TRUE(book);
     AtlasWindow atlas(*book, input().Entry(), directory_ / "TSRTEMP.TXT");
     atlas.show();
+    StatusDlg status;
+    status.Open();
     About about(nullptr);
     about.show();
     ChooseInData("mnuPrintPage");
@@ -120,6 +123,7 @@ TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
                                                          {"OutputD1", "Tolvanis - Data"},
                                                          {"PrntFile", "Data To Be Printed"},
                                                          {"Report", "Tolvanis - REPORT"},
+                                                         {"StatusDlg", "% Completed"},
                                                          {"SelectFIle", "Select a File"},
                                                          {"TOLVANIS", "Tolvanis - 05 Jan 2027     14:07:03"},
                                                          {"TimeZone", "Time Zones"},

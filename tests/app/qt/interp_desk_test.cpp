@@ -111,6 +111,11 @@ TEST_F(InterpDeskTest, ReportFindsAndShowsTheLineOnTop) {
     EXPECT_EQ(FocusOf(report()), "txtFind");
     QTest::keyClicks(&box, QStringLiteral("TEXT 15"));
     EXPECT_TRUE(Shown().starts_with("text 15\n"));
+    const auto marks = Find<QPlainTextEdit>(report(), "txtContent").extraSelections();
+    ASSERT_EQ(marks.size(), 1);
+    EXPECT_EQ(marks[0].cursor.selectedText(), QStringLiteral("text 15"));
+    EXPECT_EQ(marks[0].format.background(), report().palette().highlight());
+    EXPECT_EQ(marks[0].format.foreground(), report().palette().highlightedText());
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_TRUE(Shown().starts_with("text 150\n"));
     EXPECT_EQ(FocusOf(report()), "txtFind");
