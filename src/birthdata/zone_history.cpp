@@ -96,9 +96,10 @@ class ZoneFileReader {
   public:
     // Whether the line could be read.
     bool Take(const std::string& line) {
-        if (line.starts_with('#') || line.empty()) return true;
+        if (line.starts_with('#')) return true;
         if (line.starts_with("D\t")) return TakeCase(line.substr(2));
         const std::vector<std::string> words = WordsOf(line);
+        if (words.empty()) return true;
         const std::span<const std::string> rest(words.begin() + 1, words.end());
         if (words[0] == "R") return TakeRule(rest);
         if (words[0] == "Z") return TakeZone(rest);

@@ -7,6 +7,7 @@
 #include "text/numbers.h"
 #include "wheel/planet_labels.h"
 #include "wheel/symbols.h"
+#include "wheel/wheel_blocks.h"
 #include "wheel/wheel_page.h"
 #include "wheel/wheel_support.h"
 #include "wheel/wheel_words.h"
@@ -298,6 +299,68 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
                                                               line.from.y - OnWheel(angle, 193.0).y) < 1e-6;
                                         }))
             << "the mark at the true angle " << angle;
+    }
+}
+
+// The glyph of an aspect stands in the middle of its line, on a disc that clears the lines behind it.
+TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
+    OrbTable orbs{};
+    orbs.fill(-1.0F);
+    orbs[3] = 1.0F;
+    chart = SpreadChart(0.0);
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
+    Put(chart, kSun, 130.0);
+    Put(chart, kMars, 220.5);
+    surface = {};
+    DrawWheel(surface, {chart, data, options, ChartType::ZodiacRing, 700.0, 700.0, false, orbs});
+    ASSERT_FALSE(surface.discs.empty());
+    for (const auto& disc : surface.discs) {
+        const bool clearsGlyph =
+            std::ranges::any_of(Texts(AspectGlyph(kSquare)), [&](const WheelText& glyph) {
+                const TextBox box = surface.Measure(glyph.text, glyph.font);
+                const double half = std::max(box.inkRight - box.inkLeft, box.inkBottom - box.inkTop) / 2;
+                return std::abs(glyph.corner.x + (box.inkLeft + box.inkRight) / 2 - disc.centre.x) < 1e-9 &&
+                       std::abs(glyph.corner.y - (box.inkTop + box.inkBottom) / 2 - disc.centre.y) < 1e-9 &&
+                       disc.radius > half && disc.radius < half + 2.0;
+            });
+        EXPECT_TRUE(clearsGlyph) << disc.centre.x << ' ' << disc.centre.y << ' ' << disc.radius;
+        EXPECT_EQ(disc.colour, surface.background);
+    }
+}
+
+TEST_F(DrawingTest, GridColoursGoByFamily) {
+    for (int family = 0; family < 7; ++family) options[181 + family] = static_cast<float>(family + 1);
+    const std::pair<int, std::vector<int>> families[] = {
+        {1, {kConjunction, kParallel}},    {2, {kSextile, kTrine}},
+        {3, {kSquare, kOpposition}},       {4, {kSemiSextile, kQuincunx}},
+        {5, {kSemiSquare, kSesquisquare}}, {6, {kSemiQuintile, kQuintile, kTrecile, kBiQuintile}},
+        {7, {kNonagen, kSeptile}}};
+    for (const auto& [colour, codes] : families) {
+        for (const int code : codes) EXPECT_EQ(GridColour(options, code), colour) << code;
+    }
+}
+
+TEST_F(DrawingTest, ElementsAndQualitiesHoldTheirPoints) {
+    const std::array kCells = {kSun,    kMoon,   kMercury, kVenus, kMars,      kJupiter,
+                               kSaturn, kUranus, kNeptune, kPluto, kAscendant, kMidheaven};
+    chart = EqualHouses(0.0);
+    for (int sign = 0; sign < 12; ++sign)
+        Put(chart, kCells[static_cast<std::size_t>(sign)], 30.0 * sign + 15.0);
+    const OrbTable orbs{};
+    const BlockSource source{chart, options, orbs};
+    const TextBlock table = ElementTable(source, surface, 10.0);
+    const auto find = [&](const std::string& text) {
+        const auto at = std::ranges::find(table.texts, text, &WheelText::text);
+        if (at == table.texts.end()) throw std::runtime_error("no " + text);
+        return Point{at->corner.x + surface.Measure(text, at->font).width / 2,
+                     at->corner.y - surface.Measure(text, at->font).height / 2};
+    };
+    const std::array kElements = {"Fire", "Earth", "Air", "Water"};
+    const std::array kQualities = {"Cardinal", "Fixed", "Mutable"};
+    for (std::size_t sign = 0; sign < 12; ++sign) {
+        const Point point = find(PointGlyph(kCells[sign]));
+        EXPECT_NEAR(point.y, find(kElements[sign % 4]).y, 0.5) << sign;
+        EXPECT_NEAR(point.x, find(kQualities[sign % 3]).x, 0.5) << sign;
     }
 }
 

@@ -65,7 +65,13 @@ class RecordingSurface : public DrawingSurface {
     Extent extent;
     int background = -1;
     std::vector<DrawnLine> lines;
+    struct DrawnDisc {
+        Point centre;
+        double radius;
+        int colour;
+    };
     std::vector<double> circles;  // radii
+    std::vector<DrawnDisc> discs;
     std::vector<RingSector> sectors;
     std::vector<WheelText> texts;
 
@@ -76,7 +82,7 @@ class RecordingSurface : public DrawingSurface {
         for (const LineSpan& line : given) Line(line.from, line.to, stroke);
     }
     void Circle(Point, double radius, Stroke) override { circles.push_back(radius); }
-    void Disc(Point, double, int) override {}
+    void Disc(Point centre, double radius, int colour) override { discs.push_back({centre, radius, colour}); }
     void Sector(const RingSector& sector, int) override { sectors.push_back(sector); }
     TextBox Measure(std::string_view text, TextFont font) const override {
         const double width = 0.6 * font.size * static_cast<double>(CharacterCount(text));
