@@ -42,6 +42,7 @@ TEST(Placement, SlotsOfOneHouse) {
         {"two together in front push on", {1.0, 2.0}, {0, 1}},
         {"a pile in the middle", {14.0, 14.1, 14.2, 14.3}, {3, 4, 5, 6}},
         {"a late pile of five fills the house from behind", {20.0, 21.0, 22.0, 23.0, 24.0}, {2, 3, 4, 5, 6}},
+        {"one on the cusp and a late pile of five", {0.0, 18.0, 19.0, 20.0, 21.0, 22.0}, {0, 2, 3, 4, 5, 6}},
         {"seven fill the house", {0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0}, {0, 1, 2, 3, 4, 5, 6}},
         {"the eighth runs on", {0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0}, {0, 1, 2, 3, 4, 5, 6, 7}},
     };

@@ -36,6 +36,19 @@ std::string ItemsOf(const QWidget& menu) {
     return items;
 }
 
+// The names of the controls that the Tab key leads through.
+std::string TabOrderOf(const QWidget& window) {
+    std::string names;
+    const QWidget* control = &window;
+    do {
+        const bool stops =
+            (control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisible() && control->isEnabled();
+        if (stops && !IsInner(*control)) names += control->objectName().toStdString() + " ";
+        control = control->nextInFocusChain();
+    } while (control != &window);
+    return names;
+}
+
 class EveryWindow : public DesktopWindow {
   protected:
     // The windows that are open now.
@@ -47,6 +60,7 @@ class EveryWindow : public DesktopWindow {
     }
     void Check(const QWidget& window) {
         titles_[window.objectName().toStdString()] = window.windowTitle().toStdString();
+        order_[window.objectName().toStdString()] = TabOrderOf(window);
         for (const auto* menu : window.findChildren<QMenuBar*>()) {
             menus_[window.objectName().toStdString()] = ItemsOf(*menu);
         }
@@ -73,6 +87,7 @@ class EveryWindow : public DesktopWindow {
 
     std::map<std::string, std::string> titles_;
     std::map<std::string, std::string> menus_;
+    std::map<std::string, std::string> order_;
 };
 
 TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
@@ -129,6 +144,22 @@ TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
                                                          {"TimeZone", "Time Zones"},
                                                          {"Wheels", "Natal Chartwheel Ann Smith"}};
     EXPECT_EQ(titles_, captions);
+    EXPECT_TRUE(std::ranges::any_of(about.findChildren<QLabel*>(), [](const QLabel* label) {
+        return label->text().contains(QStringLiteral("GeoNames"));
+    })) << "those whose work is used are named";
+    const std::pair<const char*, const char*> orders[] = {
+        {"InputD",
+         "txtName txtMonth txtDay txtYear txtBirthHour txtBirthMinute optPM txtTZ txtLongDeg txtLongMin "
+         "optWest txtLatDeg txtLatMin optNorth cmdNow cmdOK cmdSave Label1 Label2 "},
+        {"Names", "txtFind NamesOnFile Check1 Command1 cmdEditList cmdNewFileList "},
+        {"SelectFIle", "filList dirList drvList cmdSelect cmdCancel "},
+        {"Atlas",
+         "txtSearch lstPlaces txtMonth txtDay txtYear txtBirthHour txtBirthMinute optAM optPM cmdCancel "},
+        {"Report", "txtContent cmdDown1 cmdUp1 cmdPageDOWN cmdPageUP cmdSave cmdSaveAs btnCancel btnPrint "},
+        {"KW_SYSTM",
+         "Combo1 Combo2 Combo3 OKIntro1 OKIntro2 OKKey1 OKGeneral1 OKExample1 OKExample2 OKAspects "
+         "Command1 "}};
+    for (const auto& [window, order] : orders) EXPECT_EQ(order_[window], order);
     EXPECT_EQ(menus_["OutputD1"],
               "&File (&Save, Save &As), F&ont (&Increase, &Decrease, &Bold, I&talic), &Clear all data, "
               "&Print page, Print &data, &Help");

@@ -308,6 +308,10 @@ TEST_F(WheelsTest, KeyboardAndScreenReaderMeetThePoints) {
     QTest::keyClick(&canvas, Qt::Key_Backtab, Qt::ShiftModifier);
     QTest::keyClick(&canvas, Qt::Key_Left);
     EXPECT_EQ(canvas.current(), kChartPointCount - 1) << "behind the first comes the last";
+    QTest::keyClick(&canvas, Qt::Key_Home);
+    EXPECT_EQ(canvas.current(), 0);
+    QTest::keyClick(&canvas, Qt::Key_End);
+    EXPECT_EQ(canvas.current(), kChartPointCount - 1);
     std::set<int> points;
     for (int index = 0; index < kChartPointCount; ++index) {
         const int point = canvas.points()[static_cast<std::size_t>(index)].point;

@@ -1,0 +1,94 @@
+#!/usr/bin/env python3
+"""The built programs as their users start them.
+
+    programs_test.py BIN_DIRECTORY VERSION
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+BIN = Path()
+VERSION = ""
+ANN = "Ann Smith,22 Sep 1949,9.05,P,4,073.59,40.45"
+
+
+class Programs(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory(prefix="tolvanis-test-")
+        self.addCleanup(scratch.cleanup)
+        self.home = Path(scratch.name)
+        self.environment = {"PATH": os.environ["PATH"], "HOME": scratch.name, "QT_QPA_PLATFORM": "offscreen",
+                            "XDG_RUNTIME_DIR": scratch.name}
+
+    def run_program(self, name, *arguments, **others):
+        return subprocess.run([BIN / name, *arguments], env={**self.environment, **others.pop("environment", {})},
+                              capture_output="stdout" not in others, text=True, timeout=60, cwd=self.home, **others)
+
+    def start(self, name):
+        program = subprocess.Popen([BIN / name], env=self.environment, cwd=self.home, stderr=subprocess.DEVNULL)
+        self.addCleanup(program.wait)
+        self.addCleanup(program.kill)
+        return program
+
+    def test_each_tells_its_usage_and_refuses_what_it_does_not_know(self):
+        for name in ("tolvanis", "tolvanis-chart", "tolvanis-atlas"):
+            with self.subTest(name):
+                told = self.run_program(name, "--help")
+                self.assertEqual((told.returncode, told.stdout.startswith(f"Usage: {name}")), (0, True))
+                refused = self.run_program(name, "--bogus")
+                self.assertEqual((refused.returncode, refused.stdout), (2, ""))
+                self.assertIn(f"Usage: {name}", refused.stderr)
+        for name in ("tolvanis", "tolvanis-chart"):
+            self.assertEqual(self.run_program(name, "--version").stdout, f"{name} {VERSION}\n")
+            with open("/dev/full", "w", encoding="ascii") as full:
+                told = self.run_program(name, "--help", stdout=full, stderr=subprocess.PIPE)
+                self.assertEqual((told.returncode, told.stderr), (1, f"{name}: cannot write to standard output\n"))
+
+    def test_a_chart_is_printed_or_saved(self):
+        printed = self.run_program("tolvanis-chart", "--birth", ANN)
+        self.assertEqual((printed.returncode, printed.stderr), (0, ""))
+        self.assertIn("Ann Smith", printed.stdout)
+        saved = self.run_program("tolvanis-chart", "--birth", ANN, "--output", "ann.txt")
+        self.assertEqual((saved.returncode, saved.stdout), (0, ""))
+        self.assertEqual((self.home / "ann.txt").read_text(encoding="utf-8"), printed.stdout)
+        self.assertEqual(self.run_program("tolvanis-chart", "--birth", "Ann").returncode, 1)
+
+    def test_a_wheel_is_drawn_without_a_display(self):
+        for name, start in (("a.svg", b"<?xml"), ("a.png", b"\x89PNG"), ("a.pdf", b"%PDF")):
+            drawn = self.run_program("tolvanis", "--wheel", name, "--birth", ANN,
+                                     environment={"QT_QPA_PLATFORM": ""})
+            self.assertEqual((drawn.returncode, drawn.stderr), (0, ""))
+            self.assertTrue((self.home / name).read_bytes().startswith(start), name)
+
+    def test_no_display_is_told(self):
+        told = self.run_program("tolvanis", environment={"QT_QPA_PLATFORM": ""})
+        self.assertEqual(told.returncode, 1)
+        self.assertIn("there is no display", told.stderr)
+
+    def test_the_first_start_fills_the_users_directory_and_stays_open(self):
+        program = self.start("tolvanis")
+        own = self.home / ".local/share/tolvanis"
+        wanted = ["GA_MA.LL", "NAMES.FIL", "NATAL.ORB", "OPTIONS.OPT"]
+        for _ in range(200):
+            if all((own / name).exists() for name in wanted):
+                break
+            time.sleep(0.05)
+        self.assertEqual([name for name in wanted if not (own / name).exists()], [])
+        time.sleep(0.3)
+        self.assertIsNone(program.poll())
+
+    def test_the_atlas_opens(self):
+        program = self.start("tolvanis-atlas")
+        time.sleep(1.0)
+        self.assertIsNone(program.poll())
+
+
+if __name__ == "__main__":
+    VERSION = sys.argv.pop()
+    BIN = Path(sys.argv.pop()).resolve()
+    unittest.main()
