@@ -2,6 +2,7 @@
 
 #include "app/command_data.h"
 #include "cli/chart_output.h"
+#include "cli/entry_writer.h"
 #include "cli/zone_check.h"
 #include "platform/clock.h"
 #include "platform/terminal.h"
@@ -9,33 +10,24 @@
 namespace tolvanis {
 namespace {
 
-// Computes and prints single charts, and remembers whether one was refused.
-class ChartPrinter : public EntryReceiver {
+// Computes and prints single charts.
+class ChartPrinter : public EntryWriter {
   public:
     ChartPrinter(const ChartRequest& request, const CommandData& data, const Sink& output,
                  std::ostream& errors)
-        : options_(data.options),
+        : EntryWriter(output, errors),
+          options_(data.options),
           files_(data.files),
           method_(MethodOf(request, data.options)),
           format_(request.format),
-          output_(output),
-          errors_(errors),
           order_(HostDateTimeOrder()) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override { Print(entry, source, nullptr); }
 
     void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth& placed) override {
-        if (!placed.note.empty()) TellOn(errors_, source + ": " + placed.note);
+        if (!placed.note.empty()) Tell(source + ": " + placed.note);
         Print(entry, source, &placed);
     }
-
-    void Refuse(const std::string& source, const std::string& fault) override {
-        TellOn(errors_, source + ": " + fault);
-        status_ = kSomethingRefused;
-    }
-
-    bool WantsMore() const override { return canWrite_; }
-    ExitStatus status() const { return status_; }
 
   private:
     void WriteReport(const CurrentChart& chart, const std::string& source) {
@@ -62,22 +54,11 @@ class ChartPrinter : public EntryReceiver {
         }
     }
 
-    void Write(const std::string& text) {
-        if (canWrite_ && !output_(text)) {
-            canWrite_ = false;
-            status_ = kSomethingRefused;
-        }
-    }
-
     const Options& options_;
     const DataFiles& files_;
     Method method_;
     OutputFormat format_;
-    const Sink& output_;
-    std::ostream& errors_;
     DateTimeOrder order_;
-    bool canWrite_ = true;
-    ExitStatus status_ = kAllComputed;
 };
 
 }  // namespace

@@ -5,20 +5,21 @@
 #include "app/chart_driver.h"
 #include "birthdata/zone_advice.h"
 #include "chart/angles.h"
+#include "cli/entry_writer.h"
 #include "platform/terminal.h"
 #include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
 
-class ZoneChecker : public EntryReceiver {
+class ZoneChecker : public EntryWriter {
   public:
     ZoneChecker(const ZoneBook& book, const Options& options, const Sink& output, std::ostream& errors)
-        : book_(book), options_(options), output_(output), errors_(errors) {}
+        : EntryWriter(output, errors), book_(book), options_(options) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
         const auto found = ReadingsOfEntry(book_, entry);
-        if (!found) return Write(source + ": " + entry.name + ": no place within 60 km is known\n", false);
+        if (!found) return Write(source + ": " + entry.name + ": no place within 60 km is known\n");
         const double typed = LeadingNumber(entry.timeZone);
         if (found->WithZone(typed) != nullptr) return;
         std::string line = source + ": " + entry.name + ": zone " + entry.timeZone;
@@ -31,16 +32,9 @@ class ZoneChecker : public EntryReceiver {
                     ReadingText(reading) + ": Ascendant " + Difference(entry, found->HoursOf(reading)) +
                     ". " + GradeText(reading);
         }
-        Write(line + "\n", true);
+        NoteDifference();
+        Write(line + "\n");
     }
-
-    void Refuse(const std::string& source, const std::string& fault) override {
-        TellOn(errors_, source + ": " + fault);
-        status_ = kSomethingRefused;
-    }
-
-    bool WantsMore() const override { return canWrite_; }
-    ExitStatus status() const { return status_; }
 
   private:
     // The way of the Ascendant from the entry's zone to another, in degrees and minutes.
@@ -57,18 +51,8 @@ class ZoneChecker : public EntryReceiver {
         return (way < 0.0 ? "-" : "+") + std::to_string(minutes / 60) + "d " + TwoDigits(minutes % 60) + "m";
     }
 
-    void Write(const std::string& line, bool differs) {
-        if (differs) status_ = kSomethingRefused;
-        canWrite_ = canWrite_ && output_(line);
-        if (!canWrite_) status_ = kSomethingRefused;
-    }
-
     const ZoneBook& book_;
     const Options& options_;
-    const Sink& output_;
-    std::ostream& errors_;
-    bool canWrite_ = true;
-    ExitStatus status_ = kAllComputed;
 };
 
 }  // namespace

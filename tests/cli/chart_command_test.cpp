@@ -67,6 +67,48 @@ std::time_t EarlyInTheYear() {
     return 1767324602;
 }
 
+// Each line says what differs, and by how much the Ascendant moves; the status says whether anything does.
+TEST(ChartCommand, ZonesOfANamesFileAreChecked) {
+    const ScratchDirectory directory;
+    const std::string at = ",073.59,40.45\r\n";
+    const std::string right = "Right,14 Jul 1951,9.30,A,4" + at;
+    const auto names =
+        directory
+            .Write("z.fil", right + "Off,14 Jul 1951,9.30,A,5" + at + "Gap,29 Apr 1951,2.30,A,5" + at +
+                                "Twice,30 Sep 1951,1.30,A,6" + at +
+                                "Sea,14 Jul 1951,9.30,A,5,033.59,40.45\r\n")
+            .string();
+    const Outcome checked = RunWith({"--check-zones", "--names", names});
+    EXPECT_EQ(checked.status, kSomethingRefused);
+    const std::string city = "New York City, New York, United States; zone ";
+    const std::string grade = "Reference city: the clocks of New York City are on record";
+    EXPECT_EQ(checked.output, names + ":2: Off: zone 5; in force at " + city +
+                                  "4, daylight saving (EDT): Ascendant -11d 52m. " + grade + "\n" + names +
+                                  ":3: Gap: zone 5; this time did not exist at " + city +
+                                  "5, standard time (EST): Ascendant +0d 00m. " + grade +
+                                  "; zone 4, daylight saving (EDT): Ascendant -22d 29m. " + grade + "\n" +
+                                  names + ":4: Twice: zone 6; in force at " + city +
+                                  "4, daylight saving (EDT): Ascendant -23d 34m. " + grade +
+                                  "; zone 5, standard time (EST): Ascendant -11d 45m. " + grade + "\n" +
+                                  names + ":5: Sea: no place within 60 km is known\n");
+    directory.Write("z.fil", right);
+    const Outcome agreed = RunWith({"--check-zones", "--names", names});
+    EXPECT_EQ(agreed.status, kAllComputed);
+    EXPECT_EQ(agreed.output + agreed.errors, "");
+}
+
+TEST(ChartCommand, PlacedBirthsTellPlaceAndZone) {
+    const Outcome outcome =
+        RunWith({"--birth", "Ann,14 Jul 1951,9.30,A,5,0,0", "--at", "New York City", "--format", "json"});
+    EXPECT_EQ(outcome.status, kAllComputed);
+    EXPECT_THAT(
+        outcome.output,
+        HasSubstr("\"zone\":4,\"place\":{\"name\":\"New York City\",\"region\":\"New York\","
+                  "\"country\":\"United States\",\"longitude\":74.006,\"latitude\":40.714333333333336,"
+                  "\"zoneName\":\"America/New_York\"},\"zoneKind\":\"daylight\",\"zoneGrade\":\"reference\","
+                  "\"zoneRelease\":\"2026-07-21\""));
+}
+
 // Now is read on the clock of the place: west of Greenwich it is earlier, east of it later. Without a place
 // it is the host's clock; the houses are those of option 27.
 TEST(ChartCommand, NowIsThePlacesOwn) {
