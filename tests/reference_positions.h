@@ -2,13 +2,11 @@
 // The table of positions from a modern theory, and this program's positions for the same instants.
 
 #include <optional>
-#include <sstream>
-#include <string>
 #include <vector>
 
 #include "astro/planetary_positions.h"
 #include "chart/chart_positions.h"
-#include "platform/files.h"
+#include "reference_table.h"
 #include "text/numbers.h"
 
 namespace tolvanis {
@@ -21,23 +19,15 @@ struct ReferencePositions {
 
 // The rows of the table: Julian day, calendar date, then the longitudes of Sun, Moon, Mercury ... Pluto.
 inline std::vector<ReferencePositions> ReadReferencePositions(const Path& path) {
-    constexpr int kColumns[] = {kSun,     kMoon,   kMercury, kVenus,   kMars,
-                                kJupiter, kSaturn, kUranus,  kNeptune, kPluto};
     std::vector<ReferencePositions> rows;
-    LineReader reader(path);
-    for (std::string line; reader.Next(line);) {
-        if (line.empty() || line[0] < '0' || line[0] > '9') continue;
-        std::vector<std::string> cells;
-        std::istringstream rest(line);
-        for (std::string cell; std::getline(rest, cell, '\t');) cells.push_back(cell);
-        ReferencePositions row;
+    ForEachReferenceRow(path, [&](const std::vector<std::string>& cells) {
+        ReferencePositions& row = rows.emplace_back();
         row.julianDay = LeadingNumber(cells[0]);
         row.year = static_cast<int>(LeadingNumber(cells[1]));
-        for (std::size_t i = 0; i < std::size(kColumns) && i + 2 < cells.size(); ++i) {
-            row.longitude[kColumns[i]] = WholeNumber(cells[i + 2]);
+        for (std::size_t i = 0; i < std::size(kReferenceBodies) && i + 2 < cells.size(); ++i) {
+            row.longitude[kReferenceBodies[i]] = WholeNumber(cells[i + 2]);
         }
-        rows.push_back(row);
-    }
+    });
     return rows;
 }
 
