@@ -13,8 +13,6 @@ namespace tolvanis {
 namespace {
 
 constexpr int kLastYear = 2100;
-constexpr int kSecondsPerDay = 86400;
-constexpr int kJulianDayOf1970 = 2440588;
 
 constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                        "Thursday", "Friday", "Saturday"};

@@ -18,6 +18,10 @@ namespace tolvanis {
 
 inline constexpr std::string_view kZoneHistoryFile = "ZONES.DAT";
 
+// Moments are counted in seconds from the start of 1970, whose Julian day number this is.
+inline constexpr int kJulianDayOf1970 = 2440588;
+inline constexpr int kSecondsPerDay = 86400;
+
 enum class ZoneKind { Standard, Daylight, Double, War, NationalMean, LocalMean };
 
 // A period with one offset; it ends where the next one begins, the last one never.

@@ -9,8 +9,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr int kSecondsPerDay = 86400;
-constexpr int kJulianDayOf1970 = 2440588;
 constexpr double kKmOfReferenceCity = 15.0;
 constexpr double kSecondsPerDegree = 240.0;
 

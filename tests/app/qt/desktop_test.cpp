@@ -467,6 +467,11 @@ TEST_F(DesktopWindow, MissingOptionsAreRestoredOnlyWhenTheUserWantsIt) {
         EXPECT_NE(messages_.asked.back().find("OPTIONS.OPT"), std::string::npos);
     }
     std::filesystem::remove(directory_.path() / "OPTIONS.OPT");
+    std::filesystem::create_directory(directory_.path() / "OPTIONS.OPT");
+    messages_.answers = {Answer::Yes};
+    EXPECT_FALSE(Open());
+    EXPECT_EQ(messages_.TakeTold().size(), 1U) << "why it could not be restored";
+    std::filesystem::remove(directory_.path() / "OPTIONS.OPT");
     std::filesystem::remove(directory_.path() / "OPTIONS.MAS");
     EXPECT_FALSE(Open());
     EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.MAS is missing"), std::string::npos);
