@@ -227,6 +227,10 @@ TEST_F(DesktopWindow, ANearlyFullBufferWarnsAtEveryShowingAndAFullOneOnce) {
     directory_.Write("LONG.HLP", "short\r\n");
     desktop_->ShowTextFile("LONG.HLP");
     EXPECT_TRUE(messages_.told.empty()) << "an emptied buffer is not full";
+    directory_.Write("LONG.HLP", text);
+    desktop_->ShowTextFile("LONG.HLP");
+    EXPECT_NE(messages_.TakeTold().at(0).find("The data buffer is full."), std::string::npos)
+        << "once each time";
 }
 
 TEST_F(DesktopWindow, FontCommandsChangeTextAndSettings) {
@@ -237,6 +241,11 @@ TEST_F(DesktopWindow, FontCommandsChangeTextAndSettings) {
     EXPECT_TRUE(IsReallyFixedPitch(text.font()));
     ChooseInData("mnuIncrease");
     EXPECT_NEAR(text.font().pointSizeF(), 8.5 + state_.screen.fontStep / 2, 0.1);
+    const double larger = text.font().pointSizeF();
+    ChooseInData("mnuIncrease");
+    EXPECT_GT(text.font().pointSizeF(), larger);
+    ChooseInData("mnuDecrease");
+    EXPECT_EQ(text.font().pointSizeF(), larger);
     const std::tuple<const char*, bool (QFont::*)() const, double DataViewSettings::*> looks[] = {
         {"mnuBold", &QFont::bold, &DataViewSettings::FontBold},
         {"mnuItalic", &QFont::italic, &DataViewSettings::FontItalic}};

@@ -109,11 +109,11 @@ TEST_F(InterpDeskTest, ReportFindsAndShowsTheLineOnTop) {
     QTest::keyClick(&report(), Qt::Key_F, Qt::ControlModifier);
     auto& box = Find<QLineEdit>(report(), "txtFind");
     EXPECT_EQ(FocusOf(report()), "txtFind");
-    QTest::keyClicks(&box, QStringLiteral("TEXT 15"));
+    QTest::keyClicks(&box, QStringLiteral("EXT 15"));
     EXPECT_TRUE(Shown().starts_with("text 15\n"));
     const auto marks = Find<QPlainTextEdit>(report(), "txtContent").extraSelections();
     ASSERT_EQ(marks.size(), 1);
-    EXPECT_EQ(marks[0].cursor.selectedText(), QStringLiteral("text 15"));
+    EXPECT_EQ(marks[0].cursor.selectedText(), QStringLiteral("ext 15"));
     EXPECT_EQ(marks[0].format.background(), report().palette().highlight());
     EXPECT_EQ(marks[0].format.foreground(), report().palette().highlightedText());
     QTest::keyClick(&box, Qt::Key_Return);
