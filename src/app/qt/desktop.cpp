@@ -180,7 +180,7 @@ void Desktop::ShowMainWindow() {
 
 void Desktop::KeepMainPlacement() {
     const QRect place(main_->pos(), main_->size());
-    if (place == mainPlace_ || main_->isMinimized() || main_->isMaximized()) return;
+    if (IsSamePlace(place, mainPlace_) || main_->isMinimized() || main_->isMaximized()) return;
     const TwipsPlacement twips =
         ToTwips(place.adjusted(0, 0, 0, CaptionHeight()), state_.screen.twipsPerPixel);
     state_.settings.TOLVANISTop = twips.top;

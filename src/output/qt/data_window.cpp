@@ -255,7 +255,7 @@ void OutputD1::KeepPlacement() {
     // Placements that the program or the system chose are no wish of the user's.
     if (!isVisible() || isMinimized() || isMaximized() || isFullScreen()) return;
     const QRect place(pos(), size());
-    if (place == PlaceOf(context_)) return;
+    if (IsSamePlace(place, PlaceOf(context_))) return;
     const TwipsPlacement twips = ToTwips(place, context_.twipsPerPixel);
     context_.view.DataTop = RoundToInt16(twips.top);
     context_.view.DataLeft = RoundToInt16(twips.left);

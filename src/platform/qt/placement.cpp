@@ -155,6 +155,13 @@ QRect WhollyInView(QRect wanted, const QList<QRect>& screens) {
     return wanted;
 }
 
+bool IsSamePlace(const QRect& a, const QRect& b) {
+    constexpr int kRounding = 3;
+    const int differences[] = {a.left() - b.left(), a.top() - b.top(), a.width() - b.width(),
+                               a.height() - b.height()};
+    return std::ranges::all_of(differences, [](int pixels) { return std::abs(pixels) <= kRounding; });
+}
+
 QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows& others,
                  const QList<QRect>& screens) {
     const QRect start = WhollyInView(wanted, screens);
@@ -210,7 +217,7 @@ void KeptPlace::Apply(QWidget& window, const QRect& otherwise) {
 void KeptPlace::Note(const QWidget& window) {
     if (window.isMinimized() || window.isMaximized() || window.isFullScreen()) return;
     const QRect place(window.pos(), window.size());
-    if (place != given_) wish_ = place;
+    if (!IsSamePlace(place, given_)) wish_ = place;
 }
 
 QList<QRect> UsableScreens() {

@@ -25,6 +25,10 @@ QRect BroughtIntoView(const QRect& wanted, const QList<QRect>& screens);
 // The rectangle, moved onto the screen that shows most of it and cut where it is larger.
 QRect WhollyInView(QRect wanted, const QList<QRect>& screens);
 
+// Whether a window still is where the program has put it: window systems round places and sizes on screens of
+// fractional scale by a few pixels, which is no wish of the user's.
+bool IsSamePlace(const QRect& a, const QRect& b);
+
 // What a new window had better not cover.
 struct ShownWindows {
     QList<QRect> frames;

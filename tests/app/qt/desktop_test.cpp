@@ -522,6 +522,11 @@ TEST(Placement, BringsLostWindowsBack) {
                  {{10, 126, 800, 1100}, {10, 126, 800, 674}},  {{-50, -50, 1200, 900}, {0, 0, 1000, 800}}};
     for (const auto& test : cases) EXPECT_EQ(BroughtIntoView(test.wanted, screens), test.want);
     EXPECT_EQ(WhollyInView({800, 700, 300, 200}, screens), QRect(700, 600, 300, 200));
+    EXPECT_TRUE(IsSamePlace({10, 20, 300, 200}, {12, 19, 301, 203})) << "rounding is no wish";
+    for (const QRect moved : {QRect(14, 20, 300, 200), QRect(10, 16, 300, 200), QRect(10, 20, 304, 200),
+                              QRect(10, 20, 300, 196)}) {
+        EXPECT_FALSE(IsSamePlace({10, 20, 300, 200}, moved));
+    }
     EXPECT_EQ(WhollyInView({1400, 100, 300, 200}, screens), QRect(1200, 100, 300, 200));
 }
 
