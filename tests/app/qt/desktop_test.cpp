@@ -486,6 +486,26 @@ TEST_F(DesktopWindow, MissingOptionsAreRestoredOnlyWhenTheUserWantsIt) {
     EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.MAS is missing"), std::string::npos);
 }
 
+TEST_F(DesktopWindow, TheTitleIsShownWhereItsOptionSaysSo) {
+    auto lines = *ReadLines(directory_.path() / "OPTIONS.OPT");
+    for (const bool wanted : {true, false}) {
+        lines[46] = lines[48] = wanted ? "0" : "1";
+        lines[47] = wanted ? "1" : "0";
+        directory_.Write("OPTIONS.OPT", JoinLines(lines) + std::string("\r\n"));
+        bool shown = false;
+        QTimer closer;
+        QObject::connect(&closer, &QTimer::timeout, [&] {
+            if (auto* title = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                shown = title->objectName() == QLatin1String("Title");
+                title->accept();
+            }
+        });
+        closer.start(10);
+        ASSERT_TRUE(Open());
+        EXPECT_EQ(shown, wanted);
+    }
+}
+
 TEST_F(DesktopWindow, OptionsChooseHousesAtStart) {
     auto lines = *ReadLines(directory_.path() / "OPTIONS.OPT");
     for (const auto& [value, item] : {std::pair{"3", "mnuHouseKoch"}, {"12", "mnuHousePlacidus"}}) {

@@ -104,6 +104,18 @@ TEST_F(InterpDeskTest, ReportLettersGrowWithTheWindowAndTheScreenStays) {
     EXPECT_GT(area.font().pointSizeF(), 17.0);
 }
 
+// A bar that came with the one wide line would change the letters' size while the reader turns the pages.
+TEST_F(InterpDeskTest, AWideLineGivesTheWholeReportItsBar) {
+    for (const int length : {80, 81}) {
+        directory_.Write("PHILO.HLP",
+                         "first\r\n" + std::string(static_cast<std::size_t>(length), 'w') + "\r\n");
+        OpenReport();
+        EXPECT_EQ(Find<QPlainTextEdit>(report(), "txtContent").horizontalScrollBarPolicy(),
+                  length > 80 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+        Choose("mnuInputData");
+    }
+}
+
 TEST_F(InterpDeskTest, ReportFindsAndShowsTheLineOnTop) {
     OpenReport();
     QTest::keyClick(&report(), Qt::Key_F, Qt::ControlModifier);
