@@ -57,6 +57,11 @@ class Programs(unittest.TestCase):
         self.assertEqual((saved.returncode, saved.stdout), (0, ""))
         self.assertEqual((self.home / "ann.txt").read_text(encoding="utf-8"), printed.stdout)
         self.assertEqual(self.run_program("tolvanis-chart", "--birth", "Ann").returncode, 1)
+        (self.home / "two.fil").write_text(f"{ANN}\nBob,99 Sep 1949,9.05,P,4,073.59,40.45\n", encoding="ascii")
+        partly = self.run_program("tolvanis-chart", "--names", "two.fil", "--output", "two.txt")
+        self.assertEqual((partly.returncode, partly.stdout), (1, ""))
+        self.assertIn("two.fil:2", partly.stderr)
+        self.assertEqual((self.home / "two.txt").read_text(encoding="utf-8"), printed.stdout)
 
     def test_a_wheel_is_drawn_without_a_display(self):
         for name, start in (("a.svg", b"<?xml"), ("a.png", b"\x89PNG"), ("a.pdf", b"%PDF")):
@@ -64,6 +69,11 @@ class Programs(unittest.TestCase):
                                      environment={"QT_QPA_PLATFORM": ""})
             self.assertEqual((drawn.returncode, drawn.stderr), (0, ""))
             self.assertTrue((self.home / name).read_bytes().startswith(start), name)
+
+    def test_what_is_no_picture_is_wrong_usage(self):
+        refused = self.run_program("tolvanis", "--wheel", "a.gif", "--birth", ANN)
+        self.assertEqual((refused.returncode, refused.stdout), (2, ""))
+        self.assertIn("a picture's name ends in .svg, .pdf or .png", refused.stderr)
 
     def test_no_display_is_told(self):
         told = self.run_program("tolvanis", environment={"QT_QPA_PLATFORM": ""})

@@ -486,6 +486,12 @@ TEST_F(DesktopWindow, MissingOptionsAreRestoredOnlyWhenTheUserWantsIt) {
     EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.MAS is missing"), std::string::npos);
 }
 
+TEST_F(DesktopWindow, SettingsThatCannotBeKeptAreTold) {
+    std::filesystem::create_directory(directory_.path() / "Tolvanis.ini");
+    desktop_->mainWindow().close();
+    EXPECT_NE(messages_.TakeTold().at(0).find("Tolvanis.ini"), std::string::npos);
+}
+
 TEST_F(DesktopWindow, TheTitleIsShownWhereItsOptionSaysSo) {
     auto lines = *ReadLines(directory_.path() / "OPTIONS.OPT");
     for (const bool wanted : {true, false}) {
