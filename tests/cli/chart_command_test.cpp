@@ -491,6 +491,12 @@ TEST(AppDirectory, AnUpgradeReachesTheUser) {
     for (const auto* name : {"PRNTFILE.HLP", "new.hlp", "TZ.DAT"}) {
         EXPECT_EQ(FileContent(files->FindText(name)), "8 new\r\n") << name;
     }
+    std::string oneLetter = formerBlock;
+    oneLetter[oneLetter.size() / 2] ^= 1;
+    scratch.Write("home/prntfile.hlp", oneLetter);
+    EXPECT_EQ(FileContent(files->FindText("PRNTFILE.HLP")), oneLetter)
+        << "one letter changed is the user's own";
+    scratch.Write("home/prntfile.hlp", formerBlock);
     // A directory that was named stands for itself where texts are concerned, and borrows tables.
     const DataFiles named(scratch / "home", scratch / "prefix/share/tolvanis");
     EXPECT_EQ(FileContent(named.FindText("PRNTFILE.HLP")), formerBlock);
