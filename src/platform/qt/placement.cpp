@@ -175,8 +175,8 @@ QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows&
     // A window that shows next to nothing is of no use: it shrinks by half of what it can, and by all of it
     // only where it would cover a control otherwise.
     QRect best = start;
+    const QList<QRect> shown = others.frames + others.controls;
     for (const QSize& least : {(smallest + wanted.size()) / 2, smallest}) {
-        const QList<QRect> shown = others.frames + others.controls;
         const auto horizontal = Stretches({wanted.left(), wanted.width(), least.width()},
                                           Horizontally(screen), Along(&Horizontally, shown));
         const auto vertical = Stretches({wanted.top(), wanted.height(), least.height()}, Vertically(screen),
