@@ -17,7 +17,7 @@ void TakeAbove0(double value, double& setting) {
 }
 
 void TakeAbove0(double value, std::int16_t& setting) {
-    if (value > 0.0) setting = RoundToInt16(value);
+    if (const std::int16_t rounded = RoundToInt16(value); rounded > 0) setting = rounded;
 }
 
 void TakeText(std::string_view value, std::string& setting) {

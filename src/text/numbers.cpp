@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace tolvanis {
@@ -27,13 +28,25 @@ struct NumberPrefix {
     std::size_t end = 0;  // one past the number's last character; 0 when there is no number
 };
 
+// Whether digits, with at least one that is not 0, stand for less than 1.
+bool IsFraction(std::string_view digits) {
+    const std::size_t mantissaEnd = std::min(digits.find('e'), digits.size());
+    const std::string_view mantissa = digits.substr(0, mantissaEnd);
+    const std::string_view exponentText = digits.substr(std::min(mantissaEnd + 1, digits.size()));
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    std::int32_t exponent = 0;
+    const auto read =
+        std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return exponentText.front() == '-';
+    return point - first + (first < point ? 0 : 1) + exponent <= 0;
+}
+
 double Convert(std::string_view digits, bool negative) {
     double value = 0.0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        const auto exponent = digits.find('e');
-        const bool tiny = exponent != std::string_view::npos && digits[exponent + 1] == '-';
-        value = tiny ? 0.0 : std::numeric_limits<double>::max();
+        value = IsFraction(digits) ? 0.0 : std::numeric_limits<double>::max();
     }
     return negative ? -value : value;
 }

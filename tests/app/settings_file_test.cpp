@@ -46,6 +46,8 @@ TEST(SettingsFile, EveryLineHasItsRule) {
         {"fontsize= 9", [](const Settings& s) { EXPECT_EQ(s.dataView.FontSize, 8.5); }},
         {"DataHeight= 0", [](const Settings& s) { EXPECT_EQ(s.dataView.DataHeight, 8250); }},
         {"DataHeight=-4", [](const Settings& s) { EXPECT_EQ(s.dataView.DataHeight, 8250); }},
+        {"DataHeight= .5", [](const Settings& s) { EXPECT_EQ(s.dataView.DataHeight, 8250); }},
+        {"DataHeight= .51", [](const Settings& s) { EXPECT_EQ(s.dataView.DataHeight, 1); }},
         {"DataHeight=rubbish", [](const Settings& s) { EXPECT_EQ(s.dataView.DataHeight, 8250); }},
         {"DataWidth= 99999", [](const Settings& s) { EXPECT_EQ(s.dataView.DataWidth, 32767); }},
         {"DataTop= 2.5", [](const Settings& s) { EXPECT_EQ(s.dataView.DataTop, 2); }},

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace tolvanis {
 namespace {
@@ -30,8 +31,18 @@ TEST(Numbers, LeadingNumberTakesTheLongestPrefix) {
                  {"nan", 0},
                  {"1e999", std::numeric_limits<double>::max()},
                  {"-1e999", std::numeric_limits<double>::lowest()},
-                 {"1e-999", 0}};
+                 {"1e-999", 0},
+                 {"-1e99999999999999999999", std::numeric_limits<double>::lowest()},
+                 {"1e-99999999999999999999", 0}};
     for (const auto& c : cases) EXPECT_EQ(LeadingNumber(c.text), c.value) << '"' << c.text << '"';
+
+    // What no number of this size can hold is 0 or the largest, however it is written.
+    const std::string zeros(400, '0');
+    EXPECT_EQ(LeadingNumber("0." + zeros + "1"), 0.0);
+    EXPECT_EQ(LeadingNumber("1" + zeros), std::numeric_limits<double>::max());
+    EXPECT_EQ(LeadingNumber("1" + zeros + "e-90"), std::numeric_limits<double>::max());
+    EXPECT_EQ(LeadingNumber("0." + zeros + "1e90"), LeadingNumber("1e-311"));
+    EXPECT_EQ(LeadingNumber("0." + zeros + "1e-2000000000"), 0.0);
 }
 
 TEST(Numbers, WholeNumberRefusesAnythingElse) {
