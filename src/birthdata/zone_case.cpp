@@ -45,6 +45,8 @@ Result<ZoneCase> ParseZoneCase(std::string_view line) {
     made.to = *to;
     made.firstMonth = RoundToInt16(LeadingNumber(months[0]));
     made.lastMonth = RoundToInt16(LeadingNumber(months[1]));
+    if (made.firstMonth < 1 || made.lastMonth > 12 || made.lastMonth < made.firstMonth)
+        return Fault{"a case holds in months from 1 to 12"};
     made.country = fields[3];
     made.regions = Words(fields[4]);
     made.zones = Words(fields[5]);

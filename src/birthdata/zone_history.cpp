@@ -17,55 +17,61 @@ constexpr int kLastYear = 2100;
 constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                        "Thursday", "Friday", "Saturday"};
 
-int Whole(std::string_view text) {
-    return RoundToInt16(LeadingNumber(text));
+// Each reader takes a text over into a value, or leaves the value and returns false.
+
+bool ReadWhole(std::string_view text, int& value) {
+    if (text.empty() || text.size() > 4 || text.find_first_not_of("0123456789") != std::string_view::npos)
+        return false;
+    value = static_cast<int>(LeadingNumber(text));
+    return true;
 }
 
 // Hours, minutes and seconds with colons between them, a minus sign in front or a lone "-" for 0.
-int SecondsOf(std::string_view text) {
+bool ReadSeconds(std::string_view text, int& value) {
     const bool negative = text.starts_with('-');
     if (negative) text.remove_prefix(1);
     int seconds = 0;
     int unit = 3600;
-    for (const std::string& part : SplitAt(text, ':')) {
-        seconds += Whole(part) * unit;
+    for (const std::string& part : SplitAt(negative && text.empty() ? "0" : text, ':')) {
+        int count = 0;
+        if (unit == 0 || !ReadWhole(part, count)) return false;
+        seconds += count * unit;
         unit /= 60;
     }
-    return negative ? -seconds : seconds;
+    value = negative ? -seconds : seconds;
+    return true;
 }
 
 // Days of the week may be cut short: "Su", "lastM".
-int WeekdayOf(std::string_view text) {
-    for (std::size_t day = 0; day < kWeekdays.size(); ++day) {
-        if (StartsWithIgnoringAsciiCase(kWeekdays[day], text)) return static_cast<int>(day);
-    }
-    return -1;
+bool ReadWeekday(std::string_view text, int& weekday) {
+    const auto named = std::ranges::find_if(
+        kWeekdays, [&](std::string_view day) { return StartsWithIgnoringAsciiCase(day, text); });
+    if (text.empty() || named == kWeekdays.end()) return false;
+    weekday = static_cast<int>(named - kWeekdays.begin());
+    return true;
 }
 
 bool ReadDay(std::string_view text, ZoneMoment& moment) {
     constexpr std::string_view kLast = "last";
     if (text.starts_with(kLast)) {
         moment.kind = ZoneMoment::Day::Last;
-        moment.weekday = WeekdayOf(text.substr(kLast.size()));
-        return moment.weekday >= 0;
+        return ReadWeekday(text.substr(kLast.size()), moment.weekday);
     }
     const std::size_t sign = text.find_first_of("<>");
-    if (sign == std::string_view::npos) {
-        moment.day = Whole(text);
-        return moment.day >= 1 && moment.day <= 31;
+    if (sign != std::string_view::npos) {
+        moment.kind = text[sign] == '>' ? ZoneMoment::Day::OnOrAfter : ZoneMoment::Day::OnOrBefore;
+        if (!ReadWeekday(text.substr(0, sign), moment.weekday)) return false;
+        text.remove_prefix(std::min(sign + 2, text.size()));
     }
-    moment.kind = text[sign] == '>' ? ZoneMoment::Day::OnOrAfter : ZoneMoment::Day::OnOrBefore;
-    moment.weekday = WeekdayOf(text.substr(0, sign));
-    moment.day = Whole(text.substr(std::min(sign + 2, text.size())));
-    return moment.weekday >= 0;
+    return ReadWhole(text, moment.day) && moment.day >= 1 && moment.day <= 31;
 }
 
 // A time of day with the letter of its clock behind it.
-void ReadTime(std::string_view text, ZoneMoment& moment) {
-    const char letter = text.empty() ? '\0' : text.back();
-    if (letter == 's') moment.clock = ZoneMoment::Clock::Standard;
-    if (letter == 'u') moment.clock = ZoneMoment::Clock::Universal;
-    moment.seconds = SecondsOf(text);
+bool ReadTime(std::string_view text, ZoneMoment& moment) {
+    if (text.ends_with('s')) moment.clock = ZoneMoment::Clock::Standard;
+    if (text.ends_with('u')) moment.clock = ZoneMoment::Clock::Universal;
+    if (moment.clock != ZoneMoment::Clock::Wall) text.remove_suffix(1);
+    return ReadSeconds(text, moment.seconds);
 }
 
 // Month, day and time from as many fields as there are; the rest is the first of January at midnight.
@@ -76,8 +82,15 @@ bool ReadMoment(std::span<const std::string> fields, ZoneMoment& moment) {
         moment.month = *month;
     }
     if (fields.size() > 1 && !ReadDay(fields[1], moment)) return false;
-    if (fields.size() > 2) ReadTime(fields[2], moment);
-    return true;
+    return fields.size() < 3 || ReadTime(fields[2], moment);
+}
+
+// A name, two with a slash between them, or one with a place for letters ("%s") or for the offset ("%z").
+bool IsAbbreviationFormat(std::string_view text) {
+    const std::size_t percent = text.find('%');
+    if (percent == std::string_view::npos) return true;
+    const std::string_view behind = text.substr(percent + 1);
+    return (behind.starts_with('s') || behind.starts_with('z')) && behind.find('%') == std::string_view::npos;
 }
 
 std::vector<std::string> WordsOf(std::string_view line) {
@@ -107,18 +120,27 @@ class ZoneFileReader {
         return TakeEra(words);
     }
 
-    ZoneHistory Finish() { return std::move(history_); }
+    // The history, or what a zone refers to without its being there.
+    Result<ZoneHistory> Finish() {
+        for (const auto& [zone, eras] : history_.zones_) {
+            for (const ZoneEra& era : eras) {
+                if (!era.rules.empty() && !history_.rules_.contains(era.rules))
+                    return Fault{"the rules " + era.rules + " of the zone " + zone + " are missing"};
+            }
+        }
+        return std::move(history_);
+    }
 
   private:
     bool TakeRule(std::span<const std::string> words) {
         if (words.size() != 9) return false;
         ZoneRule rule;
-        rule.firstYear = Whole(words[1]);
-        rule.lastYear = words[2].starts_with('o')   ? rule.firstYear
-                        : words[2].starts_with('m') ? kLastYear
-                                                    : Whole(words[2]);
+        if (!ReadWhole(words[1], rule.firstYear)) return false;
+        rule.lastYear = words[2].starts_with('o') ? rule.firstYear : kLastYear;
+        const bool named = words[2].starts_with('o') || words[2].starts_with('m');
+        if (!named && !ReadWhole(words[2], rule.lastYear)) return false;
         if (!ReadMoment(words.subspan(4, 3), rule.moment)) return false;
-        rule.save = SecondsOf(words[7]);
+        if (!ReadSeconds(words[7], rule.save)) return false;
         rule.letters = words[8] == "-" ? std::string() : words[8];
         history_.rules_[words[0]].push_back(rule);
         return true;
@@ -133,12 +155,11 @@ class ZoneFileReader {
     bool TakeEra(std::span<const std::string> words) {
         if (zone_.empty() || words.size() < 3) return false;
         ZoneEra era;
-        era.standard = SecondsOf(words[0]);
-        const bool fixed = words[1].find_first_not_of("-0123456789:") == std::string::npos;
-        (fixed ? void(era.save = SecondsOf(words[1])) : void(era.rules = words[1]));
+        if (!ReadSeconds(words[0], era.standard) || !IsAbbreviationFormat(words[2])) return false;
+        if (!ReadSeconds(words[1], era.save)) era.rules = words[1];
         era.format = words[2];
         if (words.size() > 3) {
-            era.untilYear = Whole(words[3]);
+            if (!ReadWhole(words[3], era.untilYear.emplace())) return false;
             if (!ReadMoment(words.subspan(4), era.until)) return false;
         }
         history_.zones_[zone_].push_back(era);
@@ -197,7 +218,9 @@ Result<ZoneHistory> ZoneHistory::Read(const Path& file) {
                      ": this line of the zone history cannot be read"};
     }
     if (!lines.IsOpen()) return Fault{"Cannot read the file " + file.string() + ": " + lines.Problem() + "."};
-    return reader.Finish();
+    Result<ZoneHistory> history = reader.Finish();
+    if (!history) return Fault{file.string() + ": " + history.message()};
+    return history;
 }
 
 std::string_view ZoneHistory::Resolved(std::string_view zone) const {

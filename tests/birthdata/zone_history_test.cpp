@@ -53,6 +53,29 @@ TEST(ZoneHistory, HasThePeriodsOfTheCompiledDataInEveryZoneTo2100) {
     EXPECT_EQ(&history->PeriodsOf("Asia/Calcutta"), &history->PeriodsOf("Asia/Kolkata"));
 }
 
+TEST(ZoneHistory, WhatCannotBeReadIsNamedWithItsLine) {
+    const ScratchDirectory directory;
+    const auto faultOf = [&](std::string_view line) {
+        directory.Write("Z", "# by hand\nR c 1980 o - Ap 6 2s 1 S\n" + std::string(line) + "\n");
+        const auto history = ZoneHistory::Read(directory.path() / "Z");
+        return history ? std::string() : history.message();
+    };
+    const std::string file = (directory.path() / "Z").string();
+    for (const char* right :
+         {"Z A 1 c CE%sT", "Z A -0:53:28 - LMT", "Z A 1 - +01/+02", "Z A 1 -1 %z 1893 Ap lastSu 2u",
+          "R d 1977 1980 - Ap Su>=1 24 -0:20 -", "R d 1977 ma - F 29 0 1 S", " "}) {
+        EXPECT_EQ(faultOf(right), "") << right;
+    }
+    for (const char* wrong :
+         {"Z A 1 c CE%", "Z A 1 c CE%xT", "Z A 1 c %s%", "Z A one c CET", "Z A 1:0:0:0 c CET",
+          "Z A 1 c CET 19x3", "Z A 1 c CET 1893 Xx", "Z A 1 c CET 1893 Ap 32", "Z A 1 c CET 1893 Ap Su>=x",
+          "Z A 1 c CET 1893 Ap >=1", "Z A 1 c CET 1893 Ap 1 2x", "R d 12345 o - Ap 6 2s 1 S",
+          "R d 1980 x - Ap 6 2s 1 S", "R d 1980 o - Ap last 2s 1 S", "R d 1980 o - Ap 6 2s x S", "1 c CET"}) {
+        EXPECT_EQ(faultOf(wrong), file + ":3: this line of the zone history cannot be read") << wrong;
+    }
+    EXPECT_EQ(faultOf("Z A 1 d CE%sT"), file + ": the rules d of the zone A are missing");
+}
+
 TEST(ZoneMoment, LastAndFirstWeekdaysOfMonths) {
     constexpr int kSunday = 0, kSaturday = 6;
     using Day = ZoneMoment::Day;
