@@ -16,9 +16,8 @@ constexpr int kListLetters = 46;  // width of a list window with its frame
 
 // Windows close inside their own signals, so they are deleted later.
 template <typename Window>
-void Close(QPointer<Window>& window, KeptPlace& place) {
+void Close(QPointer<Window>& window) {
     if (window == nullptr) return;
-    place.Note(*window);
     window->disconnect();
     window->hide();
     window->deleteLater();
@@ -91,15 +90,15 @@ bool BirthDesk::IsShown() const {
 }
 
 void BirthDesk::CloseTimeZones() {
-    Close(zones_, zonesPlace_);
+    Close(zones_);
 }
 
 void BirthDesk::CloseNames() {
-    Close(names_, listPlace_);
+    Close(names_);
 }
 
 void BirthDesk::CloseCities() {
-    Close(cities_, listPlace_);
+    Close(cities_);
 }
 
 // The frame of the natal input, also before the window system has told how large its borders are.

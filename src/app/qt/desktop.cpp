@@ -321,7 +321,7 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
         connect(editor, &EditorWindow::closed, this, [this, use] { EditorClosed(use); });
         connect(editor, &EditorWindow::restoreRequested, this,
                 [this, opened = editor.data()] { RestoreDefaultOptions(*opened); });
-        PlaceBesideOthers(*editor, QRect(main_->geometry().bottomLeft(), editor->size()));
+        editorPlaces_[use].Apply(*editor, QRect(main_->geometry().bottomLeft(), editor->size()));
     }
     BringForward(*editor);
 }

@@ -114,6 +114,7 @@ class Desktop : public QObject {
     QPointer<OutputD1> data_;
     QPointer<PrntFile> print_;
     std::map<EditorUse, QPointer<EditorWindow>> editors_;
+    std::map<EditorUse, KeptPlace> editorPlaces_;
     std::map<std::string, Command> commands_;
     QTimer clock_;
     QRect mainPlace_;  // where the settings have put the main window

@@ -42,7 +42,7 @@ void InterpDesk::OpenReport() {
         report_ = new Report({state_.report, state_.options, state_.titlePrefix, state_.SaveFileName,
                               printing_, state_.files.Own(kReportsDirectory)});
         connect(report_, &Report::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-        PlaceBesideOthers(*report_, MiddlePlace(report_->size()));
+        reportPlace_.Apply(*report_, MiddlePlace(report_->size()));
     }
     report_->Load(state_.chart.natal.Name);
     BringForward(*report_);
@@ -59,7 +59,7 @@ void InterpDesk::OpenMeanings() {
 }
 
 void InterpDesk::CloseMeanings() {
-    if (meanings_ != nullptr) meaningsPlace_.Note(*meanings_);
+    if (meanings_ != nullptr) meanings_->hide();
     delete meanings_;
 }
 
@@ -77,7 +77,7 @@ void InterpDesk::OpenKeywords() {
     if (keywords_ == nullptr) {
         keywords_ = new Keywords(printing_.messages, state_.screen.twipsPerPixel);
         connect(keywords_, &Keywords::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-        PlaceBesideOthers(*keywords_, MiddlePlace(keywords_->size()));
+        keywordsPlace_.Apply(*keywords_, MiddlePlace(keywords_->size()));
     }
     BringForward(*keywords_);
 }
@@ -87,7 +87,7 @@ void InterpDesk::OpenKeywordSystem() {
         keywordSystem_ = new KW_SYSTM;
         connect(keywordSystem_, &KW_SYSTM::lessonChosen, this, &InterpDesk::lessonRequested);
         connect(keywordSystem_, &KW_SYSTM::mainWindowRequested, this, &InterpDesk::mainWindowRequested);
-        PlaceBesideOthers(*keywordSystem_, MiddlePlace(keywordSystem_->sizeHint()));
+        keywordSystemPlace_.Apply(*keywordSystem_, MiddlePlace(keywordSystem_->sizeHint()));
     }
     BringForward(*keywordSystem_);
 }

@@ -47,9 +47,9 @@ class InterpDesk : public QObject {
     PrintServices printing_;
     QPointer<Report> report_;
     QPointer<MEANINGS> meanings_;
-    KeptPlace meaningsPlace_;
     QPointer<Keywords> keywords_;
     QPointer<KW_SYSTM> keywordSystem_;
+    KeptPlace reportPlace_, meaningsPlace_, keywordsPlace_, keywordSystemPlace_;
 };
 
 }  // namespace tolvanis

@@ -43,7 +43,7 @@ void WheelDesk::Connect() {
 }
 
 void WheelDesk::Close() {
-    if (wheels_ != nullptr) place_.Note(*wheels_);
+    if (wheels_ != nullptr) wheels_->hide();
     delete wheels_;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QEvent>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -212,6 +213,12 @@ void KeptPlace::Apply(QWidget& window, const QRect& otherwise) {
         PlaceBesideOthers(window, otherwise);
     }
     given_ = QRect(window.pos(), window.size());
+    window.installEventFilter(this);
+}
+
+bool KeptPlace::eventFilter(QObject* window, QEvent* event) {
+    if (event->type() == QEvent::Hide) Note(static_cast<const QWidget&>(*window));
+    return QObject::eventFilter(window, event);
 }
 
 void KeptPlace::Note(const QWidget& window) {

@@ -2,6 +2,7 @@
 // Windows' places on the screen, in twips of 1/1440 logical inch.
 
 #include <QList>
+#include <QObject>
 #include <QRect>
 #include <optional>
 
@@ -46,15 +47,18 @@ QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows&
 // the size that of its inside.
 void PlaceBesideOthers(QWidget& window, const QRect& wanted);
 
-// The place that the user has given a window, kept from one window to the next of its kind.
-class KeptPlace {
+// The place that the user has given a window, kept from one window to the next of its kind. It is noted when
+// the window is hidden or closed; one that is deleted while it shows leaves none.
+class KeptPlace : public QObject {
   public:
     // Places the window where the user wants it, or else beside the others.
     void Apply(QWidget& window, const QRect& otherwise);
-    // To be called before the window goes.
-    void Note(const QWidget& window);
+
+    bool eventFilter(QObject* window, QEvent* event) override;
 
   private:
+    void Note(const QWidget& window);
+
     QRect given_;  // by the program
     std::optional<QRect> wish_;
 };

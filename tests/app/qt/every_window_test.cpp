@@ -168,6 +168,32 @@ TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
               "&Type (&American, &European, &Zodiac ring), &Help, &Export");
 }
 
+TEST_F(EveryWindow, OpensAgainWhereItsUserHasPutIt) {
+    const std::pair<const char*, const char*> windows[] = {
+        {"mnuOptions", "Options"},       {"mnuHeader", "P_Name"},      {"mnuWheels", "Wheels"},
+        {"mnuDataMeanings", "MEANINGS"}, {"mnuReportNatal", "Report"}, {"mnuKeywordS", "Keywords"},
+        {"mnuKeywordSystem", "KW_SYSTM"}};
+    TypeBirth();
+    PressOK();
+    int step = 0;
+    for (const auto& [item, name] : windows) {
+        const auto open = [&, item = item, name = name]() -> QWidget& {
+            Choose(item);
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                if (window->objectName() == QLatin1String(name) && window->isVisible()) return *window;
+            }
+            throw std::runtime_error(std::string(name) + " does not open");
+        };
+        const auto placeOf = [](const QWidget& window) { return QRect(window.pos(), window.size()); };
+        QWidget& first = open();
+        const QRect wish(QPoint(40 + 7 * ++step, 60), first.size() + QSize(9, 0));
+        PlaceWindow(first, wish);
+        first.close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(placeOf(open()), wish) << name << " closed by its cross";
+    }
+}
+
 TEST_F(EveryWindow, EditorsDifferInWhatTheyShowAndAsk) {
     const Path file = directory_.Write("MY.TXT", "text\r\n");
     const struct {
