@@ -13,6 +13,7 @@
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
+#include "platform/qt/accessible_windows.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/text.h"
@@ -97,6 +98,7 @@ void Desktop::MeasureScreen() {
 }
 
 void Desktop::MakeWindows() {
+    MakeWindowsAccessible();
     main_ = std::make_unique<TOLVANIS>();
     connect(main_.get(), &TOLVANIS::exitRequested, this, &Desktop::Exit);
     connect(main_.get(), &TOLVANIS::textFileChosen, this,

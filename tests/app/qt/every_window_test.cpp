@@ -58,7 +58,10 @@ class EveryWindow : public DesktopWindow {
             if (window->isVisible() && !window->objectName().isEmpty()) Check(*window);
         }
     }
-    void Check(const QWidget& window) {
+    void Check(QWidget& window) {
+        const QAccessible::Role role = QAccessible::queryAccessibleInterface(&window)->role();
+        EXPECT_TRUE(role == QAccessible::Window || role == QAccessible::Dialog)
+            << window.objectName().toStdString() << " is no window to a screen reader";
         titles_[window.objectName().toStdString()] = window.windowTitle().toStdString();
         order_[window.objectName().toStdString()] = TabOrderOf(window);
         for (const auto* menu : window.findChildren<QMenuBar*>()) {
