@@ -24,8 +24,8 @@ inline std::vector<ApparentReference> ReadApparentReferences(const Path& path) {
         row.terrestrialDay = LeadingNumber(cells[0]);
         row.fromDe405 = cells[1] == "DE405";
         for (std::size_t i = 0; i < std::size(kReferenceBodies) && 2 * i + 3 < cells.size(); ++i) {
-            row.longitude[kReferenceBodies[i]] = WholeNumber(cells[2 * i + 2]);
-            row.latitude[kReferenceBodies[i]] = WholeNumber(cells[2 * i + 3]);
+            row.longitude[kReferenceBodies[i]] = EntireNumber(cells[2 * i + 2]);
+            row.latitude[kReferenceBodies[i]] = EntireNumber(cells[2 * i + 3]);
         }
     });
     return rows;

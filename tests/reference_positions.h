@@ -25,7 +25,7 @@ inline std::vector<ReferencePositions> ReadReferencePositions(const Path& path) 
         row.julianDay = LeadingNumber(cells[0]);
         row.year = static_cast<int>(LeadingNumber(cells[1]));
         for (std::size_t i = 0; i < std::size(kReferenceBodies) && i + 2 < cells.size(); ++i) {
-            row.longitude[kReferenceBodies[i]] = WholeNumber(cells[i + 2]);
+            row.longitude[kReferenceBodies[i]] = EntireNumber(cells[i + 2]);
         }
     });
     return rows;

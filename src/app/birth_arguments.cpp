@@ -31,7 +31,7 @@ Result<void> SetPlace(BirthArguments& births, const std::string& place) {
 }
 
 Result<void> SetZone(BirthArguments& births, const std::string& hours) {
-    births.zone = WholeNumber(hours);
+    births.zone = EntireNumber(hours);
     if (births.zone && *births.zone >= -24.0 && *births.zone <= 24.0) return {};
     return Fault{"--zone needs hours, positive west, not \"" + hours + "\""};
 }

@@ -30,9 +30,11 @@ struct DesktopArguments {
     std::optional<std::string> appDirectory;
     bool help = false;
     bool version = false;
+    bool wheel = false;  // a picture is asked for instead of windows: ParseWheelArguments reads the rest
 };
 
-// The arguments after the program's name. A fault says what is wrong with them.
+// The arguments after the program's name. Help and version go before everything else, wherever they stand. A
+// fault says what is wrong with the arguments.
 Result<DesktopArguments> ParseDesktopArguments(std::span<const std::string_view> arguments);
 
 }  // namespace tolvanis

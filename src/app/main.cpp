@@ -29,8 +29,8 @@ bool HasDisplay() {
 
 int Run(const DesktopArguments& arguments) {
     MessageBoxes messages;
-    const Result<DataFiles> files =
-        ApplicationDirectory(HintsOfProcess(arguments.appDirectory), FirstStart::FillUserDirectory);
+    const DirectoryHints hints = HintsOfProcess(arguments.appDirectory);
+    const Result<DataFiles> files = ApplicationDirectory(hints, FirstStart::FillUserDirectory);
     if (!files) {
         messages.Tell("Error!", files.message(), MessageIcon::Stop);
         return EXIT_FAILURE;
@@ -39,8 +39,8 @@ int Run(const DesktopArguments& arguments) {
     state.files = *files;
     state.order = HostDateTimeOrder();
     // Without the delivered atlas the user is asked for another one.
-    const Path programDirectory = HintsOfProcess({}).programDirectory;
-    if (const auto atlas = PrepareOwnAtlas(files->directory(), programDirectory)) state.ownAtlas = *atlas;
+    const auto atlas = PrepareOwnAtlas(files->directory(), hints.programDirectory);
+    if (atlas) state.ownAtlas = *atlas;
     DesktopFileDialogs dialogs(files->directory());
     Desktop desktop(state, {messages, dialogs, PresentMoment});
     QObject::connect(&desktop, &Desktop::ended, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
@@ -59,7 +59,6 @@ int Print(std::string_view text) {
 int main(int argc, char** argv) {
     OccupyStandardStreams();
     const std::vector<std::string_view> given(argv + 1, argv + argc);
-    if (IsWheelCommand(given)) return RunWheelCommand(given, argv);
     const Result<DesktopArguments> arguments = ParseDesktopArguments(given);
     if (!arguments) {
         TellOn(std::cerr, "tolvanis: " + arguments.message() + "\n\n" + std::string(kDesktopUsage));
@@ -67,6 +66,7 @@ int main(int argc, char** argv) {
     }
     if (arguments->help) return Print(kDesktopUsage);
     if (arguments->version) return Print("tolvanis " TOLVANIS_VERSION "\n");
+    if (arguments->wheel) return RunWheelCommand(given, argv);
     if (!HasDisplay()) {
         std::cerr << "tolvanis: there is no display to open windows on; tolvanis-chart works without one\n";
         return EXIT_FAILURE;

@@ -14,12 +14,12 @@ inline constexpr std::string_view kOptionsMasterName = "OPTIONS.MAS";
 // lines in front of that end. A fault names the file that cannot be read.
 Result<int> ReadOptions(const DataFiles& files, Options& options);
 
-// Puts the master copy, the delivered options, in the place of the options file, whose content is kept under
-// BackupPath.
-Result<void> RestoreOptions(const DataFiles& files);
-
 // The same, with a fault also for a file of other content: one that reads as nothing but zeros, or in which
 // most lines hold no number.
 Result<void> LoadOptions(const DataFiles& files, Options& options);
+
+// Puts the master copy, the delivered options, in the place of the options file, whose content is kept under
+// BackupPath.
+Result<void> RestoreOptions(const DataFiles& files);
 
 }  // namespace tolvanis

@@ -5,13 +5,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Whether a file is our program of any version: only that says so in its usage.
+bool IsOurs(const Path& file) {
+    std::error_code error;
+    if (fs::is_symlink(file, error)) return fs::read_symlink(file, error).filename() == kOwnAtlasProgram;
+    const Result<std::string> content = ReadBytes(file);
+    return content && content->find("Usage: " + std::string(kOwnAtlasProgram)) != std::string::npos;
+}
+
+bool HaveSameContent(const Path& a, const Path& b) {
+    const Result<std::string> one = ReadBytes(a), other = ReadBytes(b);
+    return one && other && *one == *other;
+}
+
 // A link to the program; a copy where the file system knows no links.
 Result<void> LinkProgram(const Path& program, const Path& link) {
     std::error_code error;
-    if (fs::read_symlink(link, error) == program) return {};
-    const bool isUsers = !fs::is_symlink(link, error) && fs::exists(link, error);
-    if (isUsers && fs::file_size(link, error) == fs::file_size(program, error)) return {};
-    fs::remove(link, error);
+    if (IsNameTaken(link)) {
+        if (!IsOurs(link)) return Fault{"The file " + link.string() + " is another program."};
+        const bool isLink = fs::is_symlink(link, error);
+        const bool isRight =
+            isLink ? fs::read_symlink(link, error) == program : HaveSameContent(link, program);
+        if (isRight) return {};
+        fs::remove(link, error);
+    }
     fs::create_symlink(program, link, error);
     if (error) fs::copy_file(program, link, error);
     if (error) return Fault{"Cannot make the file " + link.string() + ": " + error.message() + "."};

@@ -13,11 +13,12 @@ inline constexpr std::string_view kOwnAtlasDirectory = "ATLAS";
 inline constexpr std::string_view kOwnAtlasProgram = "tolvanis-atlas";
 
 // Makes the directory ATLAS below the application directory with an ATLAS.EXE that starts the delivered atlas
-// program and a PCATPATH.TXT that names the directory itself. What is there and right stays. Gives the
-// directory with a separator at its end; a fault says what could not be made or that the program is missing.
+// program and a PCATPATH.TXT that names the directory itself. What is there and right stays, and so does all
+// of it where ATLAS.EXE is another program. Gives the directory with a separator at its end; a fault says
+// what could not be made, that the program is missing, or that the place is taken.
 Result<std::string> PrepareOwnAtlas(const Path& appDirectory, const Path& programDirectory);
 
-// The atlas directory of a run: the user's where it exists, else the delivered one's.
+// Where the atlas is looked for: in the user's directory where that exists, else in the delivered one's.
 std::string AtlasDirectoryOf(const std::string& settings, const std::string& own);
 
 }  // namespace tolvanis

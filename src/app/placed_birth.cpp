@@ -59,14 +59,6 @@ void SetPlace(NatalEntry& entry, const AtlasPlace& place) {
     FillPlace(entry, {place.Longitude(), place.Latitude(), entry.timeZone});
 }
 
-// The place with the coordinates that the entry takes, whole minutes.
-ZonePlace AsEntered(const AtlasPlace& place) {
-    ZonePlace entered = place.place;
-    entered.degreesEast = -DegreesOf(place.Longitude());
-    entered.degreesNorth = DegreesOf(place.Latitude());
-    return entered;
-}
-
 }  // namespace
 
 Result<PlacedBirth> PlaceBirth(const ZoneBook& book, const std::string& at, std::optional<double> zone,
@@ -81,7 +73,7 @@ Result<PlacedBirth> PlaceBirth(const ZoneBook& book, const std::string& at, std:
         entry.timeZone = NumberText(zone.value_or(0.0));
         return birth;
     }
-    const EntryReadings found{birth.place, *clock, LookUpZone(book.history, AsEntered(birth.place), *clock)};
+    const EntryReadings found{birth.place, *clock, LookUpZone(book.history, birth.place.AsEntered(), *clock)};
     const ZoneReading* reading = ReadingOf(found, zone);
     if (reading == nullptr && !zone) return Undecided(found);
     if (reading != nullptr) birth.reading = *reading;
@@ -97,7 +89,7 @@ Result<PlacedBirth> PlacePresentMoment(const ZoneBook& book, const std::string& 
     if (!place) return place.fault();
     const ClockMoment moment{universal.date,
                              universal.hour * 3600 + universal.minute * 60 + universal.second};
-    const ZonePlace entered = AsEntered(book.atlas.At(*place));
+    const ZonePlace entered = book.atlas.At(*place).AsEntered();
     const int offset = zone ? static_cast<int>(std::lround(*zone * -3600.0))
                             : OffsetAtUniversal(book.history, entered, moment);
     const ClockMoment there = Later(moment, offset);

@@ -11,8 +11,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::string_view kWheelArgument = "--wheel";
-
 Result<void> SetType(WheelArguments& wheel, const std::string& type) {
     const auto known = std::ranges::find(kChartTypeNames, type);
     if (known == kChartTypeNames.end()) {
@@ -23,11 +21,10 @@ Result<void> SetType(WheelArguments& wheel, const std::string& type) {
 }
 
 Result<void> SetSize(WheelArguments& wheel, const std::string& size) {
-    const std::optional<double> number = WholeNumber(size);
-    if (!number || *number < 100.0 || *number > 10000.0) {
-        return Fault{"--size needs a number of pixels from 100 to 10000, not \"" + size + "\""};
-    }
-    wheel.size = static_cast<int>(*number);
+    const std::optional<int> pixels = WholeNumberIn(size, 100, 10000);
+    if (!pixels)
+        return Fault{"--size needs a whole number of pixels from 100 to 10000, not \"" + size + "\""};
+    wheel.size = *pixels;
     return {};
 }
 
@@ -41,8 +38,8 @@ struct WheelArgument {
     std::string_view name;
     Result<void> (*set)(WheelArguments&, const std::string&);
 };
-constexpr std::array kWheelArguments = {WheelArgument{kWheelArgument, SetFile},
-                                        WheelArgument{"--type", SetType}, WheelArgument{"--size", SetSize}};
+constexpr std::array kWheelArguments = {WheelArgument{"--wheel", SetFile}, WheelArgument{"--type", SetType},
+                                        WheelArgument{"--size", SetSize}};
 
 Result<void> TakeWheelArgument(ArgumentReader& reader, WheelArguments& wheel) {
     const Result<bool> taken = TakeBirthArgument(reader, wheel);
@@ -85,12 +82,6 @@ class SnapshotTaker : public EntryReceiver {
 };
 
 }  // namespace
-
-bool IsWheelCommand(std::span<const std::string_view> arguments) {
-    return std::ranges::any_of(arguments, [](std::string_view argument) {
-        return argument == kWheelArgument || argument.starts_with("--wheel=");
-    });
-}
 
 Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arguments) {
     WheelArguments wheel;

@@ -19,9 +19,6 @@ struct WheelArguments : BirthArguments {
     int size = 1000;  // pixels, 100 to 10000
 };
 
-// Whether the arguments ask for a picture instead of windows.
-bool IsWheelCommand(std::span<const std::string_view> arguments);
-
 // A fault says what is wrong with the arguments.
 Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arguments);
 

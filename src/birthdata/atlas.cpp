@@ -213,6 +213,13 @@ Coordinate AtlasPlace::Latitude() const {
     return CoordinateInMinutes(place.degreesNorth, place.degreesNorth < 0.0);
 }
 
+ZonePlace AtlasPlace::AsEntered() const {
+    ZonePlace entered = place;
+    entered.degreesEast = -DegreesOf(Longitude());
+    entered.degreesNorth = DegreesOf(Latitude());
+    return entered;
+}
+
 Result<Atlas> Atlas::Read(const Path& file) {
     Result<std::string> text = ReadBytes(file);
     if (!text) return text.fault();

@@ -28,6 +28,8 @@ struct AtlasPlace {
     // The coordinates as an entry takes them, to the nearest minute.
     Coordinate Longitude() const;
     Coordinate Latitude() const;
+    // The place at these coordinates, where local mean time is as an entry has it.
+    ZonePlace AsEntered() const;
 };
 
 class Atlas {

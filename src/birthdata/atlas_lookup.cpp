@@ -41,7 +41,7 @@ bool IsCoordinate(std::string_view text, std::string_view letters, int most) {
     const std::size_t letter = text.find_first_of(letters);
     if (letter == std::string_view::npos) return false;
     const auto isNumber = [](std::string_view part) {
-        return WholeNumber(part) &&
+        return EntireNumber(part) &&
                TrimBlanks(part).find_first_not_of("0123456789.") == std::string_view::npos;
     };
     const std::string_view degrees = text.substr(0, letter);
@@ -64,7 +64,7 @@ std::string CoordinateText(const std::string& line) {
 std::string AtlasLinesFault(std::span<const std::string> lines) {
     if (!IsCoordinate(lines[1], "NS", 90)) return LineFault(2, lines[1], "latitude");
     if (!IsCoordinate(lines[2], "WE", 180)) return LineFault(3, lines[2], "longitude");
-    if (!WholeNumber(lines[4])) return LineFault(5, lines[4], "time zone in hours");
+    if (!EntireNumber(lines[4])) return LineFault(5, lines[4], "time zone in hours");
     return {};
 }
 
@@ -108,8 +108,10 @@ std::optional<AtlasResult> AtlasLookup::ReadResult(const std::string& atlasDir) 
     }
     const std::string& workingDirectory = path->front();
     const auto lines = FirstLines(FileIn(workingDirectory, kAtlasExchangeFile), 5);
-    const bool cancelled = !lines && !ownDirectory_.empty() && atlasDir == ownDirectory_;
-    if (cancelled) return std::nullopt;
+    std::error_code error;
+    const bool isOwn = atlasDir == ownDirectory_ ||
+                       std::filesystem::equivalent(FindPath(PathFromText(atlasDir)), ownDirectory_, error);
+    if (!lines && isOwn) return std::nullopt;  // cancelled
     if (!lines) {
         warn("Cannot find the file called TSRTEMP.TXT in the " + workingDirectory + " directory.");
         return std::nullopt;

@@ -44,7 +44,7 @@ struct BirthNumbers {
 Result<BirthNumbers> NumbersOf(const NameRecord& record) {
     const auto date = ParseDate(record.date);
     if (!date) return FieldFault(2, "birth date", record.date, "is no date of the form dd mmm yyyy");
-    const auto time = WholeNumber(record.time);
+    const auto time = EntireNumber(record.time);
     if (!time) return FieldFault(3, "clock time", record.time, "is no number");
     // Hours of the 24-hour clock are folded onto the dial, unless the record contradicts itself.
     const bool onDial = *time >= 0 && *time < 13;
@@ -52,11 +52,11 @@ Result<BirthNumbers> NumbersOf(const NameRecord& record) {
     if (!onDial && !foldable) {
         return FieldFault(3, "clock time", record.time, "is no time on the 12-hour dial");
     }
-    const auto zone = WholeNumber(record.timeZone);
+    const auto zone = EntireNumber(record.timeZone);
     if (!zone) return FieldFault(5, "time zone", record.timeZone, "is no number");
-    const auto longitude = WholeNumber(record.longitude);
+    const auto longitude = EntireNumber(record.longitude);
     if (!longitude) return FieldFault(6, "longitude", record.longitude, "is no number");
-    const auto latitude = WholeNumber(record.latitude);
+    const auto latitude = EntireNumber(record.latitude);
     if (!latitude) return FieldFault(7, "latitude", record.latitude, "is no number");
     return BirthNumbers{*date, *time, *zone, *longitude, *latitude};
 }

@@ -108,7 +108,7 @@ NatalEntry FillNow(const LocalTime& now, const Options& options) {
 
 HourRule ApplyHourRule(std::string_view text) {
     if (TrimBlanks(text).empty()) return {HourRule::Outcome::AskForValue, std::string(text), false};
-    const auto hour = WholeNumber(text);
+    const auto hour = EntireNumber(text);
     if (!hour) return {HourRule::Outcome::TooFast, std::string(text), false};
     if (*hour == 0) return {HourRule::Outcome::Keep, "12", false};
     if (*hour > 12) {

@@ -13,16 +13,10 @@ namespace {
 constexpr double kMostKm = 60.0;
 constexpr double kOneSecond = 1.0 / 3600.0;
 
-std::optional<int> Whole(const std::string& text, int least, int most) {
-    const auto number = WholeNumber(text);
-    if (!number || *number < least || *number > most || *number != std::floor(*number)) return std::nullopt;
-    return static_cast<int>(*number);
-}
-
 std::optional<double> Degrees(const std::string& degrees, const std::string& minutes, int most,
                               bool negative) {
-    const auto whole = Whole(degrees, 0, most);
-    const auto sixtieths = Whole(minutes, 0, 59);
+    const auto whole = WholeNumberIn(degrees, 0, most);
+    const auto sixtieths = WholeNumberIn(minutes, 0, 59);
     if (!whole || !sixtieths) return std::nullopt;
     const double value = *whole + *sixtieths / 60.0;
     return negative ? -value : value;
@@ -84,11 +78,11 @@ Result<ZoneBook> ZoneBook::Open(const DataFiles& files) {
 }
 
 std::optional<ClockMoment> ClockOfEntry(const NatalEntry& entry) {
-    const auto year = Whole(entry.year, 100, 2099);
-    const auto month = Whole(entry.month, 1, 12);
-    const auto day = Whole(entry.day, 1, 31);
-    const auto hour = Whole(entry.birthHour, 1, 12);
-    const auto minute = Whole(entry.birthMinute, 0, 59);
+    const auto year = WholeNumberIn(entry.year, 100, 2099);
+    const auto month = WholeNumberIn(entry.month, 1, 12);
+    const auto day = WholeNumberIn(entry.day, 1, 31);
+    const auto hour = WholeNumberIn(entry.birthHour, 1, 12);
+    const auto minute = WholeNumberIn(entry.birthMinute, 0, 59);
     if (!year || !month || !day || !hour || !minute) return std::nullopt;
     const int hours = *hour % 12 + (entry.pm ? 12 : 0);
     return ClockMoment{{*year, *month, *day}, hours * 3600 + *minute * 60};
@@ -147,7 +141,7 @@ ZoneAdvice AdviseZone(const ZoneBook& book, const NatalEntry& entry) {
     const auto& readings = found->answer.readings;
     if (readings.empty()) return NoReading(*found);
     if (readings.size() > 1) return TwoReadings(*found);
-    const auto typed = WholeNumber(entry.timeZone);
+    const auto typed = EntireNumber(entry.timeZone);
     if (typed && found->WithZone(*typed) != nullptr) return {};
     return OneReading(*found, readings.front());
 }

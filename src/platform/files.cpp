@@ -92,7 +92,7 @@ std::string_view WithoutMarks(std::string_view text) {
 }
 
 bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 }  // namespace
@@ -135,13 +135,9 @@ bool IsNameTaken(const Path& path) {
 }
 
 std::optional<Path> OtherSpelling(const Path& path) {
-    std::optional<Path> other;
-    bool exact = false;
-    ForEachEntry(path.parent_path(), [&](const Path& entry) {
-        exact = exact || entry.filename() == path.filename();
-        if (EqualIgnoringCase(entry.filename().string(), path.filename().string())) other = entry;
-    });
-    return exact ? std::nullopt : other;
+    if (IsNameTaken(path)) return std::nullopt;
+    const Path other = FindEntryIgnoringCase(path.parent_path(), path.filename());
+    return other.empty() ? std::nullopt : std::optional(other);
 }
 
 Path AbsolutePath(const Path& path) {

@@ -156,10 +156,16 @@ double LeadingNumber(std::string_view text) {
     return ReadPrefix(text).value;
 }
 
-std::optional<double> WholeNumber(std::string_view text) {
+std::optional<double> EntireNumber(std::string_view text) {
     const NumberPrefix prefix = ReadPrefix(text);
     if (prefix.end == 0 || SkipBlanks(text, prefix.end) != text.size()) return std::nullopt;
     return prefix.value;
+}
+
+std::optional<int> WholeNumberIn(std::string_view text, int least, int most) {
+    const auto number = EntireNumber(text);
+    if (!number || *number < least || *number > most || *number != std::floor(*number)) return std::nullopt;
+    return static_cast<int>(*number);
 }
 
 std::int16_t RoundToInt16(double value) {

@@ -15,7 +15,10 @@ double LeadingNumber(std::string_view text);
 
 // The number that makes up the whole text, blanks around it allowed, and nothing where there is more or less
 // than one number.
-std::optional<double> WholeNumber(std::string_view text);
+std::optional<double> EntireNumber(std::string_view text);
+
+// The same where the number is a whole one from `least` to `most`.
+std::optional<int> WholeNumberIn(std::string_view text, int least, int most);
 
 // The value rounded half to even into 16 bits. Values beyond the range become the nearest bound and an
 // invalid number becomes 0, so that a damaged settings file can never stop the program.

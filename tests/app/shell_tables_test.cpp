@@ -145,6 +145,8 @@ TEST(DesktopArguments, WrongOnesAreRefused) {
     EXPECT_EQ(parse({"--app-dir=/x"})->appDirectory, "/x");
     EXPECT_TRUE(parse({"--help"})->help);
     EXPECT_TRUE(parse({"--version"})->version);
+    EXPECT_TRUE(parse({"--wheel", "a.svg", "--help"})->help);
+    EXPECT_TRUE(parse({"--now", "--wheel=a.svg"})->wheel);
     EXPECT_FALSE(parse({"--app-dir"}));
     EXPECT_FALSE(parse({"chart.fil"}));
 }

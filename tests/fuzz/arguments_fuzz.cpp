@@ -30,8 +30,8 @@ void Fuzz(std::string_view input) {
         arguments.push_back(input.substr(0, end));
         input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
     }
-    static_cast<void>(ParseDesktopArguments(arguments));
-    if (IsWheelCommand(arguments)) static_cast<void>(ParseWheelArguments(arguments));
+    const Result<DesktopArguments> desktop = ParseDesktopArguments(arguments);
+    if (desktop && desktop->wheel) static_cast<void>(ParseWheelArguments(arguments));
     const Result<ChartRequest> request = ParseCommandLine(arguments);
     Require(request || !request.message().empty(), "wrong usage is explained");
     if (!request || request->namesFile || request->place || request->at)

@@ -45,10 +45,10 @@ TEST(Numbers, LeadingNumberTakesTheLongestPrefix) {
     EXPECT_EQ(LeadingNumber("0." + zeros + "1e-2000000000"), 0.0);
 }
 
-TEST(Numbers, WholeNumberRefusesAnythingElse) {
-    EXPECT_EQ(WholeNumber(" -5.75 "), -5.75);
+TEST(Numbers, EntireNumberRefusesAnythingElse) {
+    EXPECT_EQ(EntireNumber(" -5.75 "), -5.75);
     for (const auto* text : {"", " ", "5h", "5 5", "-", "1,5", "x5"}) {
-        EXPECT_FALSE(WholeNumber(text)) << '"' << text << '"';
+        EXPECT_FALSE(EntireNumber(text)) << '"' << text << '"';
     }
 }
 

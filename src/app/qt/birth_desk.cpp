@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "app/own_atlas.h"
 #include "birthdata/atlas_exchange.h"
 #include "platform/qt/external_program.h"
 
@@ -182,7 +183,11 @@ void BirthDesk::SaveEntry() {
 }
 
 void BirthDesk::LookUpInAtlas() {
-    if (const auto place = atlas_.LookUp(state_.settings.AtlasDir)) FillInPlace(*place);
+    const std::string directory = AtlasDirectoryOf(state_.settings.AtlasDir, state_.ownAtlas);
+    std::string answer = directory;
+    const auto place = atlas_.LookUp(answer);
+    if (answer != directory) state_.settings.AtlasDir = answer;
+    if (place) FillInPlace(*place);
 }
 
 // Advice is an extra: without its files there is none.

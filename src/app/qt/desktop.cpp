@@ -9,7 +9,6 @@
 #include "app/chart_driver.h"
 #include "app/clock_caption.h"
 #include "app/options_file.h"
-#include "app/own_atlas.h"
 #include "app/qt/editor_window.h"
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
@@ -53,7 +52,6 @@ bool Desktop::Start() {
     if (state_.options[kTitleOption] != 0.0F) ShowTitle();
     const Hourglass hourglass;
     state_.settings = ReadSettings(state_.files.directory());
-    state_.settings.AtlasDir = AtlasDirectoryOf(state_.settings.AtlasDir, state_.ownAtlas);
     MeasureScreen();
     state_.method = MethodOfOptions(state_.options);
     MakeWindows();
@@ -83,7 +81,9 @@ bool Desktop::StartOptions() {
         services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
         return false;
     }
-    return static_cast<bool>(LoadOptions(state_.files, state_.options));
+    const Result<void> again = LoadOptions(state_.files, state_.options);
+    if (!again) services_.messages.Tell("Error!", again.message(), MessageIcon::Stop);
+    return static_cast<bool>(again);
 }
 
 void Desktop::ShowTitle() {

@@ -20,7 +20,7 @@ void WheelDesk::Open() {
     }
     Close();
     LoadSymbolFont(state_.files);  // the window tells when there is none
-    const WheelContext context{*data_, state_.options, state_.files.Own(kNatalOrbs),
+    const WheelContext context{*data_, state_.options, state_.files.Find(kNatalOrbs),
                                state_.files.Own(kPersonalBlockName), printing_};
     wheels_ = new Wheels(MakeWheelSnapshot(state_.chart.natal, state_.chart.positions), context,
                          state_.settings.TypeChart);

@@ -187,7 +187,8 @@ void AtlasWindow::ShowReadings() {
     } else if (!clock) {
         lblAnswer_->setText(QStringLiteral("Enter the date and the time of the birth."));
     } else {
-        const AtlasPlace place = book_.atlas.At(item->data(0, Qt::UserRole).toULongLong());
+        AtlasPlace place = book_.atlas.At(item->data(0, Qt::UserRole).toULongLong());
+        place.place = place.AsEntered();
         found_ = EntryReadings{place, *clock, LookUpZone(book_.history, place.place, *clock)};
         lblAnswer_->setText(ToQt(Advice(*found_)));
         const bool none = found_->answer.readings.empty();

@@ -11,10 +11,12 @@
 #include <QTreeWidget>
 
 #include "app/own_atlas.h"
+#include "birthdata/atlas_lookup.h"
 #include "birthdata/qt/cities_window.h"
 #include "birthdata/qt/natal_input_window.h"
 #include "support.h"
 #include "support/window_user.h"
+#include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
@@ -54,6 +56,23 @@ TEST(AtlasProgramTest, LeavesPlaceAndZone) {
               "Köln, North Rhine-Westphalia, Germany\r\n50N56\r\n6E57\r\n\r\n-2\r\n");
 }
 
+// Local mean time depends on the place: handed over, it is that of the coordinates that are handed over.
+TEST(AtlasProgramTest, NothingSpeaksAgainstWhatItHandsOver) {
+    const ScratchDirectory directory;
+    for (const char* city : {"Wien", "Sydney", "Buenos Aires", "Kabul", "Kyiv"}) {
+        AtlasWindow window(Book(), BirthAt("1850", "7", "14", "9"), directory / "TSRTEMP.TXT");
+        window.show();
+        Type(window, "txtSearch", city);
+        Press(window, "cmdOK");
+        const auto lines = *ReadLines(directory / "TSRTEMP.TXT");
+        NatalEntry entry = BirthAt("1850", "7", "14", "9");
+        FillPlace(entry, PlaceOfAtlas({lines[2], lines[1], static_cast<float>(LeadingNumber(lines[4]))}));
+        EXPECT_EQ(AdviseZone(Book(), entry).text, "") << city << ' ' << lines[4];
+        entry.timeZone = "0";
+        EXPECT_NE(AdviseZone(Book(), entry).text, "") << city;
+    }
+}
+
 TEST(AtlasProgramTest, AsksWhichOfTwoAndLeavesNothingWhenCancelled) {
     const ScratchDirectory directory;
     AtlasWindow window(Book(), BirthAt("2001", "10", "28", "1"), directory / "TSRTEMP.TXT");
@@ -89,6 +108,21 @@ TEST(AtlasProgramTest, IsSetUpOnceAndFollowsTheProgram) {
                   directory / programs / "tolvanis-atlas");
         EXPECT_EQ(FileContent(directory / "ATLAS/PCATPATH.TXT"), *prepared + "\r\n");
     }
+    const Path link = directory / "ATLAS/ATLAS.EXE";
+    const auto place = [&](const char* content) {
+        std::filesystem::remove(link);
+        directory.Write("ATLAS/ATLAS.EXE", content);
+        return static_cast<bool>(PrepareOwnAtlas(directory.path(), directory / "moved"));
+    };
+    directory.Write("ATLAS/PCATPATH.TXT", "c:\\maps\\\r\n");
+    EXPECT_FALSE(place("PROGRAM")) << "as large as ours, and the user's own";
+    EXPECT_EQ(FileContent(link), "PROGRAM");
+    EXPECT_EQ(FileContent(directory / "ATLAS/PCATPATH.TXT"), "c:\\maps\\\r\n");
+    EXPECT_TRUE(place("a copy of an older version\nUsage: tolvanis-atlas\n"));
+    EXPECT_EQ(FileContent(link), "program");
+    std::filesystem::remove(link);
+    std::filesystem::create_symlink("/opt/maps/maps", link);
+    EXPECT_FALSE(PrepareOwnAtlas(directory.path(), directory / "moved")) << "a link of the user's";
     EXPECT_EQ(AtlasDirectoryOf("", "/own/"), "/own/");
     EXPECT_EQ(AtlasDirectoryOf(directory.path().string(), "/own/"), directory.path().string())
         << "the user's";
