@@ -16,6 +16,8 @@ std::string Described(const ZoneReading& reading) {
 
 Fault Undecided(const EntryReadings& found) {
     const bool twice = !found.answer.readings.empty();
+    if (!twice && found.answer.around.empty())
+        return {"the zone history knows nothing of the zone " + found.place.place.zone};
     std::string text = FormatDate(found.clock.date) + " " + ClockText(found.clock) +
                        (twice ? " came twice in " : " did not exist in ") + found.place.FullName() +
                        "; --zone settles it:";

@@ -15,6 +15,7 @@
 namespace tolvanis {
 namespace {
 
+constexpr std::string_view kEndLine = "# end";
 constexpr int kCellsRound = 360;  // cells of one degree
 constexpr int kCells = kCellsRound * 180;
 constexpr double kKmPerDegree = 111.2;
@@ -73,19 +74,22 @@ class AtlasReader {
         atlas_.keyStart_.reserve(atlas_.text_.size() / 16);
     }
 
-    // The number of the line that cannot be read, or 0.
-    int Read() {
+    // What cannot be read, as ":12: ..." with the number of a line where there is one, or nothing.
+    std::string Read() {
         std::string_view rest = atlas_.text_;
+        bool ended = false;
         for (int number = 1; !rest.empty(); ++number) {
             const std::size_t end = rest.find('\n');
             std::string_view line = rest.substr(0, end);
             rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
             if (line.ends_with('\r')) line.remove_suffix(1);
-            if (!Take(line)) return number;
+            if (!Take(line)) return ":" + std::to_string(number) + ": this line of the atlas cannot be read";
+            if (line == kEndLine) ended = true;
         }
+        if (!ended) return ": the file ends too early";
         atlas_.keys_ += '\n';
         atlas_.SortIntoCells();
-        return 0;
+        return {};
     }
 
     Atlas Finish() { return std::move(atlas_); }
@@ -224,9 +228,7 @@ Result<Atlas> Atlas::Read(const Path& file) {
     Result<std::string> text = ReadBytes(file);
     if (!text) return text.fault();
     AtlasReader reader(std::move(*text));
-    if (const int line = reader.Read(); line != 0) {
-        return Fault{file.string() + ":" + std::to_string(line) + ": this line of the atlas cannot be read"};
-    }
+    if (const std::string fault = reader.Read(); !fault.empty()) return Fault{file.string() + fault};
     return reader.Finish();
 }
 

@@ -13,6 +13,7 @@ namespace tolvanis {
 namespace {
 
 constexpr int kLastYear = 2100;
+constexpr std::string_view kEndLine = "# end";
 
 constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                        "Thursday", "Friday", "Saturday"};
@@ -101,12 +102,13 @@ std::vector<std::string> WordsOf(std::string_view line) {
 
 }  // namespace
 
-// Reads the lines of the file: "R" rules, "Z" zones with the lines that continue them, "L" links, "V" the
-// release, "C" reference cities and "D" cases.
+// Reads the lines of the file: "R" rules, "Z" zones with the lines that continue them, "L" links, "M" merged
+// zones, "V" the release, "C" reference cities and "D" cases.
 class ZoneFileReader {
   public:
     // Whether the line could be read.
     bool Take(const std::string& line) {
+        if (line == kEndLine) ended_ = true;
         if (line.starts_with('#')) return true;
         if (line.starts_with("D\t")) return TakeCase(line.substr(2));
         const std::vector<std::string> words = WordsOf(line);
@@ -114,14 +116,21 @@ class ZoneFileReader {
         const std::span<const std::string> rest(words.begin() + 1, words.end());
         if (words[0] == "R") return TakeRule(rest);
         if (words[0] == "Z") return TakeZone(rest);
-        if (words[0] == "L") return TakeLink(rest);
+        if (words[0] == "L") return TakeName(rest, history_.links_);
+        if (words[0] == "M")
+            return TakeName(std::vector<std::string>(rest.rbegin(), rest.rend()), history_.merged_);
         if (words[0] == "V") return TakeRelease(rest);
         if (words[0] == "C") return TakeCity(rest);
         return TakeEra(words);
     }
 
-    // The history, or what a zone refers to without its being there.
+    // The history, or what is missing of it.
     Result<ZoneHistory> Finish() {
+        if (!ended_) return Fault{"the file ends too early"};
+        for (const auto& [zone, other] : history_.merged_) {
+            if (!history_.zones_.contains(zone) || !history_.zones_.contains(other))
+                return Fault{"the zone " + zone + " or " + other + " is missing"};
+        }
         for (const auto& [zone, eras] : history_.zones_) {
             for (const ZoneEra& era : eras) {
                 if (!era.rules.empty() && !history_.rules_.contains(era.rules))
@@ -167,9 +176,11 @@ class ZoneFileReader {
         return true;
     }
 
-    bool TakeLink(std::span<const std::string> words) {
+    // A name and behind it another one that leads to it.
+    static bool TakeName(std::span<const std::string> words,
+                         std::map<std::string, std::string, std::less<>>& names) {
         if (words.size() != 2) return false;
-        history_.links_[words[1]] = words[0];
+        names[words[1]] = words[0];
         return true;
     }
 
@@ -195,6 +206,7 @@ class ZoneFileReader {
 
     ZoneHistory history_;
     std::string zone_;  // the one whose lines go on
+    bool ended_ = false;
 };
 
 std::int64_t ZoneMoment::In(int year) const {
@@ -235,6 +247,22 @@ const std::vector<ZonePeriod>& ZoneHistory::PeriodsOf(std::string_view zone) con
     std::vector<ZonePeriod>& made = periods_[name];
     if (eras != zones_.end()) made = MakeZonePeriods(eras->second, rules_, kLastYear);
     return made;
+}
+
+const std::vector<ZonePeriod>& ZoneHistory::ClocksOf(std::string_view zone) const {
+    const auto merged = merged_.find(Resolved(zone));
+    if (merged == merged_.end()) return PeriodsOf(zone);
+    if (const auto known = clocks_.find(merged->first); known != clocks_.end()) return known->second;
+    std::vector<ZonePeriod> clocks = PeriodsOf(zone);
+    std::erase_if(clocks, [](const ZonePeriod& period) { return period.start >= 0; });
+    const std::vector<ZonePeriod>& later = PeriodsOf(merged->second);
+    auto next = std::ranges::upper_bound(later, 0, {}, &ZonePeriod::start);
+    if (next != later.begin()) {
+        clocks.push_back(*std::prev(next));
+        clocks.back().start = 0;
+    }
+    clocks.insert(clocks.end(), next, later.end());
+    return clocks_[merged->first] = std::move(clocks);
 }
 
 const ReferenceCity* ZoneHistory::ReferenceOf(std::string_view zone) const {

@@ -85,6 +85,11 @@ class ZoneHistory {
     // first call.
     const std::vector<ZonePeriod>& PeriodsOf(std::string_view zone) const;
 
+    // The same as clocks there have shown: from 1970 on those of the zone that it is one with since, where
+    // there is one. What the complete records say of the later time of such a zone is not checked by the tz
+    // project.
+    const std::vector<ZonePeriod>& ClocksOf(std::string_view zone) const;
+
     // Nothing for zones without a place, as those of ships.
     const ReferenceCity* ReferenceOf(std::string_view zone) const;
 
@@ -100,9 +105,10 @@ class ZoneHistory {
     std::map<std::string, std::vector<ZoneRule>, std::less<>> rules_;
     std::map<std::string, std::vector<ZoneEra>, std::less<>> zones_;
     std::map<std::string, std::string, std::less<>> links_;
+    std::map<std::string, std::string, std::less<>> merged_;
     std::map<std::string, ReferenceCity, std::less<>> references_;
     std::vector<ZoneCase> cases_;
-    mutable std::map<std::string, std::vector<ZonePeriod>, std::less<>> periods_;
+    mutable std::map<std::string, std::vector<ZonePeriod>, std::less<>> periods_, clocks_;
 };
 
 }  // namespace tolvanis

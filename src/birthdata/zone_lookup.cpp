@@ -52,7 +52,7 @@ class Grader {
 
     void Grade(ZoneReading& reading, std::int64_t universal) const {
         const bool isReference = city_ != nullptr && distance_ <= kKmOfReferenceCity;
-        const ZoneCase* known = isReference ? nullptr : CaseOf(reading.clock.date);
+        const ZoneCase* known = CaseOf(reading.clock.date, isReference);
         if (reading.kind == ZoneKind::LocalMean) {
             Set(reading, ZoneGrade::Local,
                 "local mean time by the longitude of the place, 4 minutes a degree");
@@ -73,10 +73,12 @@ class Grader {
         reading.reason = std::move(reason);
     }
 
-    const ZoneCase* CaseOf(const CalendarDate& date) const {
+    // The reference city differs only where the case names its zone.
+    const ZoneCase* CaseOf(const CalendarDate& date, bool isReference) const {
         const auto& cases = history_.cases();
         const auto found = std::ranges::find_if(cases, [&](const ZoneCase& one) {
-            return one.Fits(date, place_.countryCode, place_.regionCode, place_.zone);
+            return !(isReference && one.zones.empty()) &&
+                   one.Fits(date, place_.countryCode, place_.regionCode, place_.zone);
         });
         return found != cases.end() ? &*found : nullptr;
     }
@@ -118,14 +120,14 @@ ClockMoment Later(const ClockMoment& moment, int seconds) {
 }
 
 int OffsetAtUniversal(const ZoneHistory& history, const ZonePlace& place, const ClockMoment& universal) {
-    const std::vector<ZonePeriod>& periods = history.PeriodsOf(place.zone);
+    const std::vector<ZonePeriod>& periods = history.ClocksOf(place.zone);
     if (periods.empty()) return 0;
     const auto next = std::ranges::upper_bound(periods, LocalSeconds(universal), {}, &ZonePeriod::start);
     return OffsetOf(next == periods.begin() ? periods.front() : *std::prev(next), place);
 }
 
 ZoneAnswer LookUpZone(const ZoneHistory& history, const ZonePlace& place, const ClockMoment& moment) {
-    const std::vector<ZonePeriod>& periods = history.PeriodsOf(place.zone);
+    const std::vector<ZonePeriod>& periods = history.ClocksOf(place.zone);
     const Grader grader(history, place);
     const std::int64_t local = LocalSeconds(moment);
     // Clocks lie less than two days from Greenwich.

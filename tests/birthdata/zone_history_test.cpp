@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+#include "birthdata/zone_lookup.h"
 #include "support.h"
 #include "text/fields.h"
 
@@ -56,7 +57,7 @@ TEST(ZoneHistory, HasThePeriodsOfTheCompiledDataInEveryZoneTo2100) {
 TEST(ZoneHistory, WhatCannotBeReadIsNamedWithItsLine) {
     const ScratchDirectory directory;
     const auto faultOf = [&](std::string_view line) {
-        directory.Write("Z", "# by hand\nR c 1980 o - Ap 6 2s 1 S\n" + std::string(line) + "\n");
+        directory.Write("Z", "# by hand\nR c 1980 o - Ap 6 2s 1 S\n" + std::string(line) + "\n# end\n");
         const auto history = ZoneHistory::Read(directory.path() / "Z");
         return history ? std::string() : history.message();
     };
@@ -73,7 +74,38 @@ TEST(ZoneHistory, WhatCannotBeReadIsNamedWithItsLine) {
           "R d 1980 x - Ap 6 2s 1 S", "R d 1980 o - Ap last 2s 1 S", "R d 1980 o - Ap 6 2s x S", "1 c CET"}) {
         EXPECT_EQ(faultOf(wrong), file + ":3: this line of the zone history cannot be read") << wrong;
     }
+    const std::string whole = FileContent(Path(DELIVERED_DATA_DIR) / kZoneHistoryFile);
+    for (const std::size_t size : {std::size_t{0}, std::size_t{80'000}, whole.size() - 8}) {
+        directory.Write("Z", whole.substr(0, whole.rfind('\n', size) + 1));
+        EXPECT_EQ(ZoneHistory::Read(directory.path() / "Z").message(), file + ": the file ends too early")
+            << size;
+    }
     EXPECT_EQ(faultOf("Z A 1 d CE%sT"), file + ": the rules d of the zone A are missing");
+}
+
+// The tz project answers for its main zones since 1970; what the complete records have of a zone that it has
+// merged with another is of use for the time before.
+TEST(ZoneHistory, MergedZonesFollowTheirMainZoneSince1970) {
+    const auto history = ZoneHistory::Read(Path(DELIVERED_DATA_DIR) / kZoneHistoryFile);
+    ASSERT_TRUE(history);
+    const std::pair<const char*, const char*> merged[] = {{"Asia/Harbin", "Asia/Shanghai"},
+                                                          {"Asia/Chongqing", "Asia/Shanghai"},
+                                                          {"America/Rosario", "America/Argentina/Cordoba"},
+                                                          {"America/Ensenada", "America/Tijuana"},
+                                                          {"Europe/Uzhgorod", "Europe/Kyiv"}};
+    for (const auto& [zone, main] : merged) {
+        const ZonePlace there{zone, "", "", 0, 0}, here{main, "", "", 0, 0};
+        for (int year = 1970; year < 2031; ++year) {
+            for (const int month : {1, 4, 7, 10}) {
+                const ClockMoment moment{{year, month, 3}, 43200};
+                EXPECT_EQ(OffsetAtUniversal(*history, there, moment),
+                          OffsetAtUniversal(*history, here, moment))
+                    << zone << ' ' << year << ' ' << month;
+            }
+        }
+    }
+    const ZonePlace harbin{"Asia/Harbin", "CN", "08", 45.75, 126.65};
+    EXPECT_EQ(OffsetAtUniversal(*history, harbin, {{1930, 1, 3}, 0}), 30600) << "before 1970 its own record";
 }
 
 TEST(ZoneMoment, LastAndFirstWeekdaysOfMonths) {

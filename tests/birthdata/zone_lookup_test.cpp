@@ -69,6 +69,8 @@ TEST(ZoneLookup, PublishedCases) {
         {"Dublin, Ireland", {1975, 7, 1}, 12, 0, 3600, K::Daylight, G::Sure},
         {"Dublin, Ireland", {1975, 1, 15}, 12, 0, 0, K::Standard, G::Sure},
         {"Indianapolis, IN", {1990, 7, 1}, 12, 0, -5 * 3600, K::Standard, G::Sure},
+        {"Urumqi", {2010, 7, 1}, 12, 0, 6 * 3600, K::Standard, G::Disputed},
+        {"Kashgar", {1990, 7, 1}, 12, 0, 6 * 3600, K::Standard, G::Disputed},
         {"Evansville, IN", {1972, 7, 1}, 12, 0, -5 * 3600, K::Daylight, G::Disputed},
         {"Paris, France", {2060, 7, 1}, 12, 0, 7200, K::Daylight, G::Sure},
         {"New York City", {2099, 12, 31}, 23, 59, -5 * 3600, K::Standard, G::Sure},
@@ -169,6 +171,8 @@ TEST(Atlas, RefusesADamagedFileWithItsLine) {
         ASSERT_FALSE(read);
         EXPECT_NE(read.message().find("ATLAS.DAT:4:"), std::string::npos) << read.message();
     }
+    const auto read = Atlas::Read(directory.Write("ATLAS.DAT", "Z A/B\n"));
+    EXPECT_NE(read.message().find("ATLAS.DAT: the file ends too early"), std::string::npos);
 }
 
 NatalEntry EntryAt(const std::string& place, const CalendarDate& date, const char* hour, const char* zone) {

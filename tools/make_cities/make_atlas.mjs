@@ -2,7 +2,8 @@
 //
 // Lines: "Z zone" numbers the zones; "C code<TAB>name<TAB>other names" begins a country, "R code<TAB>name" one of
 // its regions; every other line is a place of them: name, north and east in hundredths of a minute of arc,
-// population, the number of its zone where that is not the one of the place before, and its other names.
+// population, the number of its zone where that is not the one of the place before, and its other names. The last
+// line is "# end".
 
 import { writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
@@ -80,7 +81,7 @@ class AtlasText {
   toString() {
     const head = ['# Places: GeoNames (www.geonames.org), CC BY 4.0; changed as ATTRIBUTION.txt says'];
     const zones = [...this.zones.keys()].map((zone) => `Z ${zone}`);
-    return [...head, ...zones, ...this.lines, ''].join('\r\n');
+    return [...head, ...zones, ...this.lines, '# end', ''].join('\r\n');
   }
 }
 

@@ -4,8 +4,9 @@
     make_zones.py [--check]
 
 Reads tzdata_complete.zi (the complete records of the tz project in the compact form that zic takes),
-reference_cities.tsv (the places whose clocks the zones record) and disputed.tsv (cases in which clocks differed
-or are in dispute). With --check it writes nothing and exits 1 where the file is not what it would be.
+merged.tsv (zones that the project itself holds to be one with another since 1970; what the complete records say of
+them later is unchecked), reference_cities.tsv (the places whose clocks the zones record) and disputed.tsv (cases
+in which clocks differed or are in dispute). With --check it writes nothing and exits 1 where the file is not what it would be.
 """
 
 import pathlib
@@ -17,8 +18,10 @@ HEAD = [
     "# The history of civil time. The rules come from the time zone data of",
     "# the tz project (Internet Assigned Numbers Authority), which are in the",
     "# public domain; reference cities: GeoNames, CC BY 4.0; cases: our own.",
-    "# V release, R rule, Z zone, L other name, C reference city, D case",
+    "# V release, R rule, Z zone, L other name, M zone that is one with another",
+    "# since 1970, C reference city, D case",
 ]
+END = "# end"
 
 
 def rows_of(name):
@@ -39,8 +42,10 @@ def lines_of_file():
     yield from HEAD
     yield f"V {release}"
     yield from (line for line in rules if not line.startswith("#"))
+    yield from (f"M {zone} {other}" for zone, other in rows_of("merged.tsv"))
     yield from (f"C {zone} {north} {east} {city}" for zone, north, east, city in rows_of("reference_cities.tsv"))
     yield from case_lines()
+    yield END
 
 
 def main():
