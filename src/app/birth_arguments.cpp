@@ -58,8 +58,16 @@ constexpr std::array kBirthArguments = {
     BirthArgument{"--app-dir", Set<&BirthArguments::appDirectory>},
 };
 
-void TakeRecord(const NameRecord& record, const std::string& source, EntryReceiver& receiver) {
+// A window shows what it makes of a half day; here it would go unseen.
+Result<NatalEntry> EntryOfRecord(const NameRecord& record) {
     const Result<NatalEntry> entry = EntryFromRecord(record);
+    const bool known = EqualIgnoringCase(record.halfDay, "A") || EqualIgnoringCase(record.halfDay, "P");
+    if (!entry || known) return entry;
+    return Fault{"field 4 (half day): \"" + record.halfDay + "\" is neither A nor P"};
+}
+
+void TakeRecord(const NameRecord& record, const std::string& source, EntryReceiver& receiver) {
+    const Result<NatalEntry> entry = EntryOfRecord(record);
     if (!entry) return receiver.Refuse(source, entry.message());
     receiver.Take(*entry, source);
 }
@@ -88,13 +96,16 @@ void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
     }
 }
 
-// The place that was asked for; the file is looked up as given, then in the application directory.
+// The place that was asked for. A file given by its mere name is looked up in the application directory too.
 Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const DataFiles& files) {
     if (!births.place) return std::optional<Place>();
     const Path asGiven = PathFromText(births.place->file);
-    const Path file = IsReadableFile(asGiven) ? asGiven : files.Own(births.place->file);
+    const bool isGiven = asGiven.has_parent_path() || IsNameTaken(FindPath(asGiven));
+    const Path file = isGiven ? asGiven : files.Own(births.place->file);
     const Result<CityRecord> city = FindCity(file, ToUtf8(births.place->city));
     if (!city) return Fault{births.place->file + ": " + city.message()};
+    if (const std::string fault = CityRecordFault(*city); !fault.empty())
+        return Fault{births.place->file + ": " + city->ListText() + ": " + fault};
     return std::optional<Place>(PlaceOfCity(*city));
 }
 
@@ -110,7 +121,7 @@ Result<NatalEntry> EntryOfBirth(const std::string& birth, RecordsPlace place) {
     if (!record) return record.fault();
     if (record->name.empty()) return Fault{"the name is empty"};
     if (leaveOut) record->timeZone = record->longitude = record->latitude = "0";
-    return EntryFromRecord(*record);
+    return EntryOfRecord(*record);
 }
 
 // A birth or the present moment at a place of the atlas.
@@ -133,9 +144,9 @@ void ReadPlacedBirth(const BirthArguments& births, const Options& options, const
 }
 
 NatalEntry EntryOfNow(std::time_t moment, const Options& options, const std::optional<Place>& place) {
-    const LocalTime now =
-        place ? OnClockOfZone(moment, LeadingNumber(place->timeZone)) : OnHostsClock(moment);
-    NatalEntry entry = FillNow(now, options);
+    const double homeZone = options[kHomeZoneOption];
+    const double zone = place ? LeadingNumber(place->timeZone) : homeZone;
+    NatalEntry entry = FillNow(OnClockOfZone(moment, zone), options);
     if (place) FillPlace(entry, *place);
     return entry;
 }
@@ -151,11 +162,13 @@ bool ArgumentReader::Next() {
 }
 
 Result<std::string> ArgumentReader::Value() {
-    if (name_.size() < argument_.size()) return std::string(argument_.substr(name_.size() + 1));
-    if (rest_.empty()) return Fault{std::string(argument_) + " needs a value"};
-    const std::string value(rest_.front());
-    rest_ = rest_.subspan(1);
-    return value;
+    std::string_view value = argument_.substr(std::min(name_.size() + 1, argument_.size()));
+    if (name_.size() == argument_.size() && !rest_.empty()) {
+        value = rest_.front();
+        rest_ = rest_.subspan(1);
+    }
+    if (value.empty()) return Fault{std::string(name_) + " needs a value"};
+    return std::string(value);
 }
 
 Result<bool> TakeBirthArgument(ArgumentReader& reader, BirthArguments& births) {

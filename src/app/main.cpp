@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QIcon>
-#include <cstdlib>
 #include <iostream>
 #include <vector>
 
@@ -17,15 +16,6 @@
 using namespace tolvanis;
 
 namespace {
-
-// Whether windows can be opened at all. Qt itself would abort without one.
-bool HasDisplay() {
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        const char* value = std::getenv(name);
-        if (value != nullptr && *value != '\0') return true;
-    }
-    return false;
-}
 
 int Run(const DesktopArguments& arguments) {
     MessageBoxes messages;
@@ -58,6 +48,7 @@ int Print(std::string_view text) {
 
 int main(int argc, char** argv) {
     OccupyStandardStreams();
+    OutliveFileSizeLimits();
     const std::vector<std::string_view> given(argv + 1, argv + argc);
     const Result<DesktopArguments> arguments = ParseDesktopArguments(given);
     if (!arguments) {

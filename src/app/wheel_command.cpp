@@ -64,12 +64,17 @@ class SnapshotTaker : public EntryReceiver {
         }
         for (const std::string& detail : chart.fault().Details()) Refuse(source, detail);
     }
+    void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth& placed) override {
+        if (!placed.note.empty()) note_ = source + ": " + placed.note;
+        Take(entry, source);
+    }
     void Refuse(const std::string& source, const std::string& fault) override {
         if (!faults_.empty()) faults_ += "\n";
         faults_ += source + ": " + fault;
     }
     bool WantsMore() const override { return !chart_ && faults_.empty(); }
 
+    const std::string& note() const { return note_; }
     Result<WheelSnapshot> Taken() const {
         return chart_ ? Result<WheelSnapshot>(*chart_) : Result<WheelSnapshot>(Fault{faults_});
     }
@@ -78,6 +83,7 @@ class SnapshotTaker : public EntryReceiver {
     Method method_;
     const Options& options_;
     std::optional<WheelSnapshot> chart_;
+    std::string note_;
     std::string faults_;
 };
 
@@ -102,7 +108,7 @@ Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
     ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();
-    WheelPicture picture{opened->files, opened->options, *data, *chart, {}};
+    WheelPicture picture{opened->files, opened->options, *data, *chart, {}, taker.note()};
     if (arguments.type == ChartType::ZodiacRing) {
         const Result<void> read = ReadOrbsFile(opened->files.Find(kNatalOrbs), picture.orbs);
         if (!read) return read.fault();

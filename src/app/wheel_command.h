@@ -28,7 +28,8 @@ struct WheelPicture {
     Options options;
     WheelData data;
     WheelSnapshot chart;
-    OrbTable orbs;  // of the zodiac ring
+    OrbTable orbs;     // of the zodiac ring
+    std::string note;  // what the user should know of the birth, or empty
 };
 
 // Reads the files and computes the chart; nothing is written. A fault names the file or the birth, and what

@@ -11,6 +11,8 @@ namespace tolvanis {
 namespace {
 
 constexpr std::size_t kFieldCount = 5;
+constexpr std::size_t kShortLongitude = 5;
+constexpr std::size_t kLatitudeLength = 5;
 
 std::string FaultOfLine(std::string_view line) {
     const Result<CityRecord> record = ParseCityRecord(line);
@@ -22,6 +24,18 @@ Coordinate ReadCoordinate(std::string_view text, std::size_t digits, char negati
     const bool negative = text.size() > digits && text[digits] == negativeLetter;
     const std::string_view minutes = text.substr(text.size() - std::min<std::size_t>(2, text.size()));
     return CoordinateOf(text.substr(0, digits), minutes, negative);
+}
+
+// Whether a text is digits for up to `most` degrees, one of the letters, and two digits for minutes.
+bool IsCoordinate(std::string_view text, std::string_view letters, int most) {
+    const std::size_t letter = text.find_first_of(letters);
+    if (letter == std::string_view::npos || text.size() != letter + 3) return false;
+    const std::string_view degrees = text.substr(0, letter), minutes = text.substr(letter + 1);
+    const auto isDigits = [](std::string_view part) {
+        return part.find_first_not_of("0123456789") == std::string_view::npos;
+    };
+    return letter > 0 && isDigits(degrees) && isDigits(minutes) && WholeNumberIn(degrees, 0, most) &&
+           WholeNumberIn(minutes, 0, 59);
 }
 
 // How a user may name a place.
@@ -83,8 +97,18 @@ Result<CityRecord> ParseCityRecord(std::string_view line) {
     return CityRecord{fields[0], fields[1], fields[2], fields[3], fields[4]};
 }
 
+std::string CityRecordFault(const CityRecord& record) {
+    const std::string& longitude = record.longitude;
+    const bool knownLength = longitude.size() == kShortLongitude || longitude.size() == kShortLongitude + 1;
+    if (!knownLength || !IsCoordinate(longitude, "WE", 180))
+        return "\"" + longitude + "\" is no longitude of the form 084W23";
+    if (record.latitude.size() != kLatitudeLength || !IsCoordinate(record.latitude, "NS", 90))
+        return "\"" + record.latitude + "\" is no latitude of the form 33N45";
+    if (!EntireNumber(record.timeZone)) return "\"" + record.timeZone + "\" is no time zone in hours";
+    return {};
+}
+
 Place PlaceOfCity(const CityRecord& record) {
-    constexpr std::size_t kShortLongitude = 5;
     const std::size_t degreeDigits = record.longitude.size() == kShortLongitude ? 2 : 3;
     return {ReadCoordinate(record.longitude, degreeDigits, 'E'), ReadCoordinate(record.latitude, 2, 'S'),
             NumberText(LeadingNumber(record.timeZone))};

@@ -25,8 +25,13 @@ struct CityRecord {
 // The record of a line. A fault says how many fields there are instead of five.
 Result<CityRecord> ParseCityRecord(std::string_view line);
 
-// The place of a record. A longitude of five characters has two digits of degrees, any other is read as three
-// digits, the letter and, at its end, two digits; "E" is east and "S" south, any other letter west or north.
+// What is wrong with coordinates or zone of a record, or an empty text: a longitude is two or three digits, W
+// or E and two digits, a latitude two digits, N or S and two digits, the zone a number.
+std::string CityRecordFault(const CityRecord& record);
+
+// The place of a record, whatever it holds. A longitude of five characters has two digits of degrees, any
+// other is read as three digits, the letter and, at its end, two digits; "E" is east and "S" south, any other
+// letter west or north.
 Place PlaceOfCity(const CityRecord& record);
 
 // The readable records of a cities file, in file order.

@@ -96,7 +96,7 @@ NatalEntry FillNow(const LocalTime& now, const Options& options) {
     entry.birthHour = ApplyHourRule(std::to_string(now.hour)).text;
     entry.birthMinute = std::to_string(now.minute);
     entry.pm = now.hour >= 12;
-    entry.timeZone = NumberText(options[18]);
+    entry.timeZone = NumberText(options[kHomeZoneOption]);
     entry.longDeg = NumberText(options[19]);
     entry.longMin = NumberText(options[20]);
     entry.east = options[21] != 0.0F;

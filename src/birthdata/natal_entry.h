@@ -75,6 +75,9 @@ std::vector<InputFault> CheckPolarLatitude(const NatalEntry& entry, HouseSystem 
 std::vector<InputFault> CheckRanges(const NatalEntry& entry);
 std::vector<InputFault> CheckEntry(const NatalEntry& entry, HouseSystem system);
 
+// The option with the time zone of the home.
+inline constexpr int kHomeZoneOption = 18;
+
 // The birth data of an entry that passed the checks; iDate is the system's date order. Numbers are read with
 // the leading-number reading, whole ones rounded half to even.
 NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate);

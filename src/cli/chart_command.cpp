@@ -77,6 +77,13 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
 }
 
 ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors) {
+    std::error_code error;
+    const Path names = FindPath(PathFromText(request.namesFile.value_or(std::string())));
+    if (request.namesFile && std::filesystem::is_regular_file(names, error) &&
+        std::filesystem::equivalent(names, file, error)) {
+        TellOn(errors, "tolvanis-chart: --output would replace the names file " + names.string());
+        return kSomethingRefused;
+    }
     ExitStatus status = kAllComputed;
     bool any = false;
     const Result<void> written = ReplaceFile(file, [&](const Sink& sink) {

@@ -1,4 +1,6 @@
 #include <iostream>
+#include <new>
+#include <span>
 #include <vector>
 
 #include "cli/chart_command.h"
@@ -20,11 +22,7 @@ ExitStatus Print(std::string_view text) {
     return WithOutputWritten(kAllComputed);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    OccupyStandardStreams();
-    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+ExitStatus Run(std::span<const std::string_view> arguments) {
     const Result<ChartRequest> request = ParseCommandLine(arguments);
     if (!request) {
         TellOn(std::cerr, "tolvanis-chart: " + request.message() + "\n\n" + std::string(kUsage));
@@ -34,4 +32,18 @@ int main(int argc, char** argv) {
     if (request->version) return Print("tolvanis-chart " TOLVANIS_VERSION "\n");
     if (request->output) return RunChartCommandIntoFile(*request, *request->output, std::cerr);
     return WithOutputWritten(RunChartCommand(*request, WriteToStandardOutput, std::cerr));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    OccupyStandardStreams();
+    OutliveFileSizeLimits();
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    try {
+        return Run(arguments);
+    } catch (const std::bad_alloc&) {
+        TellOn(std::cerr, "tolvanis-chart: there is not enough memory");
+        return kSomethingRefused;
+    }
 }

@@ -2,11 +2,12 @@
 
 #include <cmath>
 
-#include "app/chart_driver.h"
+#include "astro/natal_chart.h"
 #include "birthdata/zone_advice.h"
 #include "chart/angles.h"
 #include "cli/entry_writer.h"
 #include "platform/terminal.h"
+#include "text/columns.h"
 #include "text/numbers.h"
 
 namespace tolvanis {
@@ -18,8 +19,13 @@ class ZoneChecker : public EntryWriter {
         : EntryWriter(output, errors), book_(book), options_(options) {}
 
     void Take(const NatalEntry& entry, const std::string& source) override {
+        const auto chart = MakeChart(entry, kAnyLatitude, 1, options_);
+        if (!chart) {
+            for (const std::string& detail : chart.fault().Details()) Refuse(source, detail);
+            return;
+        }
         const auto found = ReadingsOfEntry(book_, entry);
-        if (!found) return Write(source + ": " + entry.name + ": no place within 60 km is known\n");
+        if (!found) return WriteLine(source + ": " + entry.name + ": no place within 60 km is known");
         const double typed = LeadingNumber(entry.timeZone);
         if (found->WithZone(typed) != nullptr) return;
         std::string line = source + ": " + entry.name + ": zone " + entry.timeZone;
@@ -29,23 +35,27 @@ class ZoneChecker : public EntryWriter {
         for (const ZoneReading& reading : exists ? found->answer.readings : found->answer.around) {
             line += "; zone " +
                     ZoneHoursText(static_cast<int>(std::lround(-found->HoursOf(reading) * 3600.0))) + ", " +
-                    ReadingText(reading) + ": Ascendant " + Difference(entry, found->HoursOf(reading)) +
-                    ". " + GradeText(reading);
+                    ReadingText(reading) + ": Ascendant " +
+                    Difference(chart->positions.Ascendant, entry, found->HoursOf(reading)) + ". " +
+                    GradeText(reading);
         }
         NoteDifference();
-        Write(line + "\n");
+        WriteLine(line);
     }
 
   private:
-    // The way of the Ascendant from the entry's zone to another, in degrees and minutes.
-    std::string Difference(const NatalEntry& entry, double hours) const {
+    // The Ascendant does not depend on the houses.
+    static constexpr Method kAnyLatitude{HouseSystem::Meridian, Theory::Classic};
+
+    void WriteLine(const std::string& line) { Write(Printable(line) + "\n"); }
+
+    // The way from an Ascendant to that of the entry in another zone, in degrees and minutes.
+    std::string Difference(double ascendant, const NatalEntry& entry, double hours) const {
         NatalEntry other = entry;
         other.timeZone = NumberText(hours);
-        // Meridian houses are computed at every latitude; the Ascendant does not depend on them.
-        const auto before = MakeChart(entry, {HouseSystem::Meridian, Theory::Classic}, 1, options_);
-        const auto after = MakeChart(other, {HouseSystem::Meridian, Theory::Classic}, 1, options_);
-        if (!before || !after) return "not computed";
-        double way = Norm360(after->positions.Ascendant - before->positions.Ascendant);
+        const auto chart = MakeChart(other, kAnyLatitude, 1, options_);
+        if (!chart) return "not computed";
+        double way = Norm360(chart->positions.Ascendant - ascendant);
         if (way > 180.0) way -= 360.0;
         const auto minutes = static_cast<int>(std::lround(std::abs(way) * 60.0));
         return (way < 0.0 ? "-" : "+") + std::to_string(minutes / 60) + "d " + TwoDigits(minutes % 60) + "m";

@@ -125,12 +125,14 @@ class TemporaryFile {
     int error() const { return error_ != 0 ? error_ : output_.error(); }
     bool Write(std::string_view bytes) { return output_.Write(bytes); }
 
-    // Writes what is left and flushes all to the disk; the file gets the mode of its target.
+    // Writes what is left and flushes all to the disk; the file gets the mode of its target, and its owner
+    // and group as far as they may be given.
     bool Finish(const Path& target) {
         if (!output_.Flush()) return false;
         struct stat status {};
         const bool exists = ::stat(target.c_str(), &status) == 0;
-        if (::fchmod(file_.number(), exists ? status.st_mode & 07777 : NewFileMode()) != 0) return Failed();
+        const mode_t mode = exists ? ModeOwnedAs(status) : NewFileMode();
+        if (::fchmod(file_.number(), mode) != 0) return Failed();
         return ::fsync(file_.number()) == 0 || Failed();
     }
 
@@ -141,6 +143,14 @@ class TemporaryFile {
     }
 
   private:
+    // Where the group cannot be kept, another one gets no more than everyone has.
+    mode_t ModeOwnedAs(const struct stat& status) const {
+        const mode_t mode = status.st_mode & 07777;
+        if (::fchown(file_.number(), status.st_uid, status.st_gid) == 0) return mode;
+        if (::fchown(file_.number(), static_cast<uid_t>(-1), status.st_gid) == 0) return mode;
+        return mode & ~(~(mode << 3) & static_cast<mode_t>(S_IRWXG));
+    }
+
     static mode_t NewFileMode() {
         const mode_t mask = ::umask(0);
         ::umask(mask);
@@ -267,11 +277,12 @@ Target TargetOf(const Path& path) {
 }
 
 // A pipe that nobody reads is waited for, but not for ever.
-int OpenToWrite(const Path& path) {
+int OpenToWrite(const Target& target) {
+    const bool isPipe = target.type == fs::file_type::fifo;
     int opened = -1;
     const bool unread = StaysBlocked([&] {
-        opened = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-        return opened < 0 && errno == ENXIO;
+        opened = ::open(target.path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+        return opened < 0 && errno == ENXIO && isPipe;
     });
     if (unread) errno = ENXIO;
     if (opened >= 0) ::fcntl(opened, F_SETFL, 0);
@@ -280,9 +291,10 @@ int OpenToWrite(const Path& path) {
 
 Result<void> WriteInto(const Path& path, const Target& target, const Writer& write) {
     const Descriptor file(target.descriptor >= 0 ? ::fcntl(target.descriptor, F_DUPFD_CLOEXEC, 0)
-                                                 : OpenToWrite(target.path));
+                                                 : OpenToWrite(target));
     if (!file.IsOpen()) {
-        return CannotWrite(path, errno == ENXIO ? "nothing reads from this pipe" : SystemReason(errno));
+        const bool unread = errno == ENXIO && target.type == fs::file_type::fifo;
+        return CannotWrite(path, unread ? "nothing reads from this pipe" : SystemReason(errno));
     }
     Output output(file);
     const bool written = write([&](std::string_view bytes) { return output.Write(bytes); });

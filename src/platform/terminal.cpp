@@ -3,7 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <ostream>
 
 #include "text/columns.h"
@@ -17,6 +21,18 @@ void OccupyStandardStreams() {
         const int opened = ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
         if (opened != stream && opened >= 0) ::close(opened);
     }
+}
+
+void OutliveFileSizeLimits() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+bool HasDisplay() {
+    return std::ranges::any_of(std::array{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"},
+                               [](const char* name) {
+                                   const char* value = std::getenv(name);
+                                   return value != nullptr && *value != '\0';
+                               });
 }
 
 bool WriteToStandardOutput(std::string_view text) {

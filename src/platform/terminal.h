@@ -1,5 +1,5 @@
 #pragma once
-// The streams that a program finds open at its start.
+// What a program finds at its start: streams, limits and a screen.
 
 #include <iosfwd>
 #include <string_view>
@@ -9,6 +9,13 @@ namespace tolvanis {
 // Puts something in the place of those of the three standard streams that are closed, so that no file that is
 // opened later becomes one of them. Reading from and writing to such a stream fails, as it would have.
 void OccupyStandardStreams();
+
+// Lets a write beyond the limit of a file's size fail as one to a full disk does, instead of ending the
+// program.
+void OutliveFileSizeLimits();
+
+// Whether windows can be opened at all. Qt itself would abort without a display.
+bool HasDisplay();
 
 // Writes to standard output; false when it does not take everything. FlushStandardOutput tells the same of
 // what is still on its way.

@@ -15,6 +15,7 @@ constexpr std::array<std::string_view, 12> kMonths = {"January",   "February", "
 
 constexpr int kFirstGregorianDay = 2299171;  // 15 October 1582, still counted in the Julian calendar
 
+// The parts between separators; one with a minus sign of its own has it still, and is no number.
 std::vector<std::string_view> SplitParts(std::string_view text) {
     constexpr std::string_view kSeparators = " \t-/.";
     std::vector<std::string_view> parts;
@@ -23,7 +24,9 @@ std::vector<std::string_view> SplitParts(std::string_view text) {
         const std::size_t start = text.find_first_not_of(kSeparators);
         if (start == std::string_view::npos) return parts;
         const std::size_t end = std::min(text.find_first_of(kSeparators, start), text.size());
-        parts.push_back(text.substr(start, end - start));
+        const bool isSigned = start > (parts.empty() ? 0U : 1U) && text[start - 1] == '-';
+        const std::size_t begin = start - (isSigned ? 1 : 0);
+        parts.push_back(text.substr(begin, end - begin));
         text.remove_prefix(end);
     }
 }

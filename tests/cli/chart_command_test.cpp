@@ -91,10 +91,47 @@ TEST(ChartCommand, ZonesOfANamesFileAreChecked) {
                                   "4, daylight saving (EDT): Ascendant -23d 34m. " + grade +
                                   "; zone 5, standard time (EST): Ascendant -11d 45m. " + grade + "\n" +
                                   names + ":5: Sea: no place within 60 km is known\n");
+    directory.Write("z.fil", "\x1b[31mX,22 Sep 1949,9.05,A,4" + at + "Y,22 Sep 1949,9.75,A,99" + at);
+    const Outcome odd = RunWith({"--check-zones", "--names", names});
+    EXPECT_EQ(odd.status, kSomethingRefused);
+    EXPECT_EQ(odd.output.find('\x1b'), std::string::npos) << "nothing in a file controls a terminal";
+    EXPECT_THAT(odd.errors, HasSubstr(":2: ")) << "what is no birth is not said to be in the sea";
     directory.Write("z.fil", right);
     const Outcome agreed = RunWith({"--check-zones", "--names", names});
     EXPECT_EQ(agreed.status, kAllComputed);
     EXPECT_EQ(agreed.output + agreed.errors, "");
+}
+
+// What a window would show its user goes unseen here, and is refused.
+TEST(ChartCommand, FieldsThatCanBeMisreadAreRefused) {
+    const ScratchDirectory directory;
+    const std::string start = "Ann,22 Sep 1949,9.05,";
+    for (const char* halfDay : {"AM", "A.M.", "", "Q"}) {
+        const std::string birth = start + halfDay + ",5,073.59,40.45";
+        EXPECT_THAT(RunWith({"--birth", birth}).errors, HasSubstr("is neither A nor P")) << halfDay;
+        const std::string names = directory.Write("n.fil", birth + "\r\n").string();
+        EXPECT_THAT(RunWith({"--names", names}).errors, HasSubstr("n.fil:1: field 4")) << halfDay;
+    }
+    EXPECT_EQ(RunWith({"--birth", start + "p,5,073.59,40.45"}).status, kAllComputed);
+    EXPECT_THAT(RunWith({"--birth", "Ann,15 Mar -0150,9.05,A,5,073.59,40.45"}).errors,
+                HasSubstr("is no date"));
+    for (const auto& [place, fault] : {std::pair{"-84W23,33N45,5", "no longitude"},
+                                       {"W8423,33N45,5", "no longitude"},
+                                       {"84.5,33.7,5", "no longitude"},
+                                       {"84W60,33N45,5", "no longitude"},
+                                       {"184W10,33N45,5", "no longitude"},
+                                       {"084W23,033N45,5", "no latitude"},
+                                       {"84W23,33N4,5", "no latitude"},
+                                       {"84W23,33N45,x", "no time zone"},
+                                       {"84W23,33N45,5:45", "no time zone"}}) {
+        const std::string cities =
+            directory.Write("c.ll", std::string("Atlanta,GA,") + place + "\r\n").string();
+        const Outcome outcome = RunWith({"--birth", start + "A", "--place", cities + ":Atlanta"});
+        EXPECT_EQ(outcome.status, kSomethingRefused) << place;
+        EXPECT_THAT(outcome.errors, HasSubstr(fault)) << place;
+    }
+    EXPECT_THAT(RunWith({"--now", "--place", "/none/c.ll:Rome"}).errors,
+                HasSubstr("Cannot read the file /none/c.ll"));
 }
 
 TEST(ChartCommand, PlacedBirthsTellPlaceAndZone) {
@@ -109,8 +146,8 @@ TEST(ChartCommand, PlacedBirthsTellPlaceAndZone) {
                   "\"zoneRelease\":\"2026-07-21\""));
 }
 
-// Now is read on the clock of the place: west of Greenwich it is earlier, east of it later. Without a place
-// it is the host's clock; the houses are those of option 27.
+// Now is read on the clock of the place, or of the home: west of Greenwich it is earlier, east of it later.
+// The houses are those of option 27.
 TEST(ChartCommand, NowIsThePlacesOwn) {
     const ScratchDirectory directory;
     directory.Write("P.LL", "West,X,70W00,10N00,4.5\r\nEast,X,70E00,10S00,-5.75\r\n");
@@ -119,15 +156,12 @@ TEST(ChartCommand, NowIsThePlacesOwn) {
         options += std::string(n == 18 ? "5" : n == 27 ? "3" : n == 28 ? "2" : "1") + "\r\n";
     }
     directory.Write("OPTIONS.OPT", options);
-    const char* kept = std::getenv("TZ");
-    const std::string zone = kept == nullptr ? "" : kept;
-    ::setenv("TZ", "UTC0", 1);
     const auto run = [&](std::vector<std::string_view> arguments) {
         return RunWith(std::move(arguments), directory.path(), EarlyInTheYear).output;
     };
     EXPECT_THAT(run({"--now", "--place", "P.LL:West"}), HasSubstr("01 Jan 2026    TZ = 4.5      11.00 P.M."));
     EXPECT_THAT(run({"--now", "--place", "P.LL:East"}), HasSubstr("02 Jan 2026    TZ = -5.8      9.15 A.M."));
-    EXPECT_THAT(run({}), HasSubstr("02 Jan 2026    TZ = 5.0      3.30 A.M."));
+    EXPECT_THAT(run({}), HasSubstr("01 Jan 2026    TZ = 5.0      10.30 P.M."));
     EXPECT_THAT(run({}), HasSubstr("HOUSE CUSPS - Koch"));
     const auto at = [](std::vector<std::string_view> arguments) {
         arguments.insert(arguments.begin(), {"--now", "--at"});
@@ -135,7 +169,6 @@ TEST(ChartCommand, NowIsThePlacesOwn) {
     };
     EXPECT_THAT(at({"Chicago, IL"}), HasSubstr("01 Jan 2026    TZ = 6.0      9.30 P.M."));
     EXPECT_THAT(at({"Chicago, IL", "--zone", "5"}), HasSubstr("01 Jan 2026    TZ = 5.0      10.30 P.M."));
-    kept == nullptr ? ::unsetenv("TZ") : ::setenv("TZ", zone.c_str(), 1);
 }
 
 TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
@@ -151,6 +184,12 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
     EXPECT_EQ(status, kSomethingRefused);
     EXPECT_EQ(errors, "/no/such/file: cannot be read: No such file or directory\n");
     EXPECT_EQ(FileContent(file), "of yesterday");
+    const auto list = directory.Write("my.fil", "Zoe" + kRest);
+    const auto itself = ParseCommandLine(std::vector<std::string_view>{"--names", list.native()});
+    std::ostringstream told;
+    EXPECT_EQ(RunChartCommandIntoFile(*itself, directory / "my.fil", told), kSomethingRefused);
+    EXPECT_THAT(told.str(), HasSubstr("would replace the names file"));
+    EXPECT_EQ(FileContent(list), "Zoe" + kRest);
     EXPECT_EQ(run(DELIVERED_DATA_DIR "/NAMES.FIL").first, kAllComputed);
     EXPECT_EQ(FileContent(file),
               RunWith({"--names", DELIVERED_DATA_DIR "/NAMES.FIL", "--format", "json"}).output);
@@ -357,6 +396,8 @@ TEST(ChartCommand, WrongUsageIsExplained) {
     const Case cases[] = {{{"--bogus"}, "unknown argument \"--bogus\""},
                           {{"file"}, "unknown argument \"file\""},
                           {{"--birth"}, "--birth needs a value"},
+                          {{"--output="}, "--output needs a value"},
+                          {{"--app-dir", ""}, "--app-dir needs a value"},
                           {{"--houses", "X"}, "unknown house system \"X\""},
                           {{"--format", "xml"}, "unknown format \"xml\""},
                           {{"--now", "--birth", "x"}, "only one of"},

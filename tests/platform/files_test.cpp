@@ -112,6 +112,7 @@ TEST(Files, LinksAreFollowedAndNeverReplaced) {
     const ScratchDirectory directory;
     const auto path = directory.Write("real.txt", "old");
     fs::permissions(path, fs::perms(0640));
+    const bool gives = ::chown(path.c_str(), 1, 2) == 0;  // as root may
     fs::create_directory(directory / "sub");
     fs::create_symlink("../real.txt", directory / "sub/link.txt");
     fs::create_symlink("sub/link.txt", directory / "link.txt");
@@ -121,6 +122,9 @@ TEST(Files, LinksAreFollowedAndNeverReplaced) {
     ASSERT_TRUE(ReplaceFile(directory / "link.txt", "new"));
     EXPECT_EQ(FileContent(path), "new");
     EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
+    struct stat status {};
+    EXPECT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_TRUE(!gives || (status.st_uid == 1 && status.st_gid == 2)) << "a file stays its owner's";
     ASSERT_TRUE(ReplaceFile(directory / "dangling", "made"));
     EXPECT_EQ(FileContent(directory / "sub/to come.txt"), "made");
     EXPECT_THAT(ReplaceFile(directory / "lost", "x").message(), HasSubstr("lost: No such file"));

@@ -4,27 +4,34 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 
 #include "app/app_directory.h"
 #include "app/exit_status.h"
 #include "birthdata/atlas_exchange.h"
 #include "birthdata/qt/atlas_window.h"
 #include "platform/qt/text.h"
+#include "platform/terminal.h"
 
 using namespace tolvanis;
 
 namespace {
 
 constexpr const char* kUsage =
-    "Usage: tolvanis-atlas\n"
+    "Usage: tolvanis-atlas [--help | --version]\n"
     "\n"
     "Finds a place and the time zone in force there. Started by \"ACS Atlas\" of TOLVANIS,\n"
     "it hands both over in the file TSRTEMP.TXT.\n";
 
 int Fail(const std::string& message) {
     QMessageBox::critical(nullptr, QStringLiteral("Error!"), ToQt(message));
+    return EXIT_FAILURE;
+}
+
+int Print(std::string_view text) {
+    if (WriteToStandardOutput(text) && FlushStandardOutput()) return EXIT_SUCCESS;
+    TellOn(std::cerr, "tolvanis-atlas: cannot write to standard output");
     return EXIT_FAILURE;
 }
 
@@ -39,11 +46,18 @@ Path ExchangeFile() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    OccupyStandardStreams();
+    OutliveFileSizeLimits();
     if (argc > 1) {
         const std::string_view argument = argv[1];
-        const bool help = argument == "--help" || argument == "-h";
-        std::fputs(kUsage, help ? stdout : stderr);
-        return help ? EXIT_SUCCESS : kWrongUsage;
+        if (argument == "--help" || argument == "-h") return Print(kUsage);
+        if (argument == "--version") return Print("tolvanis-atlas " TOLVANIS_VERSION "\n");
+        TellOn(std::cerr, "tolvanis-atlas: unknown argument \"" + std::string(argument) + "\"\n\n" + kUsage);
+        return kWrongUsage;
+    }
+    if (!HasDisplay()) {
+        std::cerr << "tolvanis-atlas: there is no display to open windows on\n";
+        return EXIT_FAILURE;
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tolvanis-atlas"));
