@@ -141,7 +141,7 @@ std::vector<LineSpan> AspectSpans(const WheelPlan& plan, const RingAspect& aspec
         return {{OnWheel(from, kRingAspectRadius), OnWheel(to, kRingAspectRadius)}};
     }
     constexpr int kPieces = 6;
-    const double turn = Norm360(to - from + 180.0) - 180.0;
+    const double turn = SignedArc(from, to);
     std::vector<LineSpan> arc = {{OnWheel(from, kRingAspectRadius), OnWheel(from, kArcRadius)}};
     for (int piece = 0; piece < kPieces; ++piece) {
         arc.push_back({OnWheel(from + turn * piece / kPieces, kArcRadius),
