@@ -16,7 +16,7 @@ struct PageRequest {
     const WheelData& data;
     const Options& options;
     int typeChart = 0;
-    std::vector<std::string> personalLines;
+    std::vector<std::string> personalLines{};
     OrbTable orbs{};
     double width = 1.0;  // of the printable area, in any unit
     double height = 1.25;

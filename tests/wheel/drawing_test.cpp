@@ -116,6 +116,11 @@ TEST_F(DrawingTest, HalfPageIsWhiteWithBlackSoftAspects) {
     request.use = WheelUse::HalfPage;
     EXPECT_EQ(Draw(request).background, kWhite);
     EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, kBlack);
+    options[112] = 2.0F;
+    options[178] = 0.0F;
+    surface = {};
+    DrawPage(surface, {chart, data, options});
+    EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, 2) << "on a whole page they keep their colour";
 }
 
 TEST_F(DrawingTest, CuspLabelsStandWhereTheTablePutsThem) {
@@ -264,11 +269,13 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
     OrbTable orbs{};
     orbs.fill(-1.0F);
     orbs[1] = 2.0F;
+    orbs[3] = 1.0F;   // square
     orbs[13] = 3.0F;  // quintile
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 17.3 * point);
     Put(chart, kSun, 130.0);
     Put(chart, kMoon, 131.0);
     Put(chart, kMars, 130.0 + 72.0);
+    Put(chart, kJupiter, 130.0 + 90.0);
     WheelRequest request = Request(ChartType::ZodiacRing, 500.0);
     request.orbs = orbs;
     Draw(request);
@@ -294,6 +301,7 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
     const double wide = widthOf(211.0, 282.0);
     EXPECT_GT(exact, wide) << "the closer aspect is heavier";
     EXPECT_GT(wide, 0.0);
+    EXPECT_GT(widthOf(210.0, 300.0), exact) << "a major aspect is heavier";
     EXPECT_EQ(widthOf(210.0, 211.0), 0.0) << "a conjunction is an arc";
     const auto arc = std::ranges::count_if(surface.lines, [](const auto& line) {
         return std::abs(std::hypot(line.from.x, line.from.y) - 93.5) < 1e-6 &&
@@ -334,6 +342,25 @@ TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
             });
         EXPECT_TRUE(clearsGlyph) << disc.centre.x << ' ' << disc.centre.y << ' ' << disc.radius;
         EXPECT_EQ(disc.colour, surface.background);
+    }
+}
+
+// In the middle of its cell or from a corner of it, an aspect's letter stays in the row of one point and the
+// column of the other.
+TEST_F(DrawingTest, GridAspectsStandInTheirCells) {
+    OrbTable orbs{};
+    orbs.fill(-1.0F);
+    orbs[3] = 1.0F;
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
+    Put(chart, kSun, 130.0);
+    Put(chart, kMars, 220.0);  // fifth of the grid
+    for (const std::optional<Point> corner : {std::optional<Point>(), std::optional(Point{3.0, 2.0})}) {
+        surface = {};
+        AspectGridBlock({chart, options, orbs}, {{10.0, 200.0}, 12.0, 12.0, 9.0, 6.0, corner}).Draw(surface);
+        const auto glyphs = Texts(AspectGlyph(kSquare));
+        ASSERT_EQ(glyphs.size(), 1u);
+        const Extent cell{10.0, 200.0 - 4 * 12.0, 10.0 + 12.0, 200.0 - 5 * 12.0};
+        EXPECT_TRUE(Inside(InkOf(glyphs[0], surface), cell)) << corner.has_value();
     }
 }
 
