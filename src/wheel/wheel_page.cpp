@@ -149,11 +149,10 @@ Extent PageExtent(double width, double height, int typeChart) {
 
 std::vector<std::string> ReadPersonalLines(const Path& file, const Options& options) {
     if (options[kPersonalOption] == 0.0F) return {};
-    Result<std::vector<std::string>> lines = ReadLines(file);
-    if (!lines) return {};
-    for (std::string& line : *lines) line = TrimTrailingBlanks(line);
-    while (!lines->empty() && lines->back().empty()) lines->pop_back();
-    return std::move(*lines);
+    std::vector<std::string> lines = ReadPersonalBlock(file);
+    for (std::string& line : lines) line = TrimTrailingBlanks(line);
+    while (!lines.empty() && lines.back().empty()) lines.pop_back();
+    return lines;
 }
 
 void DrawPage(DrawingSurface& surface, const PageRequest& request) {
