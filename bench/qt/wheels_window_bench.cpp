@@ -31,7 +31,13 @@ struct Sample {
         LoadSymbolFont(DataFiles(FONTS_DIR));
     }
     WheelRequest Request(int type, double size) const {
-        return {chart, data, options, ChartTypeOf(type), size, size, false, orbs};
+        return {.chart = chart,
+                .data = data,
+                .options = options,
+                .type = ChartTypeOf(type),
+                .width = size,
+                .height = size,
+                .orbs = orbs};
     }
 };
 

@@ -13,7 +13,7 @@ struct MoonPosition {
 
 // Brown's lunar theory, truncated near half an arc second, epoch 1900 January 0.5.
 // Given: Julian centuries of 36525 days from that epoch. The longitude is good to 40" from 1900 to 2050 (the
-// list leaves out two larger terms), the true node to about 0.2 degree.
+// list leaves out two larger terms), the true node to 0.3 degree, 0.08 in the root mean square.
 MoonPosition ComputeMoon(double centuries);
 
 }  // namespace tolvanis

@@ -64,6 +64,7 @@ enum Factor : std::size_t {
     kCos3GLess3S,
     kSin3GLess2S,
     kCos3GLess2S,
+    kFactorCount,
 };
 
 // (c0 + c1 nu + c2 nu^2) * first * second
@@ -312,7 +313,7 @@ constexpr Series kSeries[] = {
 };
 
 // All in degrees. P, Q, S and G are the mean longitudes of Jupiter, Saturn, Uranus and Neptune.
-std::array<double, 27> ArgumentsAt(double t) {
+auto ArgumentsAt(double t) {
     const double p = 237.47555 + 3034.9061 * t;
     const double q = 265.91650 + 1222.1139 * t;
     const double s = 243.51721 + 428.4677 * t;
@@ -322,7 +323,7 @@ std::array<double, 27> ArgumentsAt(double t) {
     const double zeta = q - p;
     const double psi = s - q;
     const double h = 2.0 * g - s;
-    return {
+    return std::array{
         v,
         2.0 * v,
         w,
@@ -364,7 +365,8 @@ double Sum(std::span<const Term> terms, double nu, std::span<const double> facto
 }  // namespace
 
 PerturbationSeries::PerturbationSeries(double centuries) : nu_(centuries / 5.0 + 0.1), factors_{1.0} {
-    const auto arguments = ArgumentsAt(centuries);
+    static_assert(kFactorCount == 2 * kArgumentCount + 1);
+    const std::array<double, kArgumentCount> arguments = ArgumentsAt(centuries);
     for (std::size_t i = 0; i < kArgumentCount; ++i) {
         const SinCos value = SinCosDeg(arguments[i]);
         factors_[2 * i + 1] = value.sin;

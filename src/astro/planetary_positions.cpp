@@ -6,6 +6,7 @@
 
 #include "astro/derived_points.h"
 #include "astro/elements.h"
+#include "astro/epochs.h"
 #include "astro/modern/apparent_places.h"
 #include "astro/moon_series.h"
 #include "astro/orbit.h"
@@ -17,8 +18,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr double kDaysPerCentury = 36525.0;
-constexpr double kEpoch2000 = 2451545.0;     // JD of J2000.0
 constexpr double kPlutoEquinox = 2433283.0;  // day number of 1950.0
 constexpr double kPlutoPrecession = 1.33;    // degrees a century
 constexpr std::array kInnerPlanets = {kMercury, kVenus, kMars};
@@ -137,13 +136,13 @@ std::optional<Bodies> PlaceBodies(const Instant& instant, double plutoPrecession
     return bodies;
 }
 
-// The next two fill longitudes, latitudes and the longitudes of the next day; false when an orbit has no
-// solution.
+// The next two fill longitudes, latitudes and the longitudes of the next day.
 
+// False when an orbit has no solution.
 bool PlaceByClassicTheory(const TimeFrame& frame, ChartPositions& chart) {
     const double day = 1.0 / kDaysPerCentury;
     const Instant now{frame.Centuries,
-                      (frame.JulianDayNumber - kEpoch2000 + frame.UtDayFraction - 0.5) / kDaysPerCentury};
+                      (frame.JulianDayNumber - kJ2000 + frame.UtDayFraction - 0.5) / kDaysPerCentury};
     // The day number alone counts, for the next day too.
     const double precession = (frame.JulianDayNumber - kPlutoEquinox) * kPlutoPrecession / kDaysPerCentury;
     const auto today = PlaceBodies(now, precession);
@@ -156,9 +155,8 @@ bool PlaceByClassicTheory(const TimeFrame& frame, ChartPositions& chart) {
     return true;
 }
 
-bool PlaceByModernTheory(const TimeFrame& frame, ChartPositions& chart) {
-    const double tt = TerrestrialDay(frame);
-    const modern::ApparentSky sky = modern::ComputeApparentSky(tt, modern::ComputeNutation(tt));
+void PlaceByModernTheory(const TimeFrame& frame, ChartPositions& chart) {
+    const modern::ApparentSky sky = modern::ComputeApparentSky(TerrestrialDay(frame), frame.Nutation);
     const auto store = [&](int point, double longitude, const modern::ApparentPlace& place) {
         chart.PointLongitude[point] = Norm360(longitude);
         chart.PointLatitude[point] = place.latitude;
@@ -169,7 +167,6 @@ bool PlaceByModernTheory(const TimeFrame& frame, ChartPositions& chart) {
     store(kSouthNode, sky.meanNode.longitude + 180.0, sky.meanNode);
     chart.TrueNodeLongitude = sky.trueNode;
     chart.PlutoFromOldSeries = sky.plutoFromOldSeries;
-    return true;
 }
 
 bool IsRetrograde(double today, double tomorrow) {
@@ -180,9 +177,11 @@ bool IsRetrograde(double today, double tomorrow) {
 }  // namespace
 
 Result<void> ComputePlanetaryPositions(const TimeFrame& frame, ChartPositions& chart) {
-    const bool placed = frame.Theory == Theory::Modern ? PlaceByModernTheory(frame, chart)
-                                                       : PlaceByClassicTheory(frame, chart);
-    if (!placed) return Fault{"a planet's orbit has no solution at this date"};
+    if (frame.Theory == Theory::Modern) {
+        PlaceByModernTheory(frame, chart);
+    } else if (!PlaceByClassicTheory(frame, chart)) {
+        return Fault{"a planet's orbit has no solution at this date"};
+    }
     chart.PointLongitude[kPartOfFortune] =
         PartOfFortune(chart.PointLongitude[kSun], chart.PointLongitude[kMoon], frame.Ascendant);
     for (int body = kSun; body <= kMoon; ++body) {

@@ -8,7 +8,8 @@
 namespace tolvanis {
 
 // Fills of `chart`: PointLongitude 1 to 13, PointLatitude and PointDeclination 1 to 10, NextDayLongitude,
-// RetrogradeFlags and TrueNodeLongitude, from the frame's Julian day, centuries, obliquity and Ascendant.
+// RetrogradeFlags and TrueNodeLongitude, from the frame's Julian day, centuries, obliquity, nutation and
+// Ascendant.
 //
 // Classic theory: longitudes are degrees of the mean equinox of date, geometric (no light time, no Delta T);
 // only the Sun's and the Moon's series carry terms for nutation, and the Sun's for aberration. Orbits: mean

@@ -1,15 +1,12 @@
 #include "astro/time_frame.h"
 
+#include "astro/epochs.h"
 #include "astro/modern/delta_t.h"
-#include "astro/modern/earth_orientation.h"
 #include "chart/angles.h"
 #include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
-
-constexpr double kDaysPerCentury = 36525.0;
-constexpr double kEpoch1900 = 2415020.0;  // JD of 1900 January 0.5
 
 double Fraction(double x) {
     return x - std::floor(x);
@@ -37,12 +34,12 @@ void TurnClassic(TimeFrame& frame) {
 void TurnModern(TimeFrame& frame) {
     frame.DeltaT = modern::DeltaT(frame.JulianDay);
     const double tt = TerrestrialDay(frame);
-    const modern::Nutation nutation = modern::ComputeNutation(tt);
-    const double greenwich = modern::GreenwichApparentSiderealTime(frame.JulianDay, tt, nutation);
+    frame.Nutation = modern::ComputeNutation(tt);
+    const double greenwich = modern::GreenwichApparentSiderealTime(frame.JulianDay, tt, frame.Nutation);
     const double local = greenwich / modern::kRadiansPerDegree - frame.LongitudeDegrees;
     frame.RAMC = Norm360(local) * modern::kRadiansPerDegree;
     frame.ObliquityDegrees =
-        (modern::MeanObliquityOfDate(tt) + nutation.obliquity) / modern::kRadiansPerDegree;
+        (modern::MeanObliquityOfDate(tt) + frame.Nutation.obliquity) / modern::kRadiansPerDegree;
 }
 
 // The Ascendant by rotating the zenith into ecliptic coordinates.

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "astro/modern/earth_orientation.h"
 #include "chart/natal_data.h"
 #include "text/dates.h"
 
@@ -12,6 +13,7 @@ namespace tolvanis {
 struct TimeFrame {
     tolvanis::Theory Theory = tolvanis::Theory::Classic;
     double DeltaT = 0.0;            // seconds, modern theory only
+    modern::Nutation Nutation;      // modern theory only
     double UtDayFraction = 0.0;     // Universal Time in days of the civil date; may exceed 1 or be negative
     double JulianDayNumber = 0.0;   // of the civil date, at noon
     double JulianDay = 0.0;         // of the instant

@@ -21,6 +21,11 @@ inline double Norm360(double degrees) {
     return angle < 360.0 ? angle : 0.0;
 }
 
+// The shorter way round from one angle to another in degrees, -180 <= a < 180; ahead is positive.
+inline double SignedArc(double from, double to) {
+    return Norm360(to - from + 180.0) - 180.0;
+}
+
 // Sine and cosine of an angle in degrees.
 inline double SinDeg(double degrees) {
     return std::sin(DegToRad(degrees));

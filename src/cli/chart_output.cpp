@@ -6,6 +6,7 @@
 #include "chart/angles.h"
 #include "interp/natal_report.h"
 #include "interp/report_pages.h"
+#include "output/text_files.h"
 #include "wheel/ascii_chart.h"
 
 namespace tolvanis {
@@ -150,7 +151,7 @@ std::string ChartAsAscii(const CurrentChart& chart) {
 
 Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files) {
     ReportBuffer report;
-    const std::vector<std::string> personalBlock = ReadPersonalBlock(files);
+    const std::vector<std::string> personalBlock = ReadPersonalBlock(files.Own(kPersonalBlockName));
     BuildNatalReport(report, {chart, options, files, personalBlock});
     if (report.overflowed()) return Fault{"the report is longer than 32,767 lines"};
     return SavedReport(report, ReportPageFormOf(options), "\n");

@@ -141,11 +141,6 @@ class ReportWriter {
 
 }  // namespace
 
-std::vector<std::string> ReadPersonalBlock(const DataFiles& files) {
-    const Result<std::vector<std::string>> lines = ReadLines(files.Own(kPersonalBlockName));
-    return lines ? *lines : std::vector<std::string>{};
-}
-
 void BuildNatalReport(ReportBuffer& report, const ReportSource& source, ReportProgress* progress) {
     report.Reset();
     ReportWriter(report, source, progress).Write();

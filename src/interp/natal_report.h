@@ -28,9 +28,6 @@ class ReportProgress {
     virtual void Close() = 0;
 };
 
-// The user's name and address; a file that cannot be read has no lines.
-std::vector<std::string> ReadPersonalBlock(const DataFiles& files);
-
 // Builds the report of a chart in the place of what the buffer holds. A text that is missing, or a file that
 // cannot be read, leaves a gap and nothing else. `progress` may be null.
 void BuildNatalReport(ReportBuffer& report, const ReportSource& source, ReportProgress* progress = nullptr);

@@ -52,6 +52,11 @@ Result<int> ListTextFile(DataBuffer& buffer, const Path& path, TextUse use) {
     return static_cast<int>(lines->size());
 }
 
+std::vector<std::string> ReadPersonalBlock(const Path& file) {
+    const Result<std::vector<std::string>> lines = ReadLines(file);
+    return lines ? *lines : std::vector<std::string>{};
+}
+
 std::string MissingFileText(const Path& path) {
     return "Cannot find the file called " + path.string() + ".";
 }

@@ -18,7 +18,7 @@ inline constexpr std::string_view kPrintFileName = "PRNTFILE.XXX";
 // What stands in front of every line of a listing of lessons or meanings.
 inline constexpr std::string_view kListingIndent = "  ";
 
-// The user's own name and address, printed under a full-page wheel.
+// The user's own name and address, printed under a full-page wheel and on a report's title page.
 inline constexpr std::string_view kPersonalBlockName = "PERSONAL.NAM";
 
 // What Save writes: every line and one empty line, and a line with a form feed after each line whose index
@@ -43,6 +43,9 @@ enum class TextUse {
 // Makes a text file the buffer's new listing; the returned number is that of the lines read. A fault names
 // the file that cannot be read.
 Result<int> ListTextFile(DataBuffer& buffer, const Path& path, TextUse use = TextUse::Reading);
+
+// The lines of the personal block as they stand; none when there is no such file.
+std::vector<std::string> ReadPersonalBlock(const Path& file);
 
 // What the user is told of a text file that cannot be found.
 std::string MissingFileText(const Path& path);

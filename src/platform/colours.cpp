@@ -70,4 +70,10 @@ int LightnessTurned(int colour) {
     return FromChannels(channels);
 }
 
+int ForGround(int colour, int ground, double contrast) {
+    constexpr double kMiddleLuminance = 0.18;  // as far from black as from white, in contrast
+    const bool isDark = Luminance(ground) < kMiddleLuminance;
+    return Legible(isDark ? LightnessTurned(colour) : colour, ground, contrast);
+}
+
 }  // namespace tolvanis

@@ -10,6 +10,13 @@ constexpr int Rgb(int rgb) {
     return kRgbColour | rgb;
 }
 
+// Colours of the palette.
+inline constexpr int kBlack = 0;
+inline constexpr int kMagenta = 5;
+inline constexpr int kDarkGrey = 8;
+inline constexpr int kLightRed = 12;
+inline constexpr int kWhite = 15;
+
 // 0xRRGGBB of a colour; a number beyond the palette that Rgb did not make folds into the palette.
 int RgbOf(int colour);
 
@@ -32,5 +39,8 @@ int Legible(int colour, int ground, double contrast);
 // The same hue with its lightness turned round: black for white, dark red for light red. What was chosen for
 // a white ground fits a black one.
 int LightnessTurned(int colour);
+
+// A colour chosen for white paper as it is drawn on another ground: turned on a dark one, and legible.
+int ForGround(int colour, int ground, double contrast);
 
 }  // namespace tolvanis

@@ -40,6 +40,9 @@ constexpr std::array<Place, 91> kSlotPlaces = {{
     {14, 4},  {15, 4},  {16, 4},  {17, 4},  {18, 4},  {15, 13}, {16, 13},  // 13
 }};
 
+// All points but the nodes in the twelfth house end before the last place.
+static_assert(11 * kSlotsPerHouse + kLastPoint - 2 <= kSlotPlaces.size());
+
 // By listing position, tenth house first.
 constexpr std::array<Place, 12> kCuspPlaces = {{{1, 32},
                                                 {1, 13},
@@ -146,8 +149,7 @@ void WritePoints(AsciiGrid& grid, const WheelSnapshot& chart) {
         int slot = nextSlot++;
         if (inHouse == 1 && wheelSlots[point] >= kLatePlace) slot = kLatePlace;
         const auto place = static_cast<std::size_t>((house - 1) * kSlotsPerHouse + slot);
-        if (place < kSlotPlaces.size())
-            WritePoint(grid, kSlotPlaces[place], point, chart.PointLongitude[point]);
+        WritePoint(grid, kSlotPlaces[place], point, chart.PointLongitude[point]);
     }
 }
 

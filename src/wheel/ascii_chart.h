@@ -14,7 +14,7 @@ inline constexpr int kAsciiColumns = 79;
 
 // 25 rows of 79 characters: axes and diagonals around a central box, the cusps at the border and the points
 // from Sun to Part of Fortune in their houses. A house of more than seven points leaves out its nodes,
-// which take no place either; what runs past the last place of the drawing is not written.
+// which take no place either, and runs on into the places of the next house.
 std::array<std::string, kAsciiRows> DrawAsciiChart(const WheelSnapshot& chart);
 
 // Appends the title lines and the drawing to the data buffer.

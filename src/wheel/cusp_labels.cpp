@@ -88,11 +88,6 @@ double SeenAt(const Extent& box) {
     return DirectionDeg((box.left + box.right) / 2, (box.top + box.bottom) / 2);
 }
 
-// The way round from one angle to another, -180 to 180.
-double Turn(double from, double to) {
-    return Norm360(to - from + 180.0) - 180.0;
-}
-
 // From the end of a house line to a label that does not stand at it, in short pieces that wind outwards and
 // so never enter the circle. Empty when the label stands at the line.
 std::vector<LineSpan> LeaderTo(double angle, const Extent& box) {
@@ -103,7 +98,7 @@ std::vector<LineSpan> LeaderTo(double angle, const Extent& box) {
     const Point anchor{std::clamp(end.x, box.left - kClear, box.right + kClear),
                        std::clamp(end.y, box.bottom - kClear, box.top + kClear)};
     if (std::hypot(anchor.x - end.x, anchor.y - end.y) < kNear) return {};
-    const double turn = Turn(angle, DirectionDeg(anchor.x, anchor.y));
+    const double turn = SignedArc(angle, DirectionDeg(anchor.x, anchor.y));
     const double reach = std::max(std::hypot(anchor.x, anchor.y), kOuterRadius);
     const int pieces = std::max(1, static_cast<int>(std::ceil(std::abs(turn) / kPiece)));
     std::vector<LineSpan> leader;
@@ -132,8 +127,8 @@ struct Standing {
     // Whether a label seen at `seen` would stand among the others as its cusp does among theirs.
     bool KeepsOrder(double cusp, double seen) const {
         return std::ranges::all_of(labels, [&](const Label& other) {
-            const double turn = Turn(other.cusp, cusp);
-            return std::abs(turn) > 90.0 || turn * Turn(other.seen, seen) >= 0.0;
+            const double turn = SignedArc(other.cusp, cusp);
+            return std::abs(turn) > 90.0 || turn * SignedArc(other.seen, seen) >= 0.0;
         });
     }
     // Whether neither the leader meets a text nor the box another's leader.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "output/zodiac_text.h"
+#include "text/columns.h"
 #include "text/numbers.h"
 #include "wheel/aspect_list.h"
 #include "wheel/symbols.h"
@@ -17,12 +18,145 @@ int GridPosition(int point) {
     return static_cast<int>(std::ranges::find(kGridOrder, point) - kGridOrder.begin()) + 1;
 }
 
+constexpr std::array kElements = {"Fire", "Earth", "Air", "Water"};
+constexpr std::array kQualities = {"Cardinal", "Fixed", "Mutable"};
+
+// The glyphs of the points by element and quality.
+using ElementCells = std::array<std::array<std::string, kQualities.size()>, kElements.size()>;
+
+ElementCells CellsOf(const WheelSnapshot& chart) {
+    ElementCells cells;
+    for (const int point : kGridOrder) {
+        if (point == kNorthNode || point == kSouthNode || point == kPartOfFortune) continue;
+        const auto sign = static_cast<std::size_t>(SignOf(chart.PointLongitude[point]) - 1);
+        cells[sign % kElements.size()][sign % kQualities.size()] += PointGlyph(point);
+    }
+    return cells;
+}
+
+// Sizes of the table of elements.
+struct ElementLook {
+    TextFont glyphs, names, elements;
+    int colour;            // of all but the elements' names
+    double label, column;  // widths
+    double line;           // height
+
+    double MiddleOf(std::size_t quality) const {
+        return label + (static_cast<double>(quality) + 0.5) * column;
+    }
+};
+
+// A cell holds three to six glyphs side by side, as many as the fullest needs; more become smaller.
+ElementLook LookFor(const ElementCells& cells, const BlockSource& source, const TextMeasure& measure,
+                    double size) {
+    std::size_t most = 3;
+    for (const auto& row : cells) {
+        for (const std::string& points : row) most = std::max(most, CharacterCount(points));
+    }
+    ElementLook look{.glyphs = {size},
+                     .names = {size * 0.8},
+                     .elements = {size * 0.8, true},
+                     .colour = source.Colour(kBlack, kTextContrast),
+                     .label = 0.0,
+                     .column = 0.0,
+                     .line = 1.55 * size};
+    const double glyph = measure.Measure(SymbolText(kStepGlyph), look.glyphs).width;
+    const double widest = static_cast<double>(std::min<std::size_t>(most, 6)) * glyph + 4.0;
+    look.label = measure.Measure("Earth ", look.elements).width + 3.0;
+    look.column = std::max(widest, measure.Measure("Cardinal", look.names).width + 3.0);
+    return look;
+}
+
+void AddElementRow(TextBlock& block, const ElementLook& look, std::size_t element,
+                   std::span<const std::string> cells, int ground, const TextMeasure& measure) {
+    const double y = -(static_cast<double>(element) + 1.5) * look.line;
+    const int colour = ElementColour(static_cast<int>(element) + 1, ground);
+    WheelText name = CentredText(measure, {0.0, y}, kElements[element], look.elements, colour);
+    name.corner.x = 1.5;
+    block.texts.push_back(std::move(name));
+    block.rules.push_back({{0.0, y + look.line / 2}, {block.width, y + look.line / 2}});
+    for (std::size_t quality = 0; quality < cells.size(); ++quality) {
+        const std::string& points = cells[quality];
+        if (points.empty()) continue;
+        const double width = measure.Measure(points, look.glyphs).width;
+        const double room = look.column - 2.0;
+        const double size = look.glyphs.size;
+        block.texts.push_back(CentredText(measure, {look.MiddleOf(quality), y}, points,
+                                          {width > room ? size * room / width : size}, look.colour));
+    }
+}
+
+void AddQualityHeading(TextBlock& block, const ElementLook& look, std::size_t quality,
+                       const TextMeasure& measure) {
+    const double x = look.MiddleOf(quality);
+    block.texts.push_back(
+        CentredText(measure, {x, -look.line / 2}, kQualities[quality], look.names, look.colour));
+    block.rules.push_back({{x - look.column / 2, 0.0}, {x - look.column / 2, -block.height}});
+}
+
+// Where the columns of the points' table begin, the first one aside, and where they end.
+struct PointColumns {
+    double degrees, sign, minutes, mark, declination, declinationEnd, width;
+};
+
+PointColumns ColumnsFor(const TextMeasure& measure, TextFont font) {
+    const double digit = measure.Measure("0", font).width;
+    const double glyph = measure.Measure(SymbolText(kStepGlyph), font).width;
+    PointColumns columns{};
+    columns.degrees = glyph + digit;
+    columns.sign = columns.degrees + 2.2 * digit;
+    columns.minutes = columns.sign + glyph;
+    columns.mark = columns.minutes + 2.4 * digit;
+    columns.declination = columns.mark + 2.0 * digit;
+    const double house = columns.declination + 6.6 * digit;
+    columns.declinationEnd = house - 1.2 * digit;
+    columns.width = house + 2.4 * digit;
+    return columns;
+}
+
+// A text of the points' table, which begins at x or ends there.
+enum class Align { Left, Right };
+struct Cell {
+    double x;
+    std::string text;
+    TextFont font;
+    Align align = Align::Left;
+};
+
+std::vector<Cell> HeadingCells(const PointColumns& columns, double size) {
+    return {{columns.degrees, "Position", {size * 0.75}},
+            {columns.declination, "Declination", {size * 0.75}},
+            {columns.width, "H", {size}, Align::Right}};
+}
+
+std::vector<Cell> PointCells(const WheelSnapshot& chart, int point, const PointColumns& columns,
+                             double size) {
+    const ZodiacPlace place = SplitZodiac(chart.PointLongitude[point]);
+    const bool isRetrograde = point <= kMoon && chart.IsRetrograde[point];
+    return {{0.0, PointGlyph(point), {size}},
+            {columns.degrees, TwoDigits(place.degrees), {size, true}},
+            {columns.sign, SignGlyph(place.sign), {size * 0.95}},
+            {columns.minutes, TwoDigits(place.minutes), {size}},
+            {columns.mark, isRetrograde ? "R" : "", {size}},
+            {columns.declinationEnd, FormatDeclination(chart.PointDeclination[point]), {size}, Align::Right},
+            {columns.width, std::to_string(chart.PointHouse[point]), {size}, Align::Right}};
+}
+
+void AddLine(TextBlock& block, double y, std::span<const Cell> cells, int colour,
+             const TextMeasure& measure) {
+    for (const Cell& cell : cells) {
+        if (cell.text.empty()) continue;
+        WheelText text = CentredText(measure, {0.0, y}, cell.text, cell.font, colour);
+        const bool isLeft = cell.align == Align::Left;
+        text.corner.x = isLeft ? cell.x : cell.x - measure.Measure(cell.text, cell.font).width;
+        block.texts.push_back(std::move(text));
+    }
+}
+
 }  // namespace
 
 int BlockSource::Colour(int colour, double contrast) const {
-    constexpr double kMiddleLuminance = 0.18;
-    const bool turns = turnsColours && Luminance(ground) < kMiddleLuminance;
-    return Legible(turns ? LightnessTurned(colour) : colour, ground, contrast);
+    return turnsColours ? ForGround(colour, ground, contrast) : Legible(colour, ground, contrast);
 }
 
 int GridColour(const Options& options, int code) {
@@ -50,7 +184,7 @@ void AspectGridBlock::Draw(DrawingSurface& surface) const {
         const double x = left + line * look_.cellWidth;
         rules.push_back({{x, RowTop(std::max(line, 1))}, {x, RowTop(kChartPointCount + 1)}});
     }
-    surface.Lines(rules, {source_.Colour(8, kLineContrast), kRuleWidth});
+    surface.Lines(rules, {source_.Colour(kDarkGrey, kLineContrast), kRuleWidth});
     const auto middle = [&](int row, int column) {
         return Point{left + (column - 0.5) * look_.cellWidth, RowTop(row) - look_.cellHeight / 2};
     };
@@ -88,93 +222,34 @@ void TextBlock::Draw(DrawingSurface& surface, Point corner, int ruleColour) cons
 }
 
 TextBlock ElementTable(const BlockSource& source, const TextMeasure& measure, double size) {
-    constexpr std::array kElements = {"Fire", "Earth", "Air", "Water"};
-    constexpr std::array kQualities = {"Cardinal", "Fixed", "Mutable"};
-    std::array<std::array<std::string, 3>, 4> cells;
-    std::size_t most = 3;
-    for (const int point : kGridOrder) {
-        if (point == kNorthNode || point == kSouthNode || point == kPartOfFortune) continue;
-        const auto sign = static_cast<std::size_t>(SignOf(source.chart.PointLongitude[point]) - 1);
-        std::string& cell = cells[sign % 4][sign % 3];
-        cell += PointGlyph(point);
-        most = std::max(most, cell.size() / PointGlyph(point).size());
-    }
-    const int black = source.Colour(kBlack, kTextContrast);
-    const double glyph = measure.Measure(SymbolText(kStepGlyph), {size}).width;
-    const double label = measure.Measure("Earth ", {size * 0.8, true}).width + 3.0;
-    // A cell holds up to six glyphs side by side; more become smaller.
-    const double widest = static_cast<double>(std::min<std::size_t>(most, 6)) * glyph + 4.0;
-    const double column = std::max(widest, measure.Measure("Cardinal", {size * 0.8}).width + 3.0);
-    const double line = 1.55 * size;
+    const ElementCells cells = CellsOf(source.chart);
+    const ElementLook look = LookFor(cells, source, measure, size);
     TextBlock block;
-    block.width = label + 3 * column;
-    block.height = 5 * line;
-    for (std::size_t row = 0; row < kElements.size(); ++row) {
-        const double y = -(static_cast<double>(row) + 1.5) * line;
-        const int colour = [&] {
-            constexpr std::array kColours = {Rgb(0xD0261E), Rgb(0x1E7A1E), Rgb(0x8A6100), Rgb(0x1F4FD8)};
-            return Legible(kColours[row], source.ground, kTextContrast);
-        }();
-        WheelText name = CentredText(measure, {0.0, y}, kElements[row], {size * 0.8, true}, colour);
-        name.corner.x = 1.5;
-        block.texts.push_back(std::move(name));
-        block.rules.push_back({{0.0, y + line / 2}, {block.width, y + line / 2}});
-        for (std::size_t quality = 0; quality < kQualities.size(); ++quality) {
-            const std::string& points = cells[row][quality];
-            const double x = label + (static_cast<double>(quality) + 0.5) * column;
-            const double width = measure.Measure(points, {size}).width;
-            const double fitted = width > column - 2.0 ? size * (column - 2.0) / width : size;
-            if (!points.empty()) block.texts.push_back(CentredText(measure, {x, y}, points, {fitted}, black));
-        }
+    block.width = look.label + static_cast<double>(kQualities.size()) * look.column;
+    block.height = static_cast<double>(kElements.size() + 1) * look.line;
+    for (std::size_t element = 0; element < kElements.size(); ++element) {
+        AddElementRow(block, look, element, cells[element], source.ground, measure);
     }
     for (std::size_t quality = 0; quality < kQualities.size(); ++quality) {
-        const double x = label + (static_cast<double>(quality) + 0.5) * column;
-        block.texts.push_back(CentredText(measure, {x, -line / 2}, kQualities[quality], {size * 0.8}, black));
-        block.rules.push_back({{x - column / 2, 0.0}, {x - column / 2, -block.height}});
+        AddQualityHeading(block, look, quality, measure);
     }
     return block;
 }
 
 TextBlock PointTable(const BlockSource& source, const TextMeasure& measure, double size) {
-    const int black = source.Colour(kBlack, kTextContrast);
+    const int colour = source.Colour(kBlack, kTextContrast);
+    const PointColumns columns = ColumnsFor(measure, {size});
     const double line = 1.45 * size;
-    const double digit = measure.Measure("0", {size}).width;
-    const double glyph = measure.Measure(SymbolText(kStepGlyph), {size}).width;
-    // Where the columns begin.
-    const double degrees = glyph + digit;
-    const double sign = degrees + 2.2 * digit;
-    const double minutes = sign + glyph;
-    const double mark = minutes + 2.4 * digit;
-    const double declination = mark + 2.0 * digit;
-    const double house = declination + 6.6 * digit;
-    TextBlock block;
-    block.width = house + 2.4 * digit;
     double y = -line / 2;
-    const auto add = [&](double x, std::string text, bool bold = false, int colour = kBlack,
-                         double part = 1.0) {
-        WheelText placed = CentredText(measure, {0.0, y}, std::move(text), {size * part, bold}, colour);
-        placed.corner.x = x;
-        block.texts.push_back(std::move(placed));
-    };
-    const auto addToRight = [&](double right, std::string text, bool bold = false) {
-        add(right - measure.Measure(text, {size, bold}).width, text, bold, black);
-    };
-    add(degrees, "Position", false, black, 0.75);
-    add(declination, "Declination", false, black, 0.75);
-    addToRight(block.width, "H");
+    TextBlock block;
+    block.width = columns.width;
+    block.height = line * (kChartPointCount + 1);
+    AddLine(block, y, HeadingCells(columns, size), colour, measure);
     block.rules.push_back({{0.0, -line}, {block.width, -line}});
     for (const int point : kGridOrder) {
         y -= line;
-        const ZodiacPlace place = SplitZodiac(source.chart.PointLongitude[point]);
-        add(0.0, PointGlyph(point), false, black);
-        add(degrees, TwoDigits(place.degrees), true, black);
-        add(sign, SignGlyph(place.sign), false, black, 0.95);
-        add(minutes, TwoDigits(place.minutes), false, black);
-        if (point <= kMoon && source.chart.IsRetrograde[point]) add(mark, "R", false, black);
-        addToRight(house - 1.2 * digit, FormatDeclination(source.chart.PointDeclination[point]));
-        addToRight(block.width, std::to_string(source.chart.PointHouse[point]));
+        AddLine(block, y, PointCells(source.chart, point, columns, size), colour, measure);
     }
-    block.height = line * (kChartPointCount + 1);
     return block;
 }
 

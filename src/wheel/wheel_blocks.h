@@ -21,13 +21,12 @@ struct BlockSource {
 // column of the other.
 class AspectGridBlock {
   public:
-    // `cell` is the width and height of a cell, `glyph` the size of its letters, `aspect` that of the
-    // aspects.
     struct Look {
         Point corner;  // upper left
         double cellWidth, cellHeight;
-        double glyphSize, aspectSize;
-        // Where an aspect's cell begins in its cell; without it the glyph stands in the middle.
+        double glyphSize, aspectSize;  // of the points' letters and of the aspects'
+        // Where an aspect's letter begins, from the upper left corner of its cell to the right and down;
+        // without it the letter stands in the middle.
         std::optional<Point> aspectCorner{};
     };
     AspectGridBlock(const BlockSource& source, const Look& look) : source_(source), look_(look) {}

@@ -74,7 +74,7 @@ struct CornerBlocks {
     }
     void Draw(DrawingSurface& surface, const WheelPlan& plan) const {
         grid.Draw(surface);
-        elements.Draw(surface, elementsCorner, plan.OnGround(8, kLineContrast));
+        elements.Draw(surface, elementsCorner, plan.OnGround(kDarkGrey, kLineContrast));
     }
 };
 
@@ -90,10 +90,17 @@ std::optional<CornerBlocks> FitCornerBlocks(const WheelPlan& plan, const TextMea
     const double room = all.right - all.bottom - 2 * kMargin - kClearRadius * std::numbers::sqrt2;
     const double cell = std::min(kLargestCell, room / (kChartPointCount + 1));
     if (cell * plan.pixelsPerUnit < kLeastPixels) return std::nullopt;
-    const BlockSource source{plan.chart, plan.options, plan.orbs, plan.Background(),
-                             plan.desktopGround.has_value()};
+    const BlockSource source{.chart = plan.chart,
+                             .options = plan.options,
+                             .orbs = plan.orbs,
+                             .ground = plan.Background(),
+                             .turnsColours = plan.desktopGround.has_value()};
     const Point corner{all.left + kMargin, all.bottom + kMargin + kChartPointCount * cell};
-    const AspectGridBlock grid(source, {corner, cell, cell, 0.82 * cell, 0.66 * cell, std::nullopt});
+    const AspectGridBlock grid(source, {.corner = corner,
+                                        .cellWidth = cell,
+                                        .cellHeight = cell,
+                                        .glyphSize = 0.82 * cell,
+                                        .aspectSize = 0.66 * cell});
     TextBlock elements = ElementTable(source, measure, 0.8 * cell);
     const Point place{all.right - kMargin - elements.width, all.bottom + kMargin + elements.height};
     return CornerBlocks{grid, std::move(elements), place};
@@ -114,11 +121,16 @@ Extent WindowExtent(double width, double height) {
 
 WheelPlan PlanFor(const WheelRequest& request) {
     const Extent surface = WindowExtent(request.width, request.height);
-    WheelPlan plan{request.chart, request.data, request.options, kScreenForm,
-                   request.type,  surface,      request.halfPage};
+    WheelPlan plan{.chart = request.chart,
+                   .data = request.data,
+                   .options = request.options,
+                   .form = kScreenForm,
+                   .type = request.type,
+                   .surface = surface,
+                   .use = request.use,
+                   .pixelsPerUnit = request.width / (surface.right - surface.left),
+                   .orbs = request.orbs};
     if (request.options[kFollowDesktopOption] == 1.0F) plan.desktopGround = request.desktopGround;
-    plan.pixelsPerUnit = request.width / (surface.right - surface.left);
-    plan.orbs = request.orbs;
     return plan;
 }
 

@@ -25,7 +25,7 @@ struct WheelRequest {
     ChartType type = ChartType::American;
     double width = 1.0;
     double height = 1.0;
-    bool halfPage = false;
+    WheelUse use = WheelUse::Window;
     OrbTable orbs{};                     // of the zodiac ring's aspects
     std::optional<int> desktopGround{};  // the desktop's background, for option 104
 };

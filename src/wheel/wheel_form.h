@@ -3,11 +3,9 @@
 
 #include "aspects/aspect_definitions.h"
 #include "chart/options.h"
+#include "platform/colours.h"
 
 namespace tolvanis {
-
-inline constexpr int kBlack = 0;
-inline constexpr int kWhite = 15;
 
 // Numbers of options. Sizes are wheel units: one point on a window whose wheel area is 700 pixels high, and,
 // within two hundredths, one point on a page of A4. A colour option of 0 stands for black.

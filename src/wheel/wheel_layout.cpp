@@ -14,26 +14,22 @@ constexpr double kLineFlattening = 0.9675;
 constexpr double kSignCell = 20.0;  // width of a sign's place in the ring
 constexpr double kTickLength = 9.0;
 constexpr const char* kEllipsis = "\xE2\x80\xA6";
-constexpr double kMiddleLuminance = 0.18;  // as far from black as from white, in contrast
-constexpr double kSharedSector = 11.0;     // degrees between two signs in one American sector
+constexpr double kSharedSector = 11.0;  // degrees between two signs in one American sector
 
 }  // namespace
 
+int ElementColour(int sign, int ground) {
+    constexpr std::array kColours = {Rgb(0xD0261E), Rgb(0x1E7A1E), Rgb(0x8A6100), Rgb(0x1F4FD8)};
+    return Legible(kColours[static_cast<std::size_t>(sign - 1) % kColours.size()], ground, kTextContrast);
+}
+
 int WheelPlan::Background() const {
-    if (halfPage || form.onPaper) return kWhite;
+    if (IsOnPaper()) return kWhite;
     return desktopGround ? *desktopGround : ColourOf(options, kBackgroundOption);
 }
 
 int WheelPlan::OnGround(int colour, double contrast) const {
-    if (halfPage || form.onPaper || !desktopGround) return colour;
-    const bool isDark = Luminance(*desktopGround) < kMiddleLuminance;
-    return Legible(isDark ? LightnessTurned(colour) : colour, *desktopGround, contrast);
-}
-
-int WheelPlan::SignColour(int sign, int ground) const {
-    constexpr std::array kElementColours = {Rgb(0xD0261E), Rgb(0x1E7A1E), Rgb(0x8A6100), Rgb(0x1F4FD8)};
-    const int colour = kElementColours[static_cast<std::size_t>(sign - 1) % kElementColours.size()];
-    return Legible(colour, ground, kTextContrast);
+    return IsOnPaper() || !desktopGround ? colour : ForGround(colour, *desktopGround, contrast);
 }
 
 bool WheelPlan::IsReduced() const {
@@ -231,7 +227,7 @@ int AspectColour(const WheelPlan& plan, int code, double contrast) {
         case kQuincunx:
             return option(plan.form.quincunxColour);
         default:
-            return plan.halfPage ? kBlack : option(plan.form.softColour);
+            return plan.use == WheelUse::HalfPage ? kBlack : option(plan.form.softColour);
     }
 }
 

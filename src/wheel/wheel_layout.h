@@ -20,6 +20,15 @@ inline constexpr double kOuterRadius = 217.0;
 inline constexpr double kInnerRadius = 120.0;
 inline constexpr double kSignRadius = 236.0;
 
+// The colour of a sign's element: fire red, earth green, air brown, water blue; legible on the ground.
+int ElementColour(int sign, int ground);
+
+// Where a wheel is seen.
+enum class WheelUse {
+    Window,    // or in a picture
+    HalfPage,  // the window's image on paper: white background, black sextiles and trines
+};
+
 // What a wheel is laid out from.
 struct WheelPlan {
     const WheelSnapshot& chart;
@@ -27,21 +36,21 @@ struct WheelPlan {
     const Options& options;
     const WheelForm& form;
     ChartType type = ChartType::American;
-    Extent surface;         // what the whole surface shows
-    bool halfPage = false;  // the window's image will be printed: white background, black sextiles and trines
+    Extent surface;  // what the whole surface shows
+    WheelUse use = WheelUse::Window;
     std::optional<int> desktopGround{};  // the desktop's background, where the wheel follows it
     double pixelsPerUnit = 0.0;          // of a window or a picture; 0 on paper
     OrbTable orbs{};                     // of the zodiac ring's aspects
 
+    bool IsOnPaper() const { return use == WheelUse::HalfPage || form.onPaper; }
     int Background() const;
-    // The colour of an option, or of the palette, for texts and for lines. Chosen for a light ground, it is
+    // The colour of an option, or of the palette, for texts and for lines. Chosen for white paper, it is
     // turned and made legible where the wheel follows a desktop.
     int TextColour(int option) const { return OnGround(ColourOf(options, option), kTextContrast); }
     int LineColour(int option) const { return OnGround(ColourOf(options, option), kLineContrast); }
     int OnGround(int colour, double contrast) const;
-    // Of a sign: fire red, earth green, air brown, water blue; legible on the ground.
-    int SignColour(int sign) const { return SignColour(sign, Background()); }
-    int SignColour(int sign, int ground) const;
+    // Of a sign, by its element.
+    int SignColour(int sign) const { return ElementColour(sign, Background()); }
     // A picture so small that minutes could not be read: labels show degrees and sign.
     bool IsReduced() const;
 };

@@ -38,7 +38,12 @@ AspectGridBlock PageGrid(const PageRequest& request, const BlockSource& source, 
     const double down = double{request.options[kGridDownOption]} * height;
     const Point corner{std::max(left, page.left + 2.0), page.bottom + 2.0 + kChartPointCount * height - down};
     return {source,
-            {corner, width, height, kGlyphSize, kAspectSize, Point{glyph.width / 3, glyph.height / 4}}};
+            {.corner = corner,
+             .cellWidth = width,
+             .cellHeight = height,
+             .glyphSize = kGlyphSize,
+             .aspectSize = kAspectSize,
+             .aspectCorner = Point{glyph.width / 3, glyph.height / 4}}};
 }
 
 std::vector<WheelText> PersonalTexts(const PageRequest& request, const TextMeasure& measure, double size) {
@@ -144,20 +149,22 @@ Extent PageExtent(double width, double height, int typeChart) {
 
 std::vector<std::string> ReadPersonalLines(const Path& file, const Options& options) {
     if (options[kPersonalOption] == 0.0F) return {};
-    Result<std::vector<std::string>> lines = ReadLines(file);
-    if (!lines) return {};
-    for (std::string& line : *lines) line = TrimTrailingBlanks(line);
-    while (!lines->empty() && lines->back().empty()) lines->pop_back();
-    return std::move(*lines);
+    std::vector<std::string> lines = ReadPersonalBlock(file);
+    for (std::string& line : lines) line = TrimTrailingBlanks(line);
+    while (!lines.empty() && lines.back().empty()) lines.pop_back();
+    return lines;
 }
 
 void DrawPage(DrawingSurface& surface, const PageRequest& request) {
     constexpr double kTitleIndent = 30.0;
-    constexpr int kRuleColour = 8;
     const Extent page = PageExtent(request.width, request.height, request.typeChart);
-    WheelPlan plan{request.chart, request.data, request.options, kPrinterForm, ChartTypeOf(request.typeChart),
-                   page};
-    plan.orbs = request.orbs;
+    const WheelPlan plan{.chart = request.chart,
+                         .data = request.data,
+                         .options = request.options,
+                         .form = kPrinterForm,
+                         .type = ChartTypeOf(request.typeChart),
+                         .surface = page,
+                         .orbs = request.orbs};
     const BlockSource source{request.chart, request.options, request.orbs};
     surface.SetCoordinates(page);
     LowerBlocks blocks = FitLowerBlocks(request, source, surface, page);
@@ -167,7 +174,7 @@ void DrawPage(DrawingSurface& surface, const PageRequest& request) {
     DrawParts(surface, plan, parts);
     DrawTexts(surface, FitPersonalTexts(request, surface, page, blocks.taken));
     if (blocks.grid) blocks.grid->Draw(surface);
-    for (const PlacedBlock& placed : blocks.tables) placed.block.Draw(surface, placed.corner, kRuleColour);
+    for (const PlacedBlock& placed : blocks.tables) placed.block.Draw(surface, placed.corner, kDarkGrey);
 }
 
 }  // namespace tolvanis

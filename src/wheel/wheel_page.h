@@ -16,13 +16,14 @@ struct PageRequest {
     const WheelData& data;
     const Options& options;
     int typeChart = 0;
-    std::vector<std::string> personalLines;
+    std::vector<std::string> personalLines{};
     OrbTable orbs{};
     double width = 1.0;  // of the printable area, in any unit
     double height = 1.25;
 };
 
-// The lines of the personal block; none when there is no such file or option 174 is 0.
+// The lines of the personal block without the blanks and the empty lines at their ends; none when there is no
+// such file or option 174 is 0.
 std::vector<std::string> ReadPersonalLines(const Path& file, const Options& options);
 
 void DrawPage(DrawingSurface& surface, const PageRequest& request);

@@ -11,12 +11,9 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::array kSignNames = {"Aries", "Taurus",  "Gemini",      "Cancer",    "Leo",      "Virgo",
-                                   "Libra", "Scorpio", "Sagittarius", "Capricorn", "Aquarius", "Pisces"};
-
 std::string PlaceInWords(double longitude) {
     const ZodiacPlace place = SplitZodiac(longitude);
-    return TwoDigits(place.degrees) + " " + kSignNames[static_cast<std::size_t>(place.sign - 1)] + " " +
+    return TwoDigits(place.degrees) + " " + std::string(SignName(place.sign)) + " " +
            TwoDigits(place.minutes);
 }
 
@@ -47,7 +44,7 @@ std::vector<Partner> PartnersOf(const WheelRequest& request, int point) {
     return partners;
 }
 
-// Degrees and minutes: "1 12".
+// The size of an arc in degrees and minutes: "1°12'".
 std::string ArcText(double degrees) {
     const int minutes = static_cast<int>(std::lround(std::abs(degrees) * 60.0));
     return std::to_string(minutes / 60) + "\xC2\xB0" + TwoDigits(minutes % 60) + "'";

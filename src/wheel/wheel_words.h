@@ -5,7 +5,8 @@
 
 namespace tolvanis {
 
-// "Sun 29 Virgo 12, house 11, retrograde. Square Moon, trine Mars." with the aspects that the picture shows.
+// "Mercury 29 Virgo 12, house 11, retrograde. Square Moon, Trine Mars." with the aspects that the picture
+// shows.
 std::string PointInWords(const WheelRequest& request, int point);
 
 // The same in lines, with declination and the distance of each aspect from exactness.

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "chart/angles.h"
-#include "wheel/aspect_list.h"
 #include "wheel/symbols.h"
 
 namespace tolvanis {
@@ -31,7 +30,7 @@ void DrawSigns(DrawingSurface& surface, const WheelPlan& plan) {
         borders.push_back({OnWheel(from, kRingScaleRadius), OnWheel(from, kOuterRadius)});
         const WheelText glyph =
             CentredText(surface, OnWheel(from + 15.0, (kRingBandRadius + kOuterRadius) / 2), SignGlyph(sign),
-                        font, plan.SignColour(sign, tint));
+                        font, ElementColour(sign, tint));
         surface.Text(glyph.corner, glyph.text, glyph.font, glyph.colour);
     }
     surface.Lines(borders, {line, kCircleWidth});
@@ -104,7 +103,7 @@ void DrawPointMarks(DrawingSurface& surface, const WheelPlan& plan, std::span<co
     }
     const int colour = plan.LineColour(plan.form.planetColour);
     surface.Lines(marks, {colour, 1.4});
-    surface.Lines(leaders, {plan.OnGround(8, kLineContrast), kFineWidth});
+    surface.Lines(leaders, {plan.OnGround(kDarkGrey, kLineContrast), kFineWidth});
 }
 
 int RingAspectColour(const WheelPlan& plan, int code, double contrast) {
@@ -124,7 +123,7 @@ int RingAspectColour(const WheelPlan& plan, int code, double contrast) {
         case kSesquisquare:
             return AspectColour(plan, kSquare, contrast);
         default:
-            return colour(5);  // the families of five, seven and nine
+            return colour(kMagenta);  // the families of five, seven and nine
     }
 }
 
@@ -133,7 +132,7 @@ bool IsMajor(int code) {
 }
 
 // The lines of an aspect: a chord, or for a conjunction a short arc inside the circle.
-std::vector<LineSpan> AspectSpans(const WheelPlan& plan, const RingAspect& aspect) {
+std::vector<LineSpan> AspectSpans(const WheelPlan& plan, const ListedAspect& aspect) {
     constexpr double kArcRadius = kRingAspectRadius - 3.5;
     const double from = TrueAngle(plan, aspect.first);
     const double to = TrueAngle(plan, aspect.second);
@@ -141,7 +140,7 @@ std::vector<LineSpan> AspectSpans(const WheelPlan& plan, const RingAspect& aspec
         return {{OnWheel(from, kRingAspectRadius), OnWheel(to, kRingAspectRadius)}};
     }
     constexpr int kPieces = 6;
-    const double turn = Norm360(to - from + 180.0) - 180.0;
+    const double turn = SignedArc(from, to);
     std::vector<LineSpan> arc = {{OnWheel(from, kRingAspectRadius), OnWheel(from, kArcRadius)}};
     for (int piece = 0; piece < kPieces; ++piece) {
         arc.push_back({OnWheel(from + turn * piece / kPieces, kArcRadius),
@@ -156,10 +155,10 @@ void DrawRingAspects(DrawingSurface& surface, const WheelPlan& plan) {
     constexpr double kFinest = 0.45;
     constexpr double kBetweenGlyphs = 5.0;
     const double size = SizeOf(plan.options, plan.form.aspectSize) * 0.85;
-    const std::vector<RingAspect> aspects = RingAspects(plan);
+    const std::vector<ListedAspect> aspects = RingAspects(plan);
     std::vector<Extent> taken;
     std::vector<WheelText> glyphs;
-    for (const RingAspect& aspect : aspects) {
+    for (const ListedAspect& aspect : aspects) {
         const double widest = IsMajor(aspect.code) ? kWidest : kWidest * 0.6;
         const double width = kFinest + (widest - kFinest) * aspect.exactness * aspect.exactness;
         surface.Lines(AspectSpans(plan, aspect), {RingAspectColour(plan, aspect.code, kLineContrast), width});
@@ -183,14 +182,10 @@ void DrawRingAspects(DrawingSurface& surface, const WheelPlan& plan) {
 
 }  // namespace
 
-std::vector<RingAspect> RingAspects(const WheelPlan& plan) {
-    std::vector<RingAspect> aspects;
-    for (const ListedAspect& listed : ListAspects(plan.chart, plan.orbs)) {
-        if (listed.first < listed.second) {
-            aspects.push_back({listed.first, listed.second, listed.code, listed.exactness});
-        }
-    }
-    std::ranges::stable_sort(aspects, {}, &RingAspect::exactness);
+std::vector<ListedAspect> RingAspects(const WheelPlan& plan) {
+    std::vector<ListedAspect> aspects = ListAspects(plan.chart, plan.orbs);
+    std::erase_if(aspects, [](const ListedAspect& aspect) { return aspect.first > aspect.second; });
+    std::ranges::stable_sort(aspects, {}, &ListedAspect::exactness);
     return aspects;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The third chart type: a graduated zodiac around the houses, everything at its true angle.
 
+#include "wheel/aspect_list.h"
 #include "wheel/planet_labels.h"
 
 namespace tolvanis {
@@ -12,14 +13,8 @@ inline constexpr double kRingGlyphRadius = 167.0;
 inline constexpr double kRingInnerRadius = 110.0;
 inline constexpr double kRingAspectRadius = 97.0;
 
-struct RingAspect {
-    int first = kSun;
-    int second = kSun;
-    int code = kNoAspect;
-    double exactness = 0.0;  // 0 at the bound of the orb, 1 when exact
-};
-// The aspects of all points under the plan's orbs, the closest last, so that it is drawn on top.
-std::vector<RingAspect> RingAspects(const WheelPlan& plan);
+// The aspects of all points under the plan's orbs, each once, the closest last, so that it is drawn on top.
+std::vector<ListedAspect> RingAspects(const WheelPlan& plan);
 
 // Bands, degrees, house lines that spare the labels, house numbers and aspects.
 void DrawZodiacRing(DrawingSurface& surface, const WheelPlan& plan, std::span<const PlanetLabel> labels);

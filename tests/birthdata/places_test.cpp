@@ -5,7 +5,6 @@
 #include "birthdata/record_search.h"
 #include "birthdata/time_zone_table.h"
 #include "support.h"
-#include "text/search_key.h"
 
 namespace tolvanis {
 namespace {
@@ -114,25 +113,6 @@ TEST(TimeZoneTableTest, StopsAtALineWithoutRoom) {
         EXPECT_EQ(messages.told.at(0).text, "The file TZ.DAT is corrupt.");
     }
     EXPECT_EQ(ReadTimeZones(directory.Write("TZ.DAT", std::string(32, 'N') + ",ABCD,1")).size(), 1U);
-}
-
-TEST(SearchKeyTest, DropsWhatPeopleDoNotType) {
-    struct Case {
-        const char *text, *key;
-    };
-    constexpr Case kCases[] = {{"Saint-Étienne", "SAINT ETIENNE"},
-                               {"St. John's", "ST JOHNS"},
-                               {"  Łódź ", "LODZ"},
-                               {"Straße", "STRASSE"},
-                               {"Ærøskøbing", "AEROSKOBING"},
-                               {"Đà Nẵng", "DA NANG"},
-                               {"Şə‘ki", "SEKI"},
-                               {"москва", "МОСКВА"},
-                               {"e\u0301", "E"},
-                               {"東京", "東京"},
-                               {"a\xFF", "A"},
-                               {"--", ""}};
-    for (const Case& test : kCases) EXPECT_EQ(SearchKey(test.text), test.key) << test.text;
 }
 
 TEST(RecordSearchTest, RanksBeginningsBeforeWordsBeforeTheRest) {

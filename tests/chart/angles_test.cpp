@@ -22,5 +22,25 @@ TEST(Angles, PolarFormAllRound) {
     }
 }
 
+TEST(Angles, NormalisedAnglesStayBelow360) {
+    const struct {
+        double angle, normalised;
+    } cases[] = {{0, 0}, {360, 0}, {-1e-17, 0}, {-90, 270}, {725, 5}, {-725, 355}, {359.999, 359.999}};
+    for (const auto& c : cases) EXPECT_DOUBLE_EQ(Norm360(c.angle), c.normalised) << c.angle;
+    EXPECT_DOUBLE_EQ(PackedToDecimal(40.45), 40.75);
+    EXPECT_DOUBLE_EQ(SignedPackedToDecimal(-73.59), -(73 + 59 / 60.0));
+    EXPECT_NEAR(ArcCos(0), kPi / 2, 1e-12);
+    EXPECT_NEAR(ArcSin(1), kPi / 2, 1e-9);
+}
+
+TEST(Angles, TheShorterWayRoundHasASign) {
+    const struct {
+        double from, to, way;
+    } cases[] = {{10, 30, 20},   {30, 10, -20},  {350, 20, 30},     {20, 350, -30},
+                 {0, 180, -180}, {180, 0, -180}, {-170, 190, 0},    {725, 0, -5},
+                 {0, 179, 179},  {0, 181, -179}, {90, 269.5, 179.5}};
+    for (const auto& c : cases) EXPECT_DOUBLE_EQ(SignedArc(c.from, c.to), c.way) << c.from << ' ' << c.to;
+}
+
 }  // namespace
 }  // namespace tolvanis

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "interp/report_pages.h"
+#include "output/text_files.h"
 #include "support.h"
 
 namespace tolvanis {
@@ -138,9 +139,9 @@ TEST_F(NatalReport, EveryMissingFileLeavesOnlyAGap) {
         EXPECT_EQ(Body().size(), whole - 1) << name;
         directory_.Write(name, "text\n");
     }
-    directory_.Write("PERSONAL.NAM", "Ann\r\nHome");
-    EXPECT_THAT(ReadPersonalBlock(texts_), ElementsAre("Ann", "Home"));
-    EXPECT_TRUE(ReadPersonalBlock(DataFiles(directory_ / "none")).empty());
+    const Path personalBlock = directory_.Write("PERSONAL.NAM", "Ann \r\nHome\r\n\r\n");
+    EXPECT_THAT(ReadPersonalBlock(personalBlock), ElementsAre("Ann ", "Home", ""));
+    EXPECT_TRUE(ReadPersonalBlock(directory_ / "none").empty());
 }
 
 TEST_F(NatalReport, StopsWhereTheBufferIsFull) {

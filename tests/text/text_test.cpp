@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "text/columns.h"
 #include "text/dates.h"
 #include "text/fields.h"
+#include "text/search_key.h"
 
 namespace tolvanis {
 namespace {
@@ -77,6 +80,31 @@ TEST(Dates, FormAndReading) {
     EXPECT_EQ(JoinDate("1949", "9", "22", 2), "1949/9/22");
 }
 
+// Meeus, Astronomical Algorithms, 2nd edition, chapter 7, and the calendar reform.
+TEST(Dates, JulianDayNumbers) {
+    const struct {
+        int year, month, day;
+        double atNoon;
+    } cases[] = {{2000, 1, 1, 2451545},   {1987, 6, 19, 2446966},  {837, 4, 10, 2026872},
+                 {333, 1, 27, 1842713},   {1582, 10, 4, 2299160},  {1582, 10, 15, 2299161},
+                 {1582, 10, 14, 2299170}, {1582, 12, 31, 2299238}, {1900, 2, 29, 2415080},
+                 {1955, 4, 31, 2435229},  {100, 1, 1, 1757583},    {2099, 12, 31, 2488069}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(JulianDayNumberOf(c.year, c.month, c.day), c.atNoon)
+            << c.year << '-' << c.month << '-' << c.day;
+    }
+}
+
+TEST(Dates, EveryDayFollowsTheOneBefore) {
+    using namespace std::chrono;
+    double last = JulianDayNumberOf(1583, 1, 1) - 1;
+    for (sys_days day = 1583y / 1 / 1; day < sys_days(2100y / 1 / 1); day += days(1)) {
+        const year_month_day date = day;
+        ASSERT_EQ(JulianDayNumberOf(int(date.year()), int(unsigned(date.month())), int(unsigned(date.day()))),
+                  ++last);
+    }
+}
+
 TEST(Fields, QuotesProtectAndNicknamesSurvive) {
     const struct {
         std::string_view line;
@@ -91,6 +119,25 @@ TEST(Fields, QuotesProtectAndNicknamesSurvive) {
                  {"Ann \"Nan\" Lee,b", {"Ann \"Nan\" Lee", "b"}},
                  {",,", {"", "", ""}}};
     for (const auto& c : cases) EXPECT_EQ(SplitFields(c.line), c.fields) << c.line;
+}
+
+TEST(SearchKey, DropsWhatPeopleDoNotType) {
+    struct Case {
+        const char *text, *key;
+    };
+    constexpr Case kCases[] = {{"Saint-Étienne", "SAINT ETIENNE"},
+                               {"St. John's", "ST JOHNS"},
+                               {"  Łódź ", "LODZ"},
+                               {"Straße", "STRASSE"},
+                               {"Ærøskøbing", "AEROSKOBING"},
+                               {"Đà Nẵng", "DA NANG"},
+                               {"Şə‘ki", "SEKI"},
+                               {"москва", "МОСКВА"},
+                               {"e\u0301", "E"},
+                               {"東京", "東京"},
+                               {"a\xFF", "A"},
+                               {"--", ""}};
+    for (const Case& test : kCases) EXPECT_EQ(SearchKey(test.text), test.key) << test.text;
 }
 
 }  // namespace

@@ -106,11 +106,17 @@ TEST(AsciiChart, EverySlotHasItsPlace) {
     }
 }
 
-TEST(AsciiChart, AllInOneHouseEnds) {
+// However crowded, every planet is written, and no row grows or shrinks.
+TEST(AsciiChart, AllInOneHouseAreWritten) {
     for (int house = 1; house <= 12; ++house) {
         WheelSnapshot chart = EqualHouses(0.0);
         for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 30.0 * (house - 1) + point);
-        EXPECT_EQ(DrawAsciiChart(chart).size(), 25u);
+        const auto rows = DrawAsciiChart(chart);
+        EXPECT_THAT(rows, ::testing::Each(::testing::SizeIs(79)));
+        for (const char* text :
+             {"SU01", "ME02", "VE03", "MA04", "JU05", "SA06", "UR07", "NE08", "PL09", "MO10", "PF13"}) {
+            EXPECT_THAT(rows, ::testing::Contains(::testing::HasSubstr(text))) << "house " << house;
+        }
     }
 }
 

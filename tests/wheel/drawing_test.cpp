@@ -21,11 +21,16 @@ struct DrawingTest : ::testing::Test {
     WheelSnapshot chart = SpreadChart(100.0);
     RecordingSurface surface;
 
-    RecordingSurface& Draw(ChartType type, bool halfPage = false) {
+    WheelRequest Request(ChartType type, double size = 800.0) const {
+        return {
+            .chart = chart, .data = data, .options = options, .type = type, .width = size, .height = size};
+    }
+    RecordingSurface& Draw(const WheelRequest& request) {
         surface = {};
-        DrawWheel(surface, {chart, data, options, type, 800.0, 800.0, halfPage});
+        DrawWheel(surface, request);
         return surface;
     }
+    RecordingSurface& Draw(ChartType type) { return Draw(Request(type)); }
     bool HasLine(Point from, Point to) const {
         return std::ranges::any_of(surface.lines, [&](const RecordingSurface::DrawnLine& line) {
             return std::hypot(line.from.x - from.x, line.from.y - from.y) < 1e-3 &&
@@ -107,8 +112,15 @@ TEST_F(DrawingTest, HalfPageIsWhiteWithBlackSoftAspects) {
     Put(chart, kMoon, 60.0);
     EXPECT_EQ(Draw(ChartType::American).background, 3);
     EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, static_cast<int>(options[97]));
-    EXPECT_EQ(Draw(ChartType::American, true).background, kWhite);
+    WheelRequest request = Request(ChartType::American);
+    request.use = WheelUse::HalfPage;
+    EXPECT_EQ(Draw(request).background, kWhite);
     EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, kBlack);
+    options[112] = 2.0F;
+    options[178] = 0.0F;
+    surface = {};
+    DrawPage(surface, {chart, data, options});
+    EXPECT_EQ(Texts(AspectGlyph(kSextile)).at(0).colour, 2) << "on a whole page they keep their colour";
 }
 
 TEST_F(DrawingTest, CuspLabelsStandWhereTheTablePutsThem) {
@@ -223,9 +235,11 @@ TEST_F(DrawingTest, ColoursFollowTheDesktopWhenAsked) {
     orbs.fill(4.0F);
     for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {
         for (const int ground : {Rgb(0xFFFFFF), Rgb(0xEFF0F1), Rgb(0x31363B), Rgb(0x000000)}) {
-            surface = {};
+            WheelRequest request = Request(type, 900.0);
+            request.orbs = orbs;
+            request.desktopGround = ground;
             options[104] = 1.0F;
-            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
+            Draw(request);
             EXPECT_EQ(surface.background, ground);
             for (const WheelText& text : surface.texts) {
                 // A sign of the ring stands on its sector's tint.
@@ -234,16 +248,14 @@ TEST_F(DrawingTest, ColoursFollowTheDesktopWhenAsked) {
             }
             for (const auto& line : surface.lines) EXPECT_GE(Contrast(line.stroke.colour, ground), 3.0);
             options[104] = 0.0F;
-            DrawWheel(surface, {chart, data, options, type, 900.0, 900.0, false, orbs, ground});
-            EXPECT_EQ(surface.background, kWhite);
+            EXPECT_EQ(Draw(request).background, kWhite);
         }
     }
 }
 
 TEST_F(DrawingTest, SmallPicturesLeaveOutMinutes) {
     const auto numbersInTheRing = [&](double size) {
-        surface = {};
-        DrawWheel(surface, {chart, data, options, ChartType::European, size, size});
+        Draw(Request(ChartType::European, size));
         return std::ranges::count_if(surface.texts, [&](const WheelText& text) {
             const Extent ink = InkOf(text, surface);
             return std::isdigit(text.text[0]) && FarthestFromCentre(ink) < 217.0;
@@ -257,13 +269,16 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
     OrbTable orbs{};
     orbs.fill(-1.0F);
     orbs[1] = 2.0F;
+    orbs[3] = 1.0F;   // square
     orbs[13] = 3.0F;  // quintile
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 100.0 + 17.3 * point);
     Put(chart, kSun, 130.0);
     Put(chart, kMoon, 131.0);
     Put(chart, kMars, 130.0 + 72.0);
-    surface = {};
-    DrawWheel(surface, {chart, data, options, ChartType::ZodiacRing, 500.0, 500.0, false, orbs});
+    Put(chart, kJupiter, 130.0 + 90.0);
+    WheelRequest request = Request(ChartType::ZodiacRing, 500.0);
+    request.orbs = orbs;
+    Draw(request);
     EXPECT_EQ(surface.sectors.size(), 12u);
     EXPECT_NEAR(surface.sectors[4].from, 180.0 + 120.0 - 100.0, 1e-9) << "Leo";
     int ticks = 0;
@@ -286,6 +301,7 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
     const double wide = widthOf(211.0, 282.0);
     EXPECT_GT(exact, wide) << "the closer aspect is heavier";
     EXPECT_GT(wide, 0.0);
+    EXPECT_GT(widthOf(210.0, 300.0), exact) << "a major aspect is heavier";
     EXPECT_EQ(widthOf(210.0, 211.0), 0.0) << "a conjunction is an arc";
     const auto arc = std::ranges::count_if(surface.lines, [](const auto& line) {
         return std::abs(std::hypot(line.from.x, line.from.y) - 93.5) < 1e-6 &&
@@ -311,8 +327,9 @@ TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
     Put(chart, kSun, 130.0);
     Put(chart, kMars, 220.5);
-    surface = {};
-    DrawWheel(surface, {chart, data, options, ChartType::ZodiacRing, 700.0, 700.0, false, orbs});
+    WheelRequest request = Request(ChartType::ZodiacRing, 700.0);
+    request.orbs = orbs;
+    Draw(request);
     ASSERT_FALSE(surface.discs.empty());
     for (const auto& disc : surface.discs) {
         const bool clearsGlyph =
@@ -325,6 +342,25 @@ TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
             });
         EXPECT_TRUE(clearsGlyph) << disc.centre.x << ' ' << disc.centre.y << ' ' << disc.radius;
         EXPECT_EQ(disc.colour, surface.background);
+    }
+}
+
+// In the middle of its cell or from a corner of it, an aspect's letter stays in the row of one point and the
+// column of the other.
+TEST_F(DrawingTest, GridAspectsStandInTheirCells) {
+    OrbTable orbs{};
+    orbs.fill(-1.0F);
+    orbs[3] = 1.0F;
+    for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
+    Put(chart, kSun, 130.0);
+    Put(chart, kMars, 220.0);  // fifth of the grid
+    for (const std::optional<Point> corner : {std::optional<Point>(), std::optional(Point{3.0, 2.0})}) {
+        surface = {};
+        AspectGridBlock({chart, options, orbs}, {{10.0, 200.0}, 12.0, 12.0, 9.0, 6.0, corner}).Draw(surface);
+        const auto glyphs = Texts(AspectGlyph(kSquare));
+        ASSERT_EQ(glyphs.size(), 1u);
+        const Extent cell{10.0, 200.0 - 4 * 12.0, 10.0 + 12.0, 200.0 - 5 * 12.0};
+        EXPECT_TRUE(Inside(InkOf(glyphs[0], surface), cell)) << corner.has_value();
     }
 }
 
@@ -373,7 +409,8 @@ TEST_F(DrawingTest, WordsTellPlaceHouseAndTheAspectsOfThePicture) {
     Put(chart, kMercury, 63.0);
     Put(chart, kMars, 123.5);
     chart.IsRetrograde[kMercury] = true;
-    WheelRequest request{chart, data, options, ChartType::ZodiacRing, 700.0, 700.0, false, orbs};
+    WheelRequest request = Request(ChartType::ZodiacRing, 700.0);
+    request.orbs = orbs;
     EXPECT_EQ(PointInWords(request, kSun), "Sun 03 Aries 12, house 1. Conjunct Moon.");
     EXPECT_THAT(PointTip(request, kSun), ::testing::HasSubstr("Conjunct Moon  1\xC2\xB0"
                                                               "00'"));

@@ -1,6 +1,7 @@
 #include "app/qt/interp_desk.h"
 
 #include "interp/qt/status_window.h"
+#include "output/text_files.h"
 #include "platform/qt/hourglass.h"
 
 namespace tolvanis {
@@ -31,7 +32,7 @@ InterpDesk::~InterpDesk() {
 void InterpDesk::BuildReport() {
     const Hourglass hourglass;
     StatusDlg status;
-    const std::vector<std::string> personalBlock = ReadPersonalBlock(state_.files);
+    const std::vector<std::string> personalBlock = ReadPersonalBlock(state_.files.Own(kPersonalBlockName));
     BuildNatalReport(state_.report, {state_.chart, state_.options, state_.files, personalBlock}, &status);
 }
 

@@ -38,9 +38,14 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
                       picture->files.directory().string());
     }
     const double size = wheel->size;
-    const Result<void> written = ExportWheel(
-        {picture->chart, picture->data, picture->options, wheel->type, size, size, false, picture->orbs},
-        wheel->file);
+    const WheelRequest request{.chart = picture->chart,
+                               .data = picture->data,
+                               .options = picture->options,
+                               .type = wheel->type,
+                               .width = size,
+                               .height = size,
+                               .orbs = picture->orbs};
+    const Result<void> written = ExportWheel(request, wheel->file);
     return written ? kAllComputed : Refuse(written.message());
 }
 

@@ -5,6 +5,7 @@
 #include "astro/modern/inner_planets.h"
 #include "astro/modern/moon.h"
 #include "astro/modern/outer_planets.h"
+#include "chart/angles.h"
 
 namespace tolvanis::modern {
 namespace {
@@ -99,9 +100,7 @@ Vector ApparentDirection(const Path& body, const Paths& paths, double days, bool
 }
 
 double Degrees(double radians) {
-    const double degrees = radians / kRadiansPerDegree;
-    const double angle = degrees - 360.0 * std::floor(degrees / 360.0);
-    return angle < 360.0 ? angle : 0.0;
+    return Norm360(radians / kRadiansPerDegree);
 }
 
 double LongitudeOf(const Vector& ecliptic) {

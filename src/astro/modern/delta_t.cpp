@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "astro/epochs.h"
 #include "astro/modern/vectors.h"
 
 namespace tolvanis::modern {

@@ -1,5 +1,6 @@
 #include "astro/modern/earth_orientation.h"
 
+#include "astro/epochs.h"
 #include "astro/modern/sine_batch.h"
 
 namespace tolvanis::modern {

@@ -1,5 +1,6 @@
 #include "astro/modern/inner_planets.h"
 
+#include "astro/epochs.h"
 #include "astro/modern/series_sum.h"
 
 namespace tolvanis::modern {

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "astro/epochs.h"
 #include "astro/modern/earth_orientation.h"
 #include "astro/modern/series_sum.h"
 #include "astro/pluto_series.h"
@@ -93,7 +94,7 @@ Motion SeriesMotion(const GiantSeries& series, double t) {
 Vector ClassicPluto(double tdb) {
     constexpr double kB1950 = 2433282.4235;
     static const Rotation toIcrs = MeanEclipticOfDate(kB1950).Inverse();
-    const HeliocentricPosition pluto = ComputePlutoHeliocentric((tdb - 2415020.0) / 36525.0);
+    const HeliocentricPosition pluto = ComputePlutoHeliocentric((tdb - kEpoch1900) / kDaysPerCentury);
     const double longitude = pluto.longitude * kRadiansPerDegree;
     const double latitude = pluto.latitude * kRadiansPerDegree;
     const double level = pluto.radius * std::cos(latitude);

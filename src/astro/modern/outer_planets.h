@@ -7,7 +7,6 @@
 
 namespace tolvanis::modern {
 
-enum class OuterPlanet { Jupiter, Saturn, Uranus, Neptune, Pluto };
 inline constexpr std::size_t kOuterPlanetCount = 5;
 
 // Heliocentric motions, ICRS; `tdb` is the Julian day of barycentric dynamical time, `inner` the motions of

@@ -1,5 +1,5 @@
 #pragma once
-// Units; directions, places and rotations in space.
+// Units of angles; directions, places and rotations in space.
 
 #include <array>
 #include <cmath>
@@ -7,9 +7,6 @@
 
 namespace tolvanis::modern {
 
-inline constexpr double kJ2000 = 2451545.0;  // Julian day of 2000 January 1, noon
-inline constexpr double kDaysPerCentury = 36525.0;
-inline constexpr double kDaysPerMillennium = 10.0 * kDaysPerCentury;
 inline constexpr double kTurn = 2.0 * std::numbers::pi;
 inline constexpr double kRadiansPerDegree = std::numbers::pi / 180.0;
 inline constexpr double kRadiansPerArcSecond = kRadiansPerDegree / 3600.0;

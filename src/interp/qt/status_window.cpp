@@ -8,9 +8,6 @@
 #include "platform/qt/placement.h"
 
 namespace tolvanis {
-namespace {
-constexpr int kLightRed = 12;
-}
 
 StatusDlg::StatusDlg() {
     setObjectName(QStringLiteral("StatusDlg"));

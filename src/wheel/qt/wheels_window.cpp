@@ -64,21 +64,20 @@ std::vector<DrawnPoint> Wheels::PaintWheel(QPainter& painter, const QRect& area)
         return {};
     }
     PainterSurface surface(painter, area, outlines_);
-    return DrawWheel(surface, RequestFor(area.size(), false));
+    return DrawWheel(surface, RequestFor(area.size()));
 }
 
 QString Wheels::TipOf(int point) const {
-    return QString::fromStdString(PointTip(RequestFor(canvas_->size(), false), point));
+    return QString::fromStdString(PointTip(RequestFor(canvas_->size()), point));
 }
 
 QString Wheels::WordsOf(int point) const {
-    return QString::fromStdString(PointInWords(RequestFor(canvas_->size(), false), point));
+    return QString::fromStdString(PointInWords(RequestFor(canvas_->size()), point));
 }
 
 // The picture in words follows the type and the orbs.
 void Wheels::Describe() {
-    canvas_->setAccessibleDescription(
-        QString::fromStdString(WheelInWords(RequestFor(canvas_->size(), false))));
+    canvas_->setAccessibleDescription(QString::fromStdString(WheelInWords(RequestFor(canvas_->size()))));
 }
 
 // A file that cannot be read is told where the user asks for its aspects, not here.
@@ -96,17 +95,17 @@ void Wheels::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) ReadOrbs();
 }
 
-WheelRequest Wheels::RequestFor(QSizeF size, bool halfPage) const {
+WheelRequest Wheels::RequestFor(QSizeF size, WheelUse use) const {
     const QColor ground = canvas_->palette().color(QPalette::Base);
-    return {chart_,
-            context_.data,
-            context_.options,
-            ChartTypeOf(typeChart_),
-            size.width(),
-            size.height(),
-            halfPage,
-            orbs_,
-            Rgb(static_cast<int>(ground.rgb() & 0xFFFFFFU))};
+    return {.chart = chart_,
+            .data = context_.data,
+            .options = context_.options,
+            .type = ChartTypeOf(typeChart_),
+            .width = size.width(),
+            .height = size.height(),
+            .use = use,
+            .orbs = orbs_,
+            .desktopGround = Rgb(static_cast<int>(ground.rgb() & 0xFFFFFFU))};
 }
 
 void Wheels::mnuCTAmerican_Click() {
@@ -166,8 +165,11 @@ void Wheels::mnuPrintChartwheel_Click() {
 }
 
 void Wheels::PrintFullPage() {
-    PageRequest page{chart_, context_.data, context_.options, typeChart_,
-                     ReadPersonalLines(context_.personalBlock, context_.options)};
+    PageRequest page{.chart = chart_,
+                     .data = context_.data,
+                     .options = context_.options,
+                     .typeChart = typeChart_,
+                     .personalLines = ReadPersonalLines(context_.personalBlock, context_.options)};
     if (const Result<void> read = ReadOrbsFile(orbsFile_, page.orbs); !read) {
         context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Warning);
         page.orbs = {};
@@ -190,7 +192,7 @@ void Wheels::PrintHalfPage() {
         const QSizeF size = window.scaled(half, Qt::KeepAspectRatio);
         const QRectF area(QPointF((half.width() - size.width()) / 2, 0.0), size);
         PainterSurface surface(painter, area, outlines_);
-        DrawWheel(surface, RequestFor(size, true));
+        DrawWheel(surface, RequestFor(size, WheelUse::HalfPage));
     });
 }
 
@@ -200,7 +202,7 @@ void Wheels::mnuExport_Click() {
         {context_.printing.directory, DocumentName() + ".svg", "Pictures", "*.svg *.pdf *.png", "svg"});
     if (!file) return;
     const Hourglass hourglass;
-    const Result<void> written = ExportWheel(RequestFor(canvas_->size(), false), *file);
+    const Result<void> written = ExportWheel(RequestFor(canvas_->size()), *file);
     if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Warning);
 }
 

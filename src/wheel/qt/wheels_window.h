@@ -68,7 +68,7 @@ class Wheels : public QMainWindow, private WheelPainter {
     void CheckType();
     void ReadOrbs();
     void Describe();
-    WheelRequest RequestFor(QSizeF size, bool halfPage) const;
+    WheelRequest RequestFor(QSizeF size, WheelUse use = WheelUse::Window) const;
     void PrintFullPage();
     void PrintHalfPage();
     std::string DocumentName() const;

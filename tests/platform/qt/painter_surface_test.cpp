@@ -15,7 +15,6 @@ namespace tolvanis {
 namespace {
 
 constexpr int kRed = kRgbColour | 0xC00000;
-constexpr int kWhite = kRgbColour | 0xFFFFFF;
 
 // A picture of 200 x 200 dots of the wheel units from -50 to 50, both ways.
 class PainterSurfaceTest : public testing::Test {

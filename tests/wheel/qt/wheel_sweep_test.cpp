@@ -145,8 +145,13 @@ Sweep RunSweep(int count, int step) {
                 for (const auto& [width, height] : kSizes) {
                     if (turn++ % step != 0) continue;
                     OutlineSurface surface(outlines);
-                    DrawWheel(surface, {chart, data, options, ChartTypeOf(type), width * 1.0, height * 1.0,
-                                        false, orbs});
+                    DrawWheel(surface, {.chart = chart,
+                                        .data = data,
+                                        .options = options,
+                                        .type = ChartTypeOf(type),
+                                        .width = width * 1.0,
+                                        .height = height * 1.0,
+                                        .orbs = orbs});
                     Check(surface, what + " " + std::to_string(width) + "x" + std::to_string(height),
                           type == 2, sweep);
                 }
