@@ -1,6 +1,7 @@
 #include "app/editor_file.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 #include "text/columns.h"
@@ -33,18 +34,27 @@ std::string LinesOnlyIn(const std::vector<std::string>& lines, const std::vector
     return text + "\r\n";
 }
 
+std::size_t HashOf(std::string_view content) {
+    return std::hash<std::string_view>()(content);
+}
+
 }  // namespace
 
-Result<std::string> EditorFile::Present() const {
+bool EditorFile::IsThere() const {
     std::error_code error;
-    if (!std::filesystem::exists(FindPath(file_), error) && !error) return std::string();
-    return ReadBytes(file_);
+    return std::filesystem::exists(FindPath(file_), error) || error;
+}
+
+Result<std::string> EditorFile::Present() const {
+    return IsThere() ? ReadBytes(file_) : Result<std::string>(std::string());
 }
 
 Result<std::string> EditorFile::Read() {
     known_.reset();
+    wasThere_ = IsThere();
     Result<std::string> present = Present();
     if (!present) return present.fault();
+    seen_ = HashOf(*present);
     LineReader reader = LineReader::OfText(*present);
     std::string text;
     for (std::string line; reader.Next(line);) text.append(line).append("\r\n");
@@ -57,16 +67,21 @@ Result<std::string> EditorFile::Read() {
 
 bool EditorFile::HasChanged() const {
     const Result<std::string> present = Present();
-    return present && known_ != *present;
+    return present && seen_ != HashOf(*present);
+}
+
+bool EditorFile::IsGone() const {
+    return wasThere_ && !IsThere();
 }
 
 Result<bool> EditorFile::Save(std::string_view text) {
     if (!known_) return Fault{"The file " + file_.string() + " could not be read and is left as it is."};
     std::string content = EditedFile(text);
+    if (IsGone()) known_->clear();
     const bool same = content == *known_ && IsNameTaken(FindPath(file_)) && !HasChanged();
     if (same) return true;
     Result<bool> saved = ReplaceIfUnchanged(file_, BackupPath(FindPath(file_)), *known_, content);
-    if (saved && *saved) known_ = std::move(content);
+    if (saved && *saved) Know(std::move(content));
     return saved;
 }
 
@@ -74,8 +89,14 @@ Result<std::string> EditorFile::TakeChanges() {
     Result<std::string> present = Present();
     if (!present) return present.fault();
     std::string changes = ChangesBetween(known_.value_or(std::string()), *present);
-    known_ = std::move(*present);
+    Know(std::move(*present));
     return changes;
+}
+
+void EditorFile::Know(std::string content) {
+    wasThere_ = IsThere();
+    seen_ = HashOf(content);
+    known_ = std::move(content);
 }
 
 std::string EditedFile(std::string_view text) {

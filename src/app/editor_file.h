@@ -20,14 +20,15 @@ class EditorFile {
     // there and cannot be read gives a fault.
     Result<std::string> Read();
 
-    // Whether the file could be read the last time. One that could not is never written.
-    bool IsRead() const { return known_.has_value(); }
-
-    // Whether the file's content is another one than was read.
+    // Whether the file's content is another one than at the last Read, also where that gave a fault.
     bool HasChanged() const;
 
+    // Whether the file was there at the last Read or Save and is no more.
+    bool IsGone() const;
+
     // Writes the edited text (EditedFile) and keeps the former content under BackupPath. False, with nothing
-    // written, when the file's content is another one than was read.
+    // written, when the file's content is another one than was read; a file that is gone is written anew. One
+    // that could not be read is never written.
     Result<bool> Save(std::string_view text);
 
     // What the file has gained and lost since it was read, in words; from then on its present content is what
@@ -35,9 +36,13 @@ class EditorFile {
     Result<std::string> TakeChanges();
 
   private:
+    bool IsThere() const;
     Result<std::string> Present() const;
+    void Know(std::string content);
 
     Path file_;
+    bool wasThere_ = false;
+    std::optional<std::size_t> seen_;   // the hash of the content that was found
     std::optional<std::string> known_;  // the content that was read
 };
 

@@ -26,11 +26,16 @@ Result<int> ReadOptions(const DataFiles& files, Options& options) {
     return ReadNumberLines(files.Own(kOptionsFileName), options.table());
 }
 
-Result<void> RestoreOptions(const DataFiles& files) {
+Result<Path> RestoreOptions(const DataFiles& files) {
     const Result<std::string> content = ReadBytes(files.Find(kOptionsMasterName));
     if (!content) return content.fault();
     const Path file = files.Own(kOptionsFileName);
-    return ReplaceAndKeep(file, BackupPath(file), *content);
+    Options present;
+    // Options are kept; what holds none does not take the place of options that have been kept.
+    const Path backup = LoadOptions(files, present) ? BackupPath(file) : Path(file).replace_extension("BAD");
+    if (const Result<void> replaced = ReplaceAndKeep(file, backup, *content); !replaced)
+        return replaced.fault();
+    return backup;
 }
 
 Result<void> LoadOptions(const DataFiles& files, Options& options) {

@@ -19,7 +19,7 @@ Result<int> ReadOptions(const DataFiles& files, Options& options);
 Result<void> LoadOptions(const DataFiles& files, Options& options);
 
 // Puts the master copy, the delivered options, in the place of the options file, whose content is kept under
-// BackupPath.
-Result<void> RestoreOptions(const DataFiles& files);
+// BackupPath, or with the ending BAD where it holds no options. Gives that name.
+Result<Path> RestoreOptions(const DataFiles& files);
 
 }  // namespace tolvanis

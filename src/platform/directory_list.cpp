@@ -35,7 +35,9 @@ std::vector<std::string> EntriesOf(const Path& directory, Wanted wanted) {
     std::error_code error;
     for (fs::directory_iterator entry(FindPath(directory), error), end; !error && entry != end;
          entry.increment(error)) {
-        if (wanted(*entry)) names.push_back(entry->path().filename().string());
+        const std::string name = entry->path().filename().string();
+        // A name in another encoding could be shown, but not be written down and found again.
+        if (ToUtf8(name) == name && wanted(*entry)) names.push_back(name);
     }
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
         const std::string upperA = UpperCase(a), upperB = UpperCase(b);

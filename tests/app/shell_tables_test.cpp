@@ -83,8 +83,18 @@ TEST(Editors, OverwriteNothingThatWasSavedMeanwhile) {
     EXPECT_EQ(FileContent(path), "Ann\r\nEve\r\n");
     EXPECT_EQ(FileContent(directory / "N.OLD"), "Ann\r\nCid\x1B\r\n");
 
+    EXPECT_FALSE(file.IsGone());
     std::filesystem::remove(path);
-    EXPECT_FALSE(*file.Save("Ann\r\nEve\r\nFay\r\n"));
+    EXPECT_TRUE(file.IsGone());
+    EXPECT_TRUE(*file.Save("Ann\r\nEve\r\nFay\r\n")) << "it may be the last copy";
+    EXPECT_EQ(FileContent(path), "Ann\r\nEve\r\nFay\r\n");
+    EXPECT_EQ(FileContent(directory / "N.OLD"), "Ann\r\nCid\x1B\r\n");
+
+    directory.Write("N.FIL", std::string(kLongestLine + 1, 'x'));
+    EXPECT_FALSE(file.Read());
+    EXPECT_FALSE(file.HasChanged()) << "the same fault is told once";
+    directory.Write("N.FIL", "Ann\r\n");
+    EXPECT_TRUE(file.HasChanged());
     EditorFile unread(directory.path());
     EXPECT_FALSE(unread.Read());
     EXPECT_FALSE(unread.Save("Ann"));
@@ -110,11 +120,11 @@ TEST(OptionsFile, IsRestoredFromItsMaster) {
     const DataFiles files(directory.path(), installed.path());
     EXPECT_FALSE(RestoreOptions(files));
     installed.Write("OPTIONS.MAS", "5\r\n");
-    directory.Write("Options.opt", "mine\r\n");
+    directory.Write("Options.opt", "7 mine\r\n");
     for (int again = 0; again < 2; ++again) {
         ASSERT_TRUE(RestoreOptions(files));
         EXPECT_EQ(FileContent(directory / "Options.opt"), "5\r\n");
-        EXPECT_EQ(FileContent(directory / "Options.OLD"), "mine\r\n");
+        EXPECT_EQ(FileContent(directory / "Options.OLD"), "7 mine\r\n");
     }
 }
 

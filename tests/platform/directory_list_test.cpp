@@ -28,6 +28,7 @@ TEST(DirectoryList, ListsFilesAndDirectoriesApart) {
     directory.Write("A.TXT", "");
     std::filesystem::create_directory(directory.path() / "X.FIL");
     std::filesystem::create_directory(directory.path() / ".hidden");
+    directory.Write("caf\xE9.FIL", "in another encoding");
     const std::vector<std::string> files = FilesIn(directory.path(), "*.FIL");
     EXPECT_EQ(files, (std::vector<std::string>{"A.FIL", "b.fil"}));
     EXPECT_EQ(DirectoriesIn(directory.path()), std::vector<std::string>{"X.FIL"});

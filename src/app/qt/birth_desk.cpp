@@ -41,7 +41,10 @@ BirthDesk::BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialo
       input_(std::make_unique<InputD>(state.options, messages, clock)),
       atlas_(
           [this](const Path& program) {
-              return RunAndWait(program, AtlasEnvironment(input_->Entry(), state_.files.directory()));
+              std::error_code error;
+              const bool own = std::filesystem::equivalent(program.parent_path(), state_.ownAtlas, error);
+              return RunAndWait(program, own ? AtExit::EndIt : AtExit::LeaveIt,
+                                AtlasEnvironment(input_->Entry(), state_.files.directory()));
           },
           messages, state.ownAtlas) {
     ConnectInput();
@@ -185,7 +188,10 @@ void BirthDesk::SaveEntry() {
 void BirthDesk::LookUpInAtlas() {
     const std::string directory = AtlasDirectoryOf(state_.settings.AtlasDir, state_.ownAtlas);
     std::string answer = directory;
+    const QPointer<InputD> input = input_.get();
+    input->SetAtlasOpen(true);
     const auto place = atlas_.LookUp(answer);
+    if (input != nullptr) input->SetAtlasOpen(false);
     if (answer != directory) state_.settings.AtlasDir = answer;
     if (place) FillInPlace(*place);
 }

@@ -27,6 +27,10 @@ constexpr std::string_view kDataHelpFile = "OUTPUTD1.HLP";
 constexpr std::string_view kHelpPrintFile = "HELPFILE";
 constexpr const char* kUnsavedLostText =
     "The changes in this window are not saved and will be lost. Restore the default settings?";
+constexpr const char* kNoOptionsText =
+    " The program does not start with it. Restore Default Settings puts the delivered options in its place; "
+    "the "
+    "former ones are kept as OPTIONS.OLD.";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
 
 // The settings hold the height of the whole window, caption included.
@@ -77,7 +81,7 @@ bool Desktop::StartOptions() {
     const Answer answer = services_.messages.AskYesNo(
         "Error!", fault + " The program needs it. Restore it from " + master.string() + "?");
     if (answer != Answer::Yes) return false;
-    if (const Result<void> restored = RestoreOptions(state_.files); !restored) {
+    if (const Result<Path> restored = RestoreOptions(state_.files); !restored) {
         services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
         return false;
     }
@@ -333,6 +337,9 @@ void Desktop::EditorSaved(EditorUse use) {
     if (use != EditorUse::Options) return;
     const Result<int> read = ReadOptions(state_.files, state_.options);
     if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
+    Options held;
+    if (const Result<void> loaded = LoadOptions(state_.files, held); read && !loaded)
+        services_.messages.Tell("Warning!", loaded.message() + kNoOptionsText, MessageIcon::Warning);
     state_.titlePrefix = kTitlePrefixAfterOptions;
     UpdateClock();
 }
@@ -344,14 +351,15 @@ void Desktop::EditorClosed(EditorUse use) {
 void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
     const bool asks = editor.HasUnsavedChanges();
     if (asks && services_.messages.AskYesNoCancel("Warning!", kUnsavedLostText) != Answer::Yes) return;
-    if (!RestoreOptions(state_.files)) {
+    const Result<Path> restored = RestoreOptions(state_.files);
+    if (!restored) {
         services_.messages.Tell("Warning!", kRestoreFailedText, MessageIcon::Information);
         return;
     }
     editor.Load();
-    const std::string kept = BackupPath(state_.files.Own(kOptionsFileName)).filename().string();
     services_.messages.Tell("Information",
-                            "The default settings are restored. The former ones are kept as " + kept + ".",
+                            "The default settings are restored. The former ones are kept as " +
+                                restored->filename().string() + ".",
                             MessageIcon::Information);
 }
 

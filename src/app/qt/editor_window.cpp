@@ -71,10 +71,22 @@ void EditorWindow::Load() {
 }
 
 void EditorWindow::Refresh() {
-    if (HasUnsavedChanges() || !file_.HasChanged()) return;
+    if (HasUnsavedChanges()) return;
+    if (file_.IsGone()) return KeepText();
+    if (!file_.HasChanged()) return;
     const int line = txtContent_->verticalScrollBar()->value();
     Load();
     txtContent_->verticalScrollBar()->setValue(line);
+}
+
+// The text may be the last copy of a file that has gone.
+void EditorWindow::KeepText() {
+    if (txtContent_->isReadOnly()) return;
+    txtContent_->document()->setModified(true);
+    messages_.Tell("Warning!",
+                   "The file " + file().string() +
+                       " is no longer there. Its text stays in this window; Save writes it again.",
+                   MessageIcon::Warning);
 }
 
 bool EditorWindow::HasUnsavedChanges() const {

@@ -44,6 +44,7 @@ class EditorWindow : public QWidget {
 
   private:
     void Build();
+    void KeepText();
     bool Overwrites();
 
     const EditorUseInfo& info_;

@@ -288,6 +288,12 @@ void InputD::Label1_Click() {
     Q_EMIT timeZoneHelpRequested();
 }
 
+void InputD::SetAtlasOpen(bool open) {
+    Label2_->setEnabled(!open);
+    Label2_->setToolTip(open ? QStringLiteral("The atlas is open in a window of its own.") : QString());
+    if (!open) Label2_->setFocus();
+}
+
 void InputD::Label2_Click() {
     Q_EMIT atlasRequested();
 }

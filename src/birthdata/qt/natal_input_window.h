@@ -46,6 +46,9 @@ class InputD : public QDialog {
     using Adviser = std::function<ZoneAdvice(const NatalEntry&)>;
     void SetAdviser(Adviser adviser);
 
+    // While the atlas is open it cannot be asked for again.
+    void SetAtlasOpen(bool open);
+
   Q_SIGNALS:
     void computeRequested();
     void saveRequested();

@@ -10,7 +10,8 @@
 
 namespace tolvanis {
 
-ProgramRun RunAndWait(const Path& program, const std::vector<std::pair<std::string, std::string>>& more) {
+ProgramRun RunAndWait(const Path& program, AtExit atExit,
+                      const std::vector<std::pair<std::string, std::string>>& more) {
     auto process = std::make_unique<QProcess>();
     QEventLoop loop;
     QObject::connect(process.get(), &QProcess::finished, &loop, &QEventLoop::quit);
@@ -25,6 +26,11 @@ ProgramRun RunAndWait(const Path& program, const std::vector<std::pair<std::stri
     if (!process->waitForStarted()) return ProgramRun::NotStarted;
     if (process->state() != QProcess::NotRunning) loop.exec();
     if (process->state() == QProcess::NotRunning) return ProgramRun::Ended;
+    if (atExit == AtExit::EndIt) {
+        process->terminate();
+        process->waitForFinished(1000);  // milliseconds
+        return ProgramRun::Abandoned;
+    }
     // The other program belongs to the user: the destructor, which would kill it, must not run.
     static_cast<void>(process.release());
     return ProgramRun::Abandoned;

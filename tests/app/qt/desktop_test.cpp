@@ -418,6 +418,55 @@ TEST_F(DesktopWindow, AnEditorWipesNothingOutThatWasSavedMeanwhile) {
     EXPECT_TRUE(Find<QPlainTextEdit>(*TopWindow<EditorWindow>(), "txtContent").isReadOnly());
 }
 
+// Files that vanish or are spoilt while their editor is open cost neither their text nor the program.
+TEST_F(DesktopWindow, AnEditorOutlivesItsFile) {
+    directory_.Write("PERSONAL.NAM", "Ann\r\n");
+    Choose("mnuHeader");
+    auto* editor = TopWindow<EditorWindow>();
+    const auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    const auto comeBack = [&] {
+        QEvent activated(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(editor, &activated);
+        return messages_.TakeTold();
+    };
+    std::filesystem::remove(directory_ / "PERSONAL.NAM");
+    const auto told = comeBack();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_NE(told[0].find("PERSONAL.NAM is no longer there"), std::string::npos);
+    EXPECT_EQ(content.toPlainText(), QStringLiteral("Ann\n"));
+    EXPECT_TRUE(editor->HasUnsavedChanges());
+    EXPECT_TRUE(comeBack().empty()) << "told once";
+    Press(*editor, "btnSave");
+    EXPECT_EQ(FileContent(directory_ / "PERSONAL.NAM"), "Ann\r\n");
+
+    directory_.Write("PERSONAL.NAM", std::string(kLongestLine + 1, 'x'));
+    EXPECT_EQ(comeBack().size(), 1U);
+    EXPECT_TRUE(content.isReadOnly());
+    EXPECT_TRUE(comeBack().empty()) << "the box itself, when it closes, activates the window again";
+    directory_.Write("PERSONAL.NAM", "Bob\r\n");
+    EXPECT_TRUE(comeBack().empty());
+    EXPECT_EQ(content.toPlainText(), QStringLiteral("Bob\n"));
+    EXPECT_FALSE(content.isReadOnly());
+}
+
+// What holds no options is told when it is saved, and never takes the place of options that were kept.
+TEST_F(DesktopWindow, OptionsThatHoldNoneAreToldAndCostNoBackup) {
+    const std::string own = FileContent(directory_ / "OPTIONS.OPT") + "extra\r\n";
+    directory_.Write("OPTIONS.OPT", own);
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    Find<QPlainTextEdit>(*editor, "txtContent").selectAll();
+    Find<QPlainTextEdit>(*editor, "txtContent").insertPlainText(QStringLiteral("no options"));
+    Press(*editor, "btnSave");
+    EXPECT_NE(messages_.TakeTold().at(0).find("holds no options"), std::string::npos);
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), own);
+    messages_.answers = {Answer::Yes};
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), FileContent(directory_ / "OPTIONS.MAS"));
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), own);
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.BAD"), "no options\r\n");
+}
+
 TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
     TypeBirth();
     PressOK();
