@@ -89,8 +89,8 @@ void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
         }
         found = births.name.has_value();
     }
-    if (!reader.IsOpen()) {
-        receiver.Refuse(file, "cannot be read: " + reader.Problem());
+    if (reader.HasFault()) {
+        receiver.Refuse(file, "cannot be read: " + reader.fault());
     } else if (births.name && !found) {
         receiver.Refuse(file, "there is no record with the name \"" + *births.name + "\"");
     }

@@ -58,8 +58,8 @@ Result<std::string> EditorFile::Read() {
     LineReader reader = LineReader::OfText(*present);
     std::string text;
     for (std::string line; reader.Next(line);) text.append(line).append("\r\n");
-    if (!reader.IsOpen()) {
-        return Fault{"Cannot read the file " + file_.string() + ": " + reader.Problem() + "."};
+    if (reader.HasFault()) {
+        return CannotRead(file_, reader.fault());
     }
     known_ = std::move(*present);
     return text;

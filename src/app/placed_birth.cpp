@@ -10,7 +10,7 @@ namespace tolvanis {
 namespace {
 
 std::string Described(const ZoneReading& reading) {
-    return "\n  zone " + ZoneHoursText(reading.offset) + ": " + ClockText(reading.clock) + " " +
+    return "\n  zone " + ZoneHoursText(-reading.offset / 3600.0) + ": " + ClockText(reading.clock) + " " +
            ReadingText(reading) + ", " + GradeText(reading);
 }
 
@@ -52,9 +52,9 @@ void SetZone(NatalEntry& entry, PlacedBirth& birth, const ClockMoment& clock, in
     birth.zone = zone.hours;
     entry.timeZone = NumberText(zone.hours);
     if (zone.days == 0) return;
-    SetDate(entry, NextDay(clock, zone.days).date);
+    SetDate(entry, DaysLater(clock, zone.days).date);
     birth.note = birth.place.name + " keeps the date of the other side of the date line; the entry has " +
-                 FormatDate(NextDay(clock, zone.days).date) + " with the zone " + NumberText(zone.hours);
+                 FormatDate(DaysLater(clock, zone.days).date) + " with the zone " + NumberText(zone.hours);
 }
 
 void SetPlace(NatalEntry& entry, const AtlasPlace& place) {

@@ -1,7 +1,5 @@
 #include "birthdata/atlas_exchange.h"
 
-#include <cmath>
-
 #include "text/fields.h"
 #include "text/numbers.h"
 
@@ -37,8 +35,7 @@ NatalEntry BirthOfEnvironment(std::string_view value) {
 std::string ExchangeText(const AtlasPlace& place, int offset) {
     const double hours = EntryZoneOf(offset, place.place.degreesEast).hours;
     return place.FullName() + "\r\n" + CoordinateText(place.Latitude(), "NS") + "\r\n" +
-           CoordinateText(place.Longitude(), "WE") + "\r\n\r\n" +
-           ZoneHoursText(static_cast<int>(std::lround(-hours * 3600.0))) + "\r\n";
+           CoordinateText(place.Longitude(), "WE") + "\r\n\r\n" + ZoneHoursText(hours) + "\r\n";
 }
 
 }  // namespace tolvanis

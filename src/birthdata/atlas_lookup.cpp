@@ -22,7 +22,7 @@ std::optional<std::vector<std::string>> FirstLines(const Path& path, std::size_t
     LineReader reader(path);
     std::vector<std::string> lines;
     for (std::string line; lines.size() < count && reader.Next(line);) lines.push_back(line);
-    if (!reader.IsOpen() || lines.size() < count) return std::nullopt;
+    if (reader.HasFault() || lines.size() < count) return std::nullopt;
     return lines;
 }
 

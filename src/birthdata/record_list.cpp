@@ -7,8 +7,8 @@ namespace tolvanis {
 RecordList::RecordList(const Path& path, const Check& check) {
     LineReader reader(path);
     Read(reader, check);
-    if (!reader.IsOpen()) {
-        fault_ = RecordFault{0, "Cannot read the file " + path.string() + ": " + reader.Problem() + "."};
+    if (reader.HasFault()) {
+        fault_ = RecordFault{0, CannotRead(path, reader.fault()).message};
     }
 }
 

@@ -28,7 +28,7 @@ std::string DateText(const ClockMoment& clock) {
 }
 
 std::string ZoneWords(const EntryReadings& found, const ZoneReading& reading) {
-    return "zone " + ZoneHoursText(static_cast<int>(std::lround(-found.HoursOf(reading) * 3600.0)));
+    return "zone " + ZoneHoursText(found.HoursOf(reading));
 }
 
 // What makes a reading less than sure, for the end of a line.
@@ -39,10 +39,9 @@ std::string Doubt(const ZoneReading& reading) {
 }
 
 ZoneAdvice OneReading(const EntryReadings& found, const ZoneReading& reading) {
-    const std::string zone = ZoneWords(found, reading);
     return {"On " + DateText(reading.clock) + " " + std::string(KindText(reading.kind)) +
-                " was in force in " + found.place.name + ": " + zone + Doubt(reading),
-            zone.substr(zone.find(' ') + 1)};
+                " was in force in " + found.place.name + ": " + ZoneWords(found, reading) + Doubt(reading),
+            ZoneHoursText(found.HoursOf(reading))};
 }
 
 ZoneAdvice TwoReadings(const EntryReadings& found) {
@@ -124,12 +123,12 @@ std::optional<EntryReadings> ReadingsOfEntry(const ZoneBook& book, const NatalEn
     if (readings.empty()) return found;
     const int days = EntryZoneOf(readings.front().offset, *east).days;
     if (days == 0) return found;
-    const ZoneAnswer shifted = LookUpZone(book.history, found.place.place, NextDay(*clock, -days));
+    const ZoneAnswer shifted = LookUpZone(book.history, found.place.place, DaysLater(*clock, -days));
     const auto isShifted = [&](const ZoneReading& reading) {
         return EntryZoneOf(reading.offset, *east).days == days;
     };
     if (std::ranges::all_of(shifted.readings, isShifted)) {
-        found.clock = NextDay(*clock, -days);
+        found.clock = DaysLater(*clock, -days);
         found.answer = shifted;
     }
     return found;

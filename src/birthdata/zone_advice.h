@@ -53,8 +53,9 @@ struct ZoneAdvice {
 };
 ZoneAdvice AdviseZone(const ZoneBook& book, const NatalEntry& entry);
 
-// A reading in words: "daylight saving (EDT)", with the grade and its reason where it is not sure.
+// A reading in words: "daylight saving (EDT)".
 std::string ReadingText(const ZoneReading& reading);
+// Its grade and the reason: "Sure: the clocks ...".
 std::string GradeText(const ZoneReading& reading);
 
 }  // namespace tolvanis

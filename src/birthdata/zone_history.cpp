@@ -229,7 +229,7 @@ Result<ZoneHistory> ZoneHistory::Read(const Path& file) {
         return Fault{file.string() + ":" + std::to_string(lines.LineNumber()) +
                      ": this line of the zone history cannot be read"};
     }
-    if (!lines.IsOpen()) return Fault{"Cannot read the file " + file.string() + ": " + lines.Problem() + "."};
+    if (lines.HasFault()) return CannotRead(file, lines.fault());
     Result<ZoneHistory> history = reader.Finish();
     if (!history) return Fault{file.string() + ": " + history.message()};
     return history;

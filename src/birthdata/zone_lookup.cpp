@@ -111,7 +111,7 @@ constexpr std::string_view kGrades[] = {"sure", "reference", "nearest", "dispute
 
 }  // namespace
 
-ClockMoment NextDay(const ClockMoment& moment, int days) {
+ClockMoment DaysLater(const ClockMoment& moment, int days) {
     return ClockOf(LocalSeconds(moment) + std::int64_t{days} * kSecondsPerDay);
 }
 
@@ -168,9 +168,9 @@ std::string_view GradeCode(ZoneGrade grade) {
     return kGrades[static_cast<std::size_t>(grade)];
 }
 
-std::string ZoneHoursText(int offset) {
+std::string ZoneHoursText(double hoursWest) {
     constexpr double kPerHour = 10000.0;  // four decimals tell seconds apart
-    const double hours = std::round(-offset / 3600.0 * kPerHour) / kPerHour;
+    const double hours = std::round(hoursWest * kPerHour) / kPerHour;
     return NumberText(hours == 0.0 ? 0.0 : hours);
 }
 

@@ -36,7 +36,7 @@ struct ClockMoment {
 
     friend bool operator==(const ClockMoment&, const ClockMoment&) = default;
 };
-ClockMoment NextDay(const ClockMoment& moment, int days = 1);
+ClockMoment DaysLater(const ClockMoment& moment, int days);
 ClockMoment Later(const ClockMoment& moment, int seconds);
 
 struct ZoneReading {
@@ -68,8 +68,8 @@ std::string_view KindText(ZoneKind kind);
 std::string_view KindCode(ZoneKind kind);
 std::string_view GradeCode(ZoneGrade grade);
 
-// The hours that an entry takes for an offset, positive west, in the shortest text that gives the second.
-std::string ZoneHoursText(int offset);
+// Hours of a zone in the shortest text that gives the second.
+std::string ZoneHoursText(double hoursWest);
 
 // "4:05 A.M.", with the seconds where there are some.
 std::string ClockText(const ClockMoment& moment);

@@ -33,11 +33,9 @@ class ZoneChecker : public EntryWriter {
         line += exists ? "; in force at " : "; this time did not exist at ";
         line += found->place.FullName();
         for (const ZoneReading& reading : exists ? found->answer.readings : found->answer.around) {
-            line += "; zone " +
-                    ZoneHoursText(static_cast<int>(std::lround(-found->HoursOf(reading) * 3600.0))) + ", " +
-                    ReadingText(reading) + ": Ascendant " +
-                    Difference(chart->positions.Ascendant, entry, found->HoursOf(reading)) + ". " +
-                    GradeText(reading);
+            line += "; zone " + ZoneHoursText(found->HoursOf(reading)) + ", " + ReadingText(reading) +
+                    ": Ascendant " + Difference(chart->positions.Ascendant, entry, found->HoursOf(reading)) +
+                    ". " + GradeText(reading);
         }
         NoteDifference();
         WriteLine(line);

@@ -26,10 +26,6 @@ std::string TooLarge(std::string_view what, std::size_t limit) {
     return std::string(what) + " has more than " + std::to_string(limit) + " bytes";
 }
 
-Fault CannotRead(const Path& path, const std::string& reason) {
-    return {"Cannot read the file " + path.string() + ": " + reason + "."};
-}
-
 constexpr int kPatience = 2000;  // milliseconds for the first byte of a pipe
 constexpr int kForEver = -1;
 
@@ -201,20 +197,20 @@ std::string_view ByteReader::Next() {
 }
 
 LineReader::LineReader(const Path& path)
-    : file_(std::make_unique<ByteReader>(path)), fault_(file_->Problem()) {}
+    : file_(std::make_unique<ByteReader>(path)), fault_(file_->fault()) {}
 
 void LineReader::ReadMore() {
     buffer_.erase(0, buffer_.size() - rest_.size());
     const std::string_view piece = file_->Next();
     buffer_ += piece;
     rest_ = buffer_;
-    fault_ = file_->Problem();
+    fault_ = file_->fault();
     if (piece.empty()) file_.reset();
 }
 
 // An empty line without an end says that there is no more.
 std::string_view LineReader::TakeRawLine() {
-    while (IsOpen()) {
+    while (!HasFault()) {
         const std::size_t length = LineLength(rest_);
         if ((length > 0 ? length : rest_.size()) > kLongestLine) {
             fault_ = TooLarge("line " + std::to_string(lineNumber_ + 1), kLongestLine);
@@ -240,6 +236,10 @@ bool LineReader::Next(std::string& line) {
     }
 }
 
+Fault CannotRead(const Path& path, std::string_view reason) {
+    return {"Cannot read the file " + path.string() + ": " + std::string(reason) + "."};
+}
+
 Result<std::vector<std::string>> ReadLines(const Path& path) {
     LineReader reader(path);
     std::vector<std::string> lines;
@@ -249,7 +249,7 @@ Result<std::vector<std::string>> ReadLines(const Path& path) {
         if (size > kLargestFile) return CannotRead(path, TooLarge("it", kLargestFile));
         lines.push_back(line);
     }
-    if (!reader.IsOpen()) return CannotRead(path, reader.Problem());
+    if (reader.HasFault()) return CannotRead(path, reader.fault());
     return lines;
 }
 
@@ -262,7 +262,7 @@ Result<std::string> ReadBytes(const Path& path) {
         }
         bytes += piece;
     }
-    if (!reader.Problem().empty()) return CannotRead(path, reader.Problem());
+    if (!reader.fault().empty()) return CannotRead(path, reader.fault());
     return bytes;
 }
 
@@ -277,7 +277,7 @@ Result<int> ReadNumberLines(const Path& path, std::span<float> values) {
             values[index] = static_cast<float>(std::clamp(number, -kLargestNumber, kLargestNumber));
         }
     }
-    if (!reader.IsOpen()) return CannotRead(path, reader.Problem());
+    if (reader.HasFault()) return CannotRead(path, reader.fault());
     return count;
 }
 

@@ -75,7 +75,7 @@ class ByteReader {
     std::string_view Next();
     // Why the file could not be opened or read to its end, or that nothing comes out of a pipe ("No such file
     // or directory"); empty when all is well.
-    const std::string& Problem() const { return fault_; }
+    const std::string& fault() const { return fault_; }
 
   private:
     int descriptor_;
@@ -94,9 +94,10 @@ class LineReader {
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
 
-    bool IsOpen() const { return fault_.empty(); }
-    // Why the text could not be read to its end, as with ByteReader, or because a line is too long.
-    const std::string& Problem() const { return fault_; }
+    // Whether the text could not be opened or, so far, not be read.
+    bool HasFault() const { return !fault_.empty(); }
+    // Why it could not be read to its end, as with ByteReader, or because a line is too long.
+    const std::string& fault() const { return fault_; }
 
     bool Next(std::string& line);
     int LineNumber() const { return lineNumber_; }  // of the last line read, counted from 1
@@ -113,6 +114,9 @@ class LineReader {
     std::string fault_;
     int lineNumber_ = 0;
 };
+
+// The message that a file cannot be read, with the reason.
+Fault CannotRead(const Path& path, std::string_view reason);
 
 // All lines of a text file; one of more than kLargestFile bytes is refused.
 Result<std::vector<std::string>> ReadLines(const Path& path);

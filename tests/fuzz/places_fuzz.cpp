@@ -13,7 +13,7 @@ void LookUpEverywhere(const ZoneHistory& history) {
         for (const int year : {1800, 1945, 1980, 2026, 2199}) {
             const ClockMoment moment{{year, 5, 24}, 7200};
             for (const ZoneReading& reading : LookUpZone(history, place, moment).readings) {
-                Require(!ZoneHoursText(reading.offset).empty(), "an offset has a text");
+                Require(!ZoneHoursText(-reading.offset / 3600.0).empty(), "an offset has a text");
             }
             OffsetAtUniversal(history, place, moment);
         }

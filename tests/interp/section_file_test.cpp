@@ -60,7 +60,7 @@ TEST(SectionFile, AMissingFileIsNotedInTheReader) {
         LineReader file(path);
         EXPECT_EQ(TakeSection(file, "Sun in", SearchEnd::FileEnd, [](std::string_view) { FAIL(); }),
                   SectionOutcome::Absent);
-        EXPECT_FALSE(file.IsOpen());
+        EXPECT_TRUE(file.HasFault());
     }
 }
 

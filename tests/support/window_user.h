@@ -19,10 +19,14 @@ namespace tolvanis {
 
 class RecordedDialogs : public FileDialogs {
   public:
-    std::string answer;  // to every question; empty cancels
+    std::string answer;                // to every question; empty cancels
+    std::vector<std::string> choices;  // "*.FIL, beginning with /home/ann/NAMES.FIL"
     std::vector<SaveRequest> saveRequests;
 
-    std::string ChooseFile(const std::string&, const std::string&) override { return answer; }
+    std::string ChooseFile(const std::string& pattern, const std::string& current) override {
+        choices.push_back(pattern + ", beginning with " + current);
+        return answer;
+    }
     std::string ChooseSaveFile(const SaveRequest& request) override {
         saveRequests.push_back(request);
         return answer;

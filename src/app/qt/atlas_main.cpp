@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QMessageBox>
 #include <cstdlib>
 #include <iostream>
 
@@ -11,7 +10,7 @@
 #include "app/exit_status.h"
 #include "birthdata/atlas_exchange.h"
 #include "birthdata/qt/atlas_window.h"
-#include "platform/qt/text.h"
+#include "platform/qt/message_boxes.h"
 #include "platform/terminal.h"
 
 using namespace tolvanis;
@@ -24,8 +23,8 @@ constexpr const char* kUsage =
     "Finds a place and the time zone in force there. Started by \"ACS Atlas\" of TOLVANIS,\n"
     "it hands both over in the file TSRTEMP.TXT.\n";
 
-int Fail(const std::string& message) {
-    QMessageBox::critical(nullptr, QStringLiteral("Error!"), ToQt(message));
+int Fail(Messages& messages, const std::string& message) {
+    messages.Tell("Error!", message, MessageIcon::Stop);
     return EXIT_FAILURE;
 }
 
@@ -63,15 +62,16 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("tolvanis-atlas"));
     QApplication::setApplicationVersion(QStringLiteral(TOLVANIS_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tolvanis.svg")));
+    MessageBoxes messages;
     const Path exchangeFile = ExchangeFile();
     std::error_code error;
     std::filesystem::remove(exchangeFile, error);  // a cancelled look-up must not offer the last place
     const Result<DataFiles> files = ApplicationDirectory(HintsOfProcess({}), FirstStart::LeaveAsIs);
-    if (!files) return Fail(files.message());
+    if (!files) return Fail(messages, files.message());
     const Result<ZoneBook> book = ZoneBook::Open(*files);
-    if (!book) return Fail(book.message());
+    if (!book) return Fail(messages, book.message());
     const char* birth = std::getenv(kAtlasBirthVariable);
-    AtlasWindow window(*book, BirthOfEnvironment(birth != nullptr ? birth : ""), exchangeFile);
+    AtlasWindow window(*book, BirthOfEnvironment(birth != nullptr ? birth : ""), exchangeFile, messages);
     window.show();
     return QApplication::exec();
 }

@@ -34,7 +34,7 @@ int LowestTop(const QSize& size) {
 }  // namespace
 
 BirthDesk::BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialogs,
-                     const InputD::Clock& clock)
+                     const InputD::LocalClock& clock)
     : state_(state),
       messages_(messages),
       dialogs_(dialogs),

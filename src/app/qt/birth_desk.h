@@ -25,7 +25,7 @@ class BirthDesk : public QObject {
     Q_OBJECT
 
   public:
-    BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialogs, const InputD::Clock& clock);
+    BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialogs, const InputD::LocalClock& clock);
     ~BirthDesk() override;
 
     InputD& natalInput() { return *input_; }

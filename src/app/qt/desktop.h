@@ -30,7 +30,7 @@ class PrntFile;
 struct DesktopServices {
     Messages& messages;
     FileDialogs& dialogs;
-    InputD::Clock clock;
+    InputD::LocalClock clock;
 };
 
 // Owns the windows and works on the program's state. No window knows another one: each says by signals what

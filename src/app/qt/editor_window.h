@@ -8,7 +8,6 @@
 #include "platform/messages.h"
 
 class QPlainTextEdit;
-class QPushButton;
 
 namespace tolvanis {
 
@@ -19,7 +18,6 @@ class EditorWindow : public QWidget {
     // Opens with the file's text. Deletes itself when closed.
     EditorWindow(EditorUse use, const Path& file, Messages& messages);
 
-    EditorUse use() const { return info_.use; }
     const Path& file() const { return file_.path(); }
     bool HasUnsavedChanges() const;
 

@@ -4,13 +4,12 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
-#include <cmath>
 
 #include "platform/qt/entry_box.h"
+#include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "text/columns.h"
 #include "text/numbers.h"
@@ -42,8 +41,8 @@ QLabel* MakeLabel(const char* name, const char* accessibleName, int lines) {
 
 }  // namespace
 
-AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile)
-    : book_(book), exchangeFile_(std::move(exchangeFile)) {
+AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile, Messages& messages)
+    : book_(book), exchangeFile_(std::move(exchangeFile)), messages_(messages) {
     setObjectName(QStringLiteral("Atlas"));
     setWindowTitle(QStringLiteral("Atlas"));
     txtSearch_ = new EntryBox;
@@ -61,10 +60,8 @@ AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exc
                                  QStringLiteral("Coordinates")});
     const int letter = fontMetrics().averageCharWidth();
     for (int column = 0; column < 3; ++column) lstPlaces_->setColumnWidth(column, 24 * letter);
-    cmdOK_ = new QPushButton(QStringLiteral("OK"));
-    cmdOK_->setObjectName(QStringLiteral("cmdOK"));
-    cmdCancel_ = new QPushButton(QStringLiteral("Cancel"));
-    cmdCancel_->setObjectName(QStringLiteral("cmdCancel"));
+    cmdOK_ = MakePushButton("cmdOK", QStringLiteral("OK"));
+    cmdCancel_ = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
 
     auto* search = new QHBoxLayout;
     search->addWidget(caption);
@@ -202,7 +199,7 @@ void AtlasWindow::ShowReadings() {
 }
 
 void AtlasWindow::ShowReading(std::size_t index, const ZoneReading& reading, bool withClock) {
-    const std::string zone = NumberText(std::round(found_->HoursOf(reading) * 10000.0) / 10000.0);
+    const std::string zone = ZoneHoursText(found_->HoursOf(reading));
     const std::string text = "Zone " + zone + ": " + ReadingText(reading) +
                              (withClock ? ", the clock at " + ClockText(reading.clock) : "");
     optReadings_[index]->setText(ToQt(text));
@@ -219,10 +216,10 @@ std::string AtlasWindow::Advice(const EntryReadings& found) const {
     const ZoneReading& reading = readings.front();
     const EntryZone zone = EntryZoneOf(reading.offset, found.place.place.degreesEast);
     std::string text = when + ", " + found.place.name + ": " + ReadingText(reading) + ", zone " +
-                       NumberText(std::round(zone.hours * 10000.0) / 10000.0) + ".";
+                       ZoneHoursText(zone.hours) + ".";
     if (zone.days != 0) {
         text += " The place keeps the date of the other side of the date line: enter " +
-                FormatDate(NextDay(found.clock, zone.days).date) + " in the natal input.";
+                FormatDate(DaysLater(found.clock, zone.days).date) + " in the natal input.";
     }
     return text;
 }
@@ -247,7 +244,7 @@ void AtlasWindow::cmdOK_Click() {
     if (reading == nullptr) return;
     const auto written = ReplaceFile(exchangeFile_, ExchangeText(found_->place, reading->offset));
     if (written) return accept();
-    QMessageBox::critical(this, QStringLiteral("Error!"), ToQt(written.message()));
+    messages_.Tell("Error!", written.message(), MessageIcon::Stop);
 }
 
 }  // namespace tolvanis

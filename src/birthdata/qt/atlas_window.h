@@ -5,13 +5,13 @@
 #include <QDialog>
 
 #include "birthdata/atlas_exchange.h"
+#include "platform/messages.h"
 
 class QButtonGroup;
 class QLabel;
 class QPushButton;
 class QRadioButton;
 class QTreeWidget;
-class QVBoxLayout;
 
 namespace tolvanis {
 
@@ -22,7 +22,7 @@ class AtlasWindow : public QDialog {
 
   public:
     // `birth` gives date and time, as far as they are known. OK writes `exchangeFile`.
-    AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile);
+    AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile, Messages& messages);
 
   public Q_SLOTS:
     void txtSearch_Change();
@@ -40,6 +40,7 @@ class AtlasWindow : public QDialog {
 
     const ZoneBook& book_;
     Path exchangeFile_;
+    Messages& messages_;
     std::optional<EntryReadings> found_;
     EntryBox *txtSearch_, *txtMonth_, *txtDay_, *txtYear_, *txtBirthHour_, *txtBirthMinute_;
     QRadioButton *optAM_, *optPM_;

@@ -32,8 +32,6 @@ class Geograph : public QWidget {
     // Makes another file the current one.
     void ChangeFile(const std::string& file);
 
-    const std::string& file() const { return file_; }
-
   Q_SIGNALS:
     void placePicked(const Place& place);
     void changeListRequested();

@@ -76,7 +76,7 @@ void Names::NamesOnFile_DblClick(int row) {
     const auto entry = Pick(row);
     if (!entry) return;
     Q_EMIT picked(*entry);
-    Q_EMIT computeRequested(*entry);
+    Q_EMIT computeRequested();
 }
 
 void Names::closeEvent(QCloseEvent* event) {

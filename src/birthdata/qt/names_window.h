@@ -34,7 +34,7 @@ class Names : public QWidget {
   Q_SIGNALS:
     void picked(const NatalEntry& entry);
     // Follows picked. The receiver may close the window but deletes it later at the earliest.
-    void computeRequested(const NatalEntry& entry);
+    void computeRequested();
     void changeListRequested();
     void editListRequested();
     void citiesRequested();

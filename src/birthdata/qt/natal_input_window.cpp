@@ -21,7 +21,7 @@ constexpr const char* kZoneCharacters = "0123456789.-";
 
 }  // namespace
 
-InputD::InputD(const Options& options, Messages& messages, Clock clock)
+InputD::InputD(const Options& options, Messages& messages, LocalClock clock)
     : QDialog(nullptr, Qt::Window), options_(options), messages_(messages), clock_(std::move(clock)) {
     setObjectName(QStringLiteral("InputD"));
     setWindowTitle(QStringLiteral("Natal Input Data"));

@@ -8,7 +8,6 @@
 #include "birthdata/zone_advice.h"
 #include "platform/messages.h"
 
-class QAbstractButton;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
@@ -26,10 +25,10 @@ class InputD : public QDialog {
     Q_OBJECT
 
   public:
-    using Clock = std::function<LocalTime()>;
+    using LocalClock = std::function<LocalTime()>;
 
     // Opens filled with the present moment. `options` gives the home location, at every use anew.
-    InputD(const Options& options, Messages& messages, Clock clock);
+    InputD(const Options& options, Messages& messages, LocalClock clock);
 
     // The boxes as they stand.
     NatalEntry Entry() const;
@@ -92,7 +91,7 @@ class InputD : public QDialog {
 
     const Options& options_;
     Messages& messages_;
-    Clock clock_;
+    LocalClock clock_;
 
     EntryBox *txtName_, *txtMonth_, *txtDay_, *txtYear_, *txtBirthHour_, *txtBirthMinute_, *txtTZ_;
     EntryBox *txtLongDeg_, *txtLongMin_, *txtLatDeg_, *txtLatMin_;

@@ -57,6 +57,7 @@ TEST_F(BirthDeskWindow, ASavedEntryIsAtTheEndOfTheListAndInTheBackupNot) {
     Settle();
     EXPECT_EQ(NamesText(), before + "Ann Smith,22 Sep 1949,9.05,P,4,073.59,40.45\r\n");
     EXPECT_EQ(FileContent(directory_ / "NAMES.OLD"), before);
+    EXPECT_EQ(dialogs_.choices.at(0), "*.FIL, beginning with " + state_.settings.DataFile);
     auto& list = Find<QListView>(*desk().names(), "NamesOnFile");
     EXPECT_EQ(list.model()->index(list.model()->rowCount() - 1, 0).data().toString().toStdString(),
               "Ann Smith");

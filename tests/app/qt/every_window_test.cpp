@@ -120,7 +120,7 @@ TEST_F(EveryWindow, HasItsCaptionNamesItsControlsAndGivesThemRoom) {
     chooser.show();
     const Result<ZoneBook> book = ZoneBook::Open(DataFiles(Path(DELIVERED_DATA_DIR)));
     ASSERT_TRUE(book);
-    AtlasWindow atlas(*book, input().Entry(), directory_ / "TSRTEMP.TXT");
+    AtlasWindow atlas(*book, input().Entry(), directory_ / "TSRTEMP.TXT", messages_);
     atlas.show();
     StatusDlg status;
     status.Open();

@@ -38,7 +38,8 @@ NatalEntry BirthAt(const char* year, const char* month, const char* day, const c
 
 TEST(AtlasProgramTest, LeavesPlaceAndZone) {
     const ScratchDirectory directory;
-    AtlasWindow window(Book(), BirthAt("1951", "7", "14", "9"), directory / "TSRTEMP.TXT");
+    RecordedMessages messages;
+    AtlasWindow window(Book(), BirthAt("1951", "7", "14", "9"), directory / "TSRTEMP.TXT", messages);
     window.show();
     EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled()) << "no place yet";
     Type(window, "txtSearch", "koeln");
@@ -52,6 +53,12 @@ TEST(AtlasProgramTest, LeavesPlaceAndZone) {
     EXPECT_TRUE(Find<QLabel>(window, "lblAnswer").text().contains(QStringLiteral("zone -2")));
     Press(window, "cmdOK");
     EXPECT_EQ(window.result(), QDialog::Accepted);
+    AtlasWindow lost(Book(), BirthAt("1949", "7", "14", "9"), directory / "gone/TSRTEMP.TXT", messages);
+    lost.show();
+    Type(lost, "txtSearch", "koeln");
+    Press(lost, "cmdOK");
+    EXPECT_TRUE(lost.isVisible());
+    EXPECT_NE(messages.TakeTold().at(0).find("gone/TSRTEMP.TXT: No such file"), std::string::npos);
     EXPECT_EQ(FileContent(directory / "TSRTEMP.TXT"),
               "Köln, North Rhine-Westphalia, Germany\r\n50N56\r\n6E57\r\n\r\n-2\r\n");
 }
@@ -59,8 +66,9 @@ TEST(AtlasProgramTest, LeavesPlaceAndZone) {
 // Local mean time depends on the place: handed over, it is that of the coordinates that are handed over.
 TEST(AtlasProgramTest, NothingSpeaksAgainstWhatItHandsOver) {
     const ScratchDirectory directory;
+    RecordedMessages messages;
     for (const char* city : {"Wien", "Sydney", "Buenos Aires", "Kabul", "Kyiv"}) {
-        AtlasWindow window(Book(), BirthAt("1850", "7", "14", "9"), directory / "TSRTEMP.TXT");
+        AtlasWindow window(Book(), BirthAt("1850", "7", "14", "9"), directory / "TSRTEMP.TXT", messages);
         window.show();
         Type(window, "txtSearch", city);
         Press(window, "cmdOK");
@@ -75,7 +83,8 @@ TEST(AtlasProgramTest, NothingSpeaksAgainstWhatItHandsOver) {
 
 TEST(AtlasProgramTest, AsksWhichOfTwoAndLeavesNothingWhenCancelled) {
     const ScratchDirectory directory;
-    AtlasWindow window(Book(), BirthAt("2001", "10", "28", "1"), directory / "TSRTEMP.TXT");
+    RecordedMessages messages;
+    AtlasWindow window(Book(), BirthAt("2001", "10", "28", "1"), directory / "TSRTEMP.TXT", messages);
     window.show();
     Type(window, "txtSearch", "Atlanta, GA");
     auto& first = Find<QRadioButton>(window, "optReading1");

@@ -28,7 +28,7 @@ struct NamesWindowTest : ::testing::Test {
         window = std::make_unique<Names>(directory.Write("my.fil", content).string(), state, messages);
         QObject::connect(window.get(), &Names::picked, [this](const NatalEntry& e) { picked.push_back(e); });
         QObject::connect(window.get(), &Names::computeRequested,
-                         [this](const NatalEntry& e) { computed.push_back(e); });
+                         [this] { computed.push_back(picked.back()); });
         window->show();
         window->Load();
         QCoreApplication::processEvents();
