@@ -9,6 +9,7 @@
 #include "wheel/symbols.h"
 #include "wheel/wheel_blocks.h"
 #include "wheel/wheel_page.h"
+#include "wheel/zodiac_ring.h"
 #include "wheel/wheel_support.h"
 #include "wheel/wheel_words.h"
 
@@ -287,6 +288,12 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
         ticks += HasLine(OnWheel(degree + 80.0, 193.0), OnWheel(degree + 80.0, 193.0 - length));
     }
     EXPECT_EQ(ticks, 348) << "none where a sign begins";
+    int borders = 0;
+    for (int sign = 0; sign < 12; ++sign) {
+        const double angle = 30.0 * sign + 80.0;
+        borders += HasLine(OnWheel(angle, kRingScaleRadius), OnWheel(angle, kOuterRadius));
+    }
+    EXPECT_EQ(borders, 12);
     const auto widthOf = [&](double from, double to) {
         for (const auto& line : surface.lines) {
             const auto joins = [&](Point a, Point b) {
