@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "birthdata/cities_file.h"
+#include "birthdata/name_saving.h"
 #include "birthdata/names_file.h"
 #include "birthdata/record_search.h"
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "app/options_file.h"
+#include "platform/file_replacing.h"
 #include "text/columns.h"
 
 namespace tolvanis {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/file_replacing.h"
 #include "text/columns.h"
 
 namespace tolvanis {

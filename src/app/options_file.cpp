@@ -1,5 +1,7 @@
 #include "app/options_file.h"
 
+#include "platform/file_replacing.h"
+
 #include <algorithm>
 
 namespace tolvanis {

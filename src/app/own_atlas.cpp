@@ -1,5 +1,7 @@
 #include "app/own_atlas.h"
 
+#include "platform/file_replacing.h"
+
 namespace tolvanis {
 namespace {
 

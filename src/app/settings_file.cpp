@@ -3,6 +3,7 @@
 #include "birthdata/cities_file.h"
 #include "birthdata/names_file.h"
 #include "platform/directory_list.h"
+#include "platform/file_replacing.h"
 #include "text/numbers.h"
 
 namespace tolvanis {

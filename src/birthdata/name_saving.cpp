@@ -1,8 +1,9 @@
-// Saving of a record into a names file.
+#include "birthdata/name_saving.h"
 
 #include <algorithm>
 
 #include "birthdata/names_file.h"
+#include "platform/file_replacing.h"
 #include "text/columns.h"
 #include "text/fields.h"
 #include "text/numbers.h"

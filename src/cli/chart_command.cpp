@@ -5,6 +5,7 @@
 #include "cli/entry_writer.h"
 #include "cli/zone_check.h"
 #include "platform/clock.h"
+#include "platform/file_replacing.h"
 #include "platform/terminal.h"
 
 namespace tolvanis {

@@ -6,6 +6,7 @@
 #include "app/exit_status.h"
 #include "cli/command_line.h"
 #include "platform/clock.h"
+#include "platform/file_replacing.h"
 #include "platform/files.h"
 
 namespace tolvanis {

@@ -6,7 +6,7 @@
 
 #include "app/birth_arguments.h"
 #include "app/exit_status.h"
-#include "platform/files.h"
+#include "platform/file_replacing.h"
 #include "platform/terminal.h"
 
 namespace tolvanis {

@@ -6,6 +6,7 @@
 #include "birthdata/zone_advice.h"
 #include "chart/angles.h"
 #include "cli/entry_writer.h"
+#include "platform/file_replacing.h"
 #include "platform/terminal.h"
 #include "text/columns.h"
 #include "text/numbers.h"

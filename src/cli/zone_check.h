@@ -6,7 +6,7 @@
 #include "app/command_data.h"
 #include "app/exit_status.h"
 #include "cli/command_line.h"
-#include "platform/files.h"
+#include "platform/file_replacing.h"
 
 namespace tolvanis {
 

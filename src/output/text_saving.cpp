@@ -1,5 +1,7 @@
 #include "output/text_saving.h"
 
+#include "platform/file_replacing.h"
+
 namespace tolvanis {
 
 void TextSaving::Save(const TextToSave& text) {

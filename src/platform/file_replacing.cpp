@@ -1,4 +1,4 @@
-// Writing of files: whole or not at all.
+#include "platform/file_replacing.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -12,7 +12,6 @@
 #include <thread>
 #include <utility>
 
-#include "platform/files.h"
 #include "text/columns.h"
 
 namespace tolvanis {

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <thread>
 
+#include "birthdata/name_saving.h"
 #include "birthdata/names_file.h"
 #include "support.h"
 

@@ -10,6 +10,7 @@
 #include "app/desktop_arguments.h"
 #include "app/options_file.h"
 #include "app/wheel_command.h"
+#include "platform/file_replacing.h"
 #include "support.h"
 #include "text/numbers.h"
 

@@ -13,6 +13,7 @@
 #include <thread>
 
 #include "platform/clock.h"
+#include "platform/file_replacing.h"
 #include "platform/terminal.h"
 #include "support.h"
 

@@ -9,9 +9,9 @@
 #include "wheel/symbols.h"
 #include "wheel/wheel_blocks.h"
 #include "wheel/wheel_page.h"
-#include "wheel/zodiac_ring.h"
 #include "wheel/wheel_support.h"
 #include "wheel/wheel_words.h"
+#include "wheel/zodiac_ring.h"
 
 namespace tolvanis {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "app/own_atlas.h"
 #include "birthdata/atlas_exchange.h"
+#include "birthdata/name_saving.h"
 #include "platform/qt/external_program.h"
 
 namespace tolvanis {

@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "platform/file_replacing.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"

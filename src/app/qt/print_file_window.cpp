@@ -6,6 +6,7 @@
 
 #include "app/editor_uses.h"
 #include "output/text_files.h"
+#include "platform/file_replacing.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"

@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QTreeWidget>
 
+#include "platform/file_replacing.h"
 #include "platform/qt/entry_box.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"

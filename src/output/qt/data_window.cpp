@@ -6,6 +6,7 @@
 #include <QScrollBar>
 
 #include "output/text_files.h"
+#include "platform/file_replacing.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/placement.h"

@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 #include <algorithm>
 
+#include "platform/file_replacing.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/text.h"

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstring>
 
+#include "platform/file_replacing.h"
 #include "platform/qt/painter_surface.h"
 #include "wheel/picture_format.h"
 
