@@ -23,8 +23,8 @@ struct Place {
     int column;
 };
 
-// Seven places a house; the thirteenth house is the first again, for what runs out of the twelfth.
-constexpr std::array<Place, 91> kSlotPlaces = {{
+// Seven places a house; what runs out of the twelfth goes on in the first.
+constexpr std::array<Place, 84> kSlotPlaces = {{
     {14, 4},  {15, 4},  {16, 4},  {17, 4},  {18, 4},  {15, 13}, {16, 13},  // 1
     {19, 13}, {20, 11}, {21, 11}, {22, 11}, {23, 11}, {17, 19}, {18, 19},  // 2
     {18, 27}, {19, 27}, {20, 26}, {21, 26}, {22, 26}, {23, 26}, {24, 26},  // 3
@@ -37,11 +37,7 @@ constexpr std::array<Place, 91> kSlotPlaces = {{
     {2, 26},  {3, 26},  {4, 26},  {5, 26},  {6, 26},  {7, 27},  {8, 27},   // 10
     {3, 11},  {4, 11},  {5, 11},  {6, 11},  {7, 13},  {8, 19},  {9, 19},   // 11
     {8, 4},   {9, 4},   {10, 4},  {11, 4},  {12, 4},  {11, 13}, {12, 13},  // 12
-    {14, 4},  {15, 4},  {16, 4},  {17, 4},  {18, 4},  {15, 13}, {16, 13},  // 13
 }};
-
-// All points but the nodes in the twelfth house end before the last place.
-static_assert(11 * kSlotsPerHouse + kLastPoint - 2 <= kSlotPlaces.size());
 
 // By listing position, tenth house first.
 constexpr std::array<Place, 12> kCuspPlaces = {{{1, 32},
@@ -149,7 +145,7 @@ void WritePoints(AsciiGrid& grid, const WheelSnapshot& chart) {
         int slot = nextSlot++;
         if (inHouse == 1 && wheelSlots[point] >= kLatePlace) slot = kLatePlace;
         const auto place = static_cast<std::size_t>((house - 1) * kSlotsPerHouse + slot);
-        WritePoint(grid, kSlotPlaces[place], point, chart.PointLongitude[point]);
+        WritePoint(grid, kSlotPlaces[place % kSlotPlaces.size()], point, chart.PointLongitude[point]);
     }
 }
 

@@ -371,6 +371,35 @@ TEST_F(DrawingTest, GridAspectsStandInTheirCells) {
     }
 }
 
+// Every part of a planet's label has a size and a colour of its own, on the screen and on paper.
+TEST_F(DrawingTest, PartsOfALabelFollowTheirOptions) {
+    chart.IsRetrograde[kMars] = true;
+    for (const int first : {72, 82}) {  // planet, degrees, sign, minutes, retrograde; colours 20 or 25 behind
+        const int colours = first == 72 ? 92 : 107;
+        for (int part = 0; part < 5; ++part) {
+            options[first + part] = static_cast<float>(13 - part);
+            options[colours + part] = static_cast<float>(part + 1);
+        }
+        surface = {};
+        if (first == 72) {
+            DrawWheel(surface, Request(ChartType::American));
+        } else {
+            DrawPage(surface, {chart, data, options, 0, {}});
+        }
+        const auto shown = [&](const std::string& text, int part) {
+            return std::ranges::any_of(surface.texts, [&](const WheelText& drawn) {
+                return drawn.text == text && drawn.font.size == 13.0 - part && drawn.colour == part + 1;
+            });
+        };
+        const ZodiacPlace mars = SplitZodiac(chart.PointLongitude[kMars]);
+        EXPECT_TRUE(shown(PointGlyph(kMars), 0)) << first;
+        EXPECT_TRUE(shown(TwoDigits(mars.degrees), 1)) << first;
+        EXPECT_TRUE(shown(SignGlyph(mars.sign), 2)) << first;
+        EXPECT_TRUE(shown(TwoDigits(mars.minutes), 3)) << first;
+        EXPECT_TRUE(shown("R", 4)) << first;
+    }
+}
+
 TEST_F(DrawingTest, GridColoursGoByFamily) {
     for (int family = 0; family < 7; ++family) options[181 + family] = static_cast<float>(family + 1);
     const std::pair<int, std::vector<int>> families[] = {
