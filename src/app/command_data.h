@@ -12,6 +12,7 @@ namespace tolvanis {
 struct CommandData {
     DataFiles files;
     Options options;
+    std::string note;  // that the options file ends early, or empty
 };
 
 // The application directory and its options; nothing is written. A fault says what is missing or damaged.

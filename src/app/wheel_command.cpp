@@ -108,7 +108,10 @@ Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
     ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();
-    WheelPicture picture{opened->files, opened->options, *data, *chart, {}, taker.note()};
+    WheelPicture picture{opened->files, opened->options, *data, *chart, {}, {}};
+    for (const std::string& note : {opened->note, taker.note()}) {
+        if (!note.empty()) picture.notes.push_back(note);
+    }
     if (arguments.type == ChartType::ZodiacRing) {
         const Result<void> read = ReadOrbsFile(opened->files.Find(kNatalOrbs), picture.orbs);
         if (!read) return read.fault();

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/birth_arguments.h"
 #include "aspects/orbs_file.h"
@@ -28,8 +29,8 @@ struct WheelPicture {
     Options options;
     WheelData data;
     WheelSnapshot chart;
-    OrbTable orbs;     // of the zodiac ring
-    std::string note;  // what the user should know of the birth, or empty
+    OrbTable orbs;                   // of the zodiac ring
+    std::vector<std::string> notes;  // what the user should know of options and birth
 };
 
 // Reads the files and computes the chart; nothing is written. A fault names the file or the birth, and what

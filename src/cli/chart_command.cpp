@@ -71,6 +71,7 @@ ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std:
         TellOn(errors, data.message());
         return kSomethingRefused;
     }
+    if (!data->note.empty()) TellOn(errors, "tolvanis-chart: " + data->note);
     if (request.checkZones) return CheckZones(request, *data, output, errors, clock);
     ChartPrinter printer(request, *data, output, errors);
     ReadBirths(request, data->options, data->files, clock, printer);

@@ -164,6 +164,8 @@ TEST(ChartCommand, NowIsThePlacesOwn) {
     EXPECT_THAT(run({"--now", "--place", "P.LL:East"}), HasSubstr("02 Jan 2026    TZ = -5.8      9.15 A.M."));
     EXPECT_THAT(run({}), HasSubstr("01 Jan 2026    TZ = 5.0      10.30 P.M."));
     EXPECT_THAT(run({}), HasSubstr("HOUSE CUSPS - Koch"));
+    EXPECT_THAT(RunWith({}, directory.path(), EarlyInTheYear).errors,
+                HasSubstr("OPTIONS.OPT ends after 31 of 196 lines"));
     const auto at = [](std::vector<std::string_view> arguments) {
         arguments.insert(arguments.begin(), {"--now", "--at"});
         return RunWith(std::move(arguments), DELIVERED_DATA_DIR, EarlyInTheYear).output;

@@ -27,7 +27,7 @@ ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** p
     }
     const Result<WheelPicture> picture = PrepareWheel(*wheel);
     if (!picture) return Refuse(picture.message());
-    if (!picture->note.empty()) TellOn(std::cerr, picture->note);
+    for (const std::string& note : picture->notes) TellOn(std::cerr, "tolvanis: " + note);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLoggingCategory::setFilterRules(
         QStringLiteral("default.warning=false"));  // of a desktop that is not there
