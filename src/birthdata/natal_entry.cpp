@@ -1,6 +1,7 @@
 #include "birthdata/natal_entry.h"
 
 #include <cmath>
+#include <span>
 
 #include "chart/angles.h"
 #include "text/columns.h"
@@ -31,9 +32,11 @@ constexpr Box kLatDeg = {EntryField::LatDeg, &NatalEntry::latDeg, "latitude degr
 constexpr Box kLatMin = {EntryField::LatMin, &NatalEntry::latMin, "latitude minutes"};
 
 // Boxes whose faults are reported together as one.
-using Group = std::vector<Box>;
-const std::vector<Group> kGroupsThatMustBeFilled = {
-    {kMonth, kDay, kYear}, {kHour, kMinute, kZone}, {kLongDeg, kLongMin}, {kLatDeg, kLatMin}};
+constexpr Box kDate[] = {kMonth, kDay, kYear};
+constexpr Box kTime[] = {kHour, kMinute, kZone};
+constexpr Box kLongitude[] = {kLongDeg, kLongMin};
+constexpr Box kLatitude[] = {kLatDeg, kLatMin};
+constexpr std::span<const Box> kGroupsThatMustBeFilled[] = {kDate, kTime, kLongitude, kLatitude};
 
 struct Bound {
     Box box;
@@ -41,14 +44,14 @@ struct Bound {
     bool above;  // a value above the limit is a fault, else one below it
 };
 
-const std::vector<std::vector<Bound>> kBounds = {
-    {{kYear, 2099, true}, {kMonth, 12, true}, {kDay, 31, true}},
-    {{kHour, 12, true}, {kMinute, 59, true}},
-    {{kZone, 12, true}, {kZone, -13, false}},
-    {{kLongDeg, 180, true}, {kLongMin, 59, true}},
-    {{kLatMin, 59, true}},
-    {{kYear, 100, false}},
-};
+constexpr Bound kDateBounds[] = {{kYear, 2099, true}, {kMonth, 12, true}, {kDay, 31, true}};
+constexpr Bound kTimeBounds[] = {{kHour, 12, true}, {kMinute, 59, true}};
+constexpr Bound kZoneBounds[] = {{kZone, 12, true}, {kZone, -13, false}};
+constexpr Bound kLongitudeBounds[] = {{kLongDeg, 180, true}, {kLongMin, 59, true}};
+constexpr Bound kLatitudeBounds[] = {{kLatMin, 59, true}};
+constexpr Bound kFirstYear[] = {{kYear, 100, false}};
+constexpr std::span<const Bound> kBounds[] = {kDateBounds,      kTimeBounds,     kZoneBounds,
+                                              kLongitudeBounds, kLatitudeBounds, kFirstYear};
 
 double Value(const NatalEntry& entry, const Box& box) {
     return LeadingNumber(entry.*box.text);
@@ -127,11 +130,11 @@ std::string ZoneForSide(std::string_view timeZone, bool east) {
 std::vector<InputFault> CheckPresence(const NatalEntry& entry) {
     std::vector<InputFault> faults;
     FaultOf zero;
-    for (const Box& box : {kMonth, kDay, kYear}) {
+    for (const Box& box : kDate) {
         if (Value(entry, box) == 0) zero.Add(box.field, std::string(box.label) + " is 0");
     }
     zero.Report(faults);
-    for (const Group& group : kGroupsThatMustBeFilled) {
+    for (const auto& group : kGroupsThatMustBeFilled) {
         FaultOf empty;
         for (const Box& box : group) {
             if (TrimBlanks(entry.*box.text).empty())
@@ -157,7 +160,7 @@ std::vector<InputFault> CheckPolarLatitude(const NatalEntry& entry, HouseSystem 
 
 std::vector<InputFault> CheckRanges(const NatalEntry& entry) {
     std::vector<InputFault> faults;
-    for (const std::vector<Bound>& line : kBounds) {
+    for (const auto& line : kBounds) {
         FaultOf fault;
         for (const Bound& bound : line) {
             const double value = Value(entry, bound.box);

@@ -33,11 +33,6 @@ constexpr const char* kNoOptionsText =
     "former ones are kept as OPTIONS.OLD.";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
 
-// The settings hold the height of the whole window, caption included.
-int CaptionHeight() {
-    return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
-}
-
 }  // namespace
 
 Desktop::Desktop(ProgramState& state, const DesktopServices& services)

@@ -116,7 +116,7 @@ void InputD::UpdateAdvice() {
     lblAdvice_->setText(ToQt(advice.text).replace(QStringLiteral("zone "), QStringLiteral("zone\u00a0")));
     lblAdvice_->setToolTip(ToQt(advice.text));
     lblAdvice_->setAccessibleDescription(ToQt(advice.text));
-    cmdTakeZone_->setProperty("zone", ToQt(advice.zone));
+    advisedZone_ = advice.zone;
     cmdTakeZone_->setVisible(!advice.zone.empty());
     const std::string caption = "Take zone " + advice.zone;
     cmdTakeZone_->setText(ToQt(caption));
@@ -125,7 +125,7 @@ void InputD::UpdateAdvice() {
 }
 
 void InputD::cmdTakeZone_Click() {
-    txtTZ_->Fill(cmdTakeZone_->property("zone").toString());
+    txtTZ_->Fill(ToQt(advisedZone_));
     UpdateAdvice();
     txtTZ_->setFocus();
 }

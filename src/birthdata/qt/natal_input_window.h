@@ -100,6 +100,7 @@ class InputD : public QDialog {
     QTimer* adviceTimer_ = nullptr;
     QLabel* lblAdvice_ = nullptr;
     QPushButton* cmdTakeZone_ = nullptr;
+    std::string advisedZone_;
     QPushButton *cmdNow_, *cmdOK_, *cmdSave_, *Label1_, *Label2_;
 };
 

@@ -32,10 +32,6 @@ int VisibleArea(const QRect& window, const QRect& screen) {
 
 constexpr int kGap = 8;  // pixels between neighbouring windows
 
-int CaptionHeight() {
-    return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
-}
-
 QRect ScreenOf(const QRect& window, const QList<QRect>& screens) {
     return *std::max_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
         return VisibleArea(window, a) < VisibleArea(window, b);
@@ -191,6 +187,10 @@ QRect ClearPlace(const QRect& wanted, const QSize& smallest, const ShownWindows&
         if (CoveredArea(best, others.controls) == 0) break;
     }
     return best;
+}
+
+int CaptionHeight() {
+    return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
 }
 
 void PlaceBesideOthers(QWidget& window, const QRect& wanted) {

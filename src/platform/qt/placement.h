@@ -63,6 +63,9 @@ class KeptPlace : public QObject {
     std::optional<QRect> wish_;
 };
 
+// The height of a window's caption in pixels, as far as it can be known before a window is shown.
+int CaptionHeight();
+
 // The areas of all screens in which the insides of windows fit below their captions, the primary one first.
 QList<QRect> UsableScreens();
 
