@@ -13,6 +13,10 @@ namespace tolvanis {
 
 enum class PictureFormat { Svg, Pdf, Png };
 
+// Endings of pictures of other formats, which nobody means as a part of a name.
+inline constexpr std::array<std::string_view, 9> kOtherPictures = {".jpg",  ".jpeg", ".gif",  ".bmp", ".tif",
+                                                                   ".tiff", ".webp", ".avif", ".eps"};
+
 // The format that a file's extension stands for, in either letter case; nothing for any other.
 inline std::optional<PictureFormat> PictureFormatOf(const Path& file) {
     struct Extension {

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWidget>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,8 @@ namespace tolvanis {
 
 class RecordedDialogs : public FileDialogs {
   public:
-    std::string answer;                // to every question; empty cancels
+    std::deque<std::string> answers;   // to the first questions where to save
+    std::string answer;                // to every other; empty cancels
     std::vector<std::string> choices;  // "*.FIL, beginning with /home/ann/NAMES.FIL"
     std::vector<SaveRequest> saveRequests;
 
@@ -29,7 +31,10 @@ class RecordedDialogs : public FileDialogs {
     }
     std::string ChooseSaveFile(const SaveRequest& request) override {
         saveRequests.push_back(request);
-        return answer;
+        if (answers.empty()) return answer;
+        const std::string first = answers.front();
+        answers.pop_front();
+        return first;
     }
 };
 

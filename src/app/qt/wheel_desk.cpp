@@ -39,6 +39,7 @@ void WheelDesk::Connect() {
         Q_EMIT editorRequested(EditorUse::OrbsEdit, PathFromText(file.toStdString()));
     });
     connect(wheels_, &Wheels::helpRequested, this, [this] { Q_EMIT textFileRequested(kWheelHelpFile); });
+    connect(wheels_, &Wheels::aspectsOpened, this, &WheelDesk::PlaceAspects);
     connect(wheels_, &Wheels::mainWindowRequested, this, &WheelDesk::mainWindowRequested);
 }
 
@@ -52,6 +53,11 @@ void WheelDesk::Place() {
     const TwipsPlacement wanted{0.0, 0.0, static_cast<double>(state_.screen.windowHeight),
                                 static_cast<double>(state_.screen.windowWidth)};
     place_.Apply(*wheels_, ToPixels(wanted, state_.screen.twipsPerPixel));
+}
+
+void WheelDesk::PlaceAspects() {
+    CWAspect& aspects = *wheels_->aspectWindow();
+    aspectsPlace_.Apply(aspects, QRect(wheels_->frameGeometry().topRight(), aspects.sizeHint()));
 }
 
 void WheelDesk::WriteAscii() {

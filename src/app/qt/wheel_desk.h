@@ -36,13 +36,14 @@ class WheelDesk : public QObject {
   private:
     void Connect();
     void Place();
+    void PlaceAspects();
     void WriteAscii();
 
     ProgramState& state_;
     PrintServices printing_;
     std::optional<WheelData> data_;
     QPointer<Wheels> wheels_;
-    KeptPlace place_;
+    KeptPlace place_, aspectsPlace_;
 };
 
 }  // namespace tolvanis

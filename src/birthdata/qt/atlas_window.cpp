@@ -10,6 +10,8 @@
 
 #include "platform/file_replacing.h"
 #include "platform/qt/entry_box.h"
+#include "platform/qt/even_rows.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 #include "text/columns.h"
@@ -77,7 +79,7 @@ AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exc
     layout->addWidget(MakeBirthRow(birth));
     layout->addWidget(MakeReadings());
     layout->addLayout(buttons);
-    resize(96 * letter, 34 * fontMetrics().lineSpacing());
+    ResizeToFit(*this, {96 * letter, 34 * fontMetrics().lineSpacing()});
 
     connect(txtSearch_, &QLineEdit::textChanged, this, &AtlasWindow::txtSearch_Change);
     connect(lstPlaces_, &QTreeWidget::currentItemChanged, this, &AtlasWindow::ShowReadings);
@@ -88,9 +90,16 @@ AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exc
 }
 
 QWidget* AtlasWindow::MakeBirthRow(const NatalEntry& birth) {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QWidget;
+    auto* halves = new EvenRows;
+    rows->setLayout(halves);
+    QHBoxLayout* layout = nullptr;
+    const auto begin = [&] {
+        auto* half = new QWidget;
+        layout = new QHBoxLayout(half);
+        layout->setContentsMargins(0, 0, 0, 0);
+        halves->addWidget(half);
+    };
     const auto add = [&](const char* name, const char* label, int width, const std::string& text) {
         auto* box = new EntryBox(QLatin1String(kDigits), width);
         box->setObjectName(QLatin1String(name));
@@ -103,9 +112,12 @@ QWidget* AtlasWindow::MakeBirthRow(const NatalEntry& birth) {
         connect(box, &QLineEdit::textChanged, this, &AtlasWindow::ShowReadings);
         return box;
     };
+    begin();
     txtMonth_ = add("txtMonth", "Month", 2, birth.month);
     txtDay_ = add("txtDay", "Day", 2, birth.day);
     txtYear_ = add("txtYear", "Year", 4, birth.year);
+    layout->addStretch();
+    begin();
     txtBirthHour_ = add("txtBirthHour", "Hour", 2, birth.birthHour);
     txtBirthMinute_ = add("txtBirthMinute", "Minute", 2, birth.birthMinute);
     optAM_ = new QRadioButton(QStringLiteral("AM"));
@@ -117,7 +129,7 @@ QWidget* AtlasWindow::MakeBirthRow(const NatalEntry& birth) {
     layout->addWidget(optPM_);
     layout->addStretch();
     connect(optPM_, &QRadioButton::toggled, this, &AtlasWindow::ShowReadings);
-    return row;
+    return rows;
 }
 
 QWidget* AtlasWindow::MakeReadings() {

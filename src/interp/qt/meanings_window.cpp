@@ -1,12 +1,16 @@
 #include "interp/qt/meanings_window.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QStyle>
 
 #include "chart/chart_point.h"
 #include "interp/keyword_system.h"
 #include "interp/qt/option_group.h"
+#include "platform/qt/even_rows.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"
+#include "platform/qt/scroll_box.h"
 
 namespace tolvanis {
 namespace {
@@ -23,38 +27,49 @@ MEANINGS::MEANINGS(Messages& messages) : messages_(messages) {
     setObjectName(QStringLiteral("MEANINGS"));
     setWindowTitle(QStringLiteral("TOLVANIS MEANINGS"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* grid = new QGridLayout(this);
+    auto* groups = new QWidget;
+    auto* row = new QHBoxLayout(groups);
+    row->setContentsMargins(0, 0, 0, 0);
     const MeaningChoice first;
     const auto planets = std::span(kGridNames).first<kInterpretedPlanets>();
-    Option1_ = AddGroup(*grid, 0, "Option1", "Sign/Asc Sign", kSignNames, first.sign);
-    Option2_ = AddGroup(*grid, 1, "Option2", "Houses", kHouseNames, first.house);
-    Option3_ = AddGroup(*grid, 2, "Option3", "Planets", planets, first.planet);
-    Option4_ = AddGroup(*grid, 3, "Option4", "Aspects", kAspectCaptions, first.aspect);
-    Option5_ = AddGroup(*grid, 4, "Option5", "2nd Planet", planets, first.secondPlanet);
+    Option1_ = AddGroup(*row, "Option1", "Sign/Asc Sign", kSignNames, first.sign);
+    Option2_ = AddGroup(*row, "Option2", "Houses", kHouseNames, first.house);
+    Option3_ = AddGroup(*row, "Option3", "Planets", planets, first.planet);
+    Option4_ = AddGroup(*row, "Option4", "Aspects", kAspectCaptions, first.aspect);
+    Option5_ = AddGroup(*row, "Option5", "2nd Planet", planets, first.secondPlanet);
     connect(Option1_, &OptionGroup::opened, this, &MEANINGS::OKRisingSign_Click);
     connect(Option2_, &OptionGroup::opened, this, &MEANINGS::OKHouses_Click);
     connect(Option4_, &OptionGroup::opened, this, &MEANINGS::OKAspects_Click);
-    AddButton(*grid, 0, "OKSigns", "Planet in &sign", &MEANINGS::OKSigns_Click);
-    AddButton(*grid, 1, "OKHouses", "Planet &house", &MEANINGS::OKHouses_Click);
-    AddButton(*grid, 2, "OKRisingSign", "&Rising sign", &MEANINGS::OKRisingSign_Click);
-    AddButton(*grid, 3, "OKAspects", "&Aspects", &MEANINGS::OKAspects_Click);
-    AddButton(*grid, 4, "Command1", "Hel&p", &MEANINGS::Command1_Click);
-    grid->setRowStretch(0, 1);
+    auto* buttons = new EvenRows;
+    AddButton(*buttons, "OKSigns", "Planet in &sign", &MEANINGS::OKSigns_Click);
+    AddButton(*buttons, "OKHouses", "Planet &house", &MEANINGS::OKHouses_Click);
+    AddButton(*buttons, "OKRisingSign", "&Rising sign", &MEANINGS::OKRisingSign_Click);
+    AddButton(*buttons, "OKAspects", "&Aspects", &MEANINGS::OKAspects_Click);
+    AddButton(*buttons, "Command1", "Hel&p", &MEANINGS::Command1_Click);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(new ScrollBox(groups), 1);
+    column->addLayout(buttons);
 }
 
-OptionGroup* MEANINGS::AddGroup(QGridLayout& grid, int column, const char* name, const char* caption,
+OptionGroup* MEANINGS::AddGroup(QHBoxLayout& row, const char* name, const char* caption,
                                 std::span<const std::string_view> options, int chosen) {
     auto* group = new OptionGroup(QLatin1String(name), QLatin1String(caption), options, chosen);
-    grid.addWidget(group, 0, column);
-    grid.setColumnStretch(column, 1);
+    row.addWidget(group, 1);
     return group;
 }
 
-void MEANINGS::AddButton(QGridLayout& grid, int column, const char* name, const char* caption,
+void MEANINGS::AddButton(EvenRows& buttons, const char* name, const char* caption,
                          void (MEANINGS::*handler)()) {
     QPushButton* button = MakePushButton(name, QLatin1String(caption));
     connect(button, &QPushButton::clicked, this, handler);
-    grid.addWidget(button, 1, column);
+    buttons.addWidget(button);
+}
+
+QSize MEANINGS::minimumSizeHint() const {
+    const QSize room = RoomBesideMenu();
+    QSize size = sizeHint();
+    if (size.height() > room.height()) size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return size.boundedTo(room);
 }
 
 MeaningChoice MEANINGS::Choice() const {

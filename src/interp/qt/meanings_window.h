@@ -7,10 +7,11 @@
 #include "interp/meanings.h"
 #include "platform/messages.h"
 
-class QGridLayout;
+class QHBoxLayout;
 
 namespace tolvanis {
 
+class EvenRows;
 class OptionGroup;
 
 class MEANINGS : public QWidget {
@@ -21,6 +22,9 @@ class MEANINGS : public QWidget {
     explicit MEANINGS(Messages& messages);
 
     MeaningChoice Choice() const;
+
+    // All of it where the screen has the room; its user may make it smaller.
+    QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
     void meaningChosen(const tolvanis::MeaningPlace& place);  // to be shown
@@ -37,10 +41,9 @@ class MEANINGS : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    OptionGroup* AddGroup(QGridLayout& grid, int column, const char* name, const char* caption,
+    OptionGroup* AddGroup(QHBoxLayout& row, const char* name, const char* caption,
                           std::span<const std::string_view> options, int chosen);
-    void AddButton(QGridLayout& grid, int column, const char* name, const char* caption,
-                   void (MEANINGS::*handler)());
+    void AddButton(EvenRows& buttons, const char* name, const char* caption, void (MEANINGS::*handler)());
     void ShowOrTell(const Result<MeaningPlace>& place);
 
     Messages& messages_;

@@ -1,16 +1,17 @@
 #include "interp/qt/report_window.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QShortcut>
+#include <QVBoxLayout>
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
 
 #include "output/text_files.h"
+#include "platform/qt/even_rows.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/placement.h"
@@ -24,7 +25,8 @@ namespace {
 
 constexpr int kColumns = 80;  // that the window is made for
 constexpr double kPoints = 11.0;
-constexpr double kSmallestPoints = 7.0;
+constexpr double kReadablePoints = 7.0;  // that a window beside others still has
+constexpr double kSmallestPoints = 5.0;  // before scroll bars come
 constexpr double kPointStep = 0.25;
 constexpr int kWheelLines = 3;  // for one notch of a mouse wheel
 constexpr int kNotch = 120;
@@ -60,32 +62,26 @@ Report::Report(const ReportContext& context)
 }
 
 void Report::Build() {
-    auto* buttons = new QHBoxLayout;
-    AddButton(*buttons, "cmdDown1", "Down 1 Line", &Report::cmdDown1_Click);
-    AddButton(*buttons, "cmdUp1", "Up 1 Line", &Report::cmdUp1_Click);
-    cmdPageDOWN_ = AddButton(*buttons, "cmdPageDOWN", "Page Down", &Report::cmdPageDOWN_Click);
-    cmdPageUP_ = AddButton(*buttons, "cmdPageUP", "Page Up", &Report::cmdPageUP_Click);
-    AddButton(*buttons, "cmdSave", "Save", &Report::cmdSave_Click);
-    AddButton(*buttons, "cmdSaveAs", "Save As", &Report::cmdSaveAs_Click);
-    AddButton(*buttons, "btnCancel", "CANCEL", &Report::btnCancel_Click);
-    AddButton(*buttons, "btnPrint", "Print", &Report::btnPrint_Click);
+    buttons_ = new EvenRows;
+    AddButton("cmdDown1", "Down 1 Line", &Report::cmdDown1_Click);
+    AddButton("cmdUp1", "Up 1 Line", &Report::cmdUp1_Click);
+    cmdPageDOWN_ = AddButton("cmdPageDOWN", "Page Down", &Report::cmdPageDOWN_Click);
+    cmdPageUP_ = AddButton("cmdPageUP", "Page Up", &Report::cmdPageUP_Click);
+    AddButton("cmdSave", "Save", &Report::cmdSave_Click);
+    AddButton("cmdSaveAs", "Save As", &Report::cmdSaveAs_Click);
+    AddButton("btnCancel", "CANCEL", &Report::btnCancel_Click);
+    AddButton("btnPrint", "Print", &Report::btnPrint_Click);
     txtContent_ = MakeTextArea("txtContent", "Report");
     txtContent_->setReadOnly(true);
     txtContent_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    txtContent_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     txtContent_->installEventFilter(this);
     txtContent_->viewport()->installEventFilter(this);
     BuildFindBar();
     auto* column = new QVBoxLayout(this);
     column->addWidget(txtContent_, 1);
     column->addWidget(findBar_);
-    column->addLayout(buttons);
-    const int frame = 2 * txtContent_->frameWidth();
-    txtContent_->setMinimumSize(AreaFor(*txtContent_, kSmallestPoints) + QSize(frame, frame));
-    const QSize extra = sizeHint() - txtContent_->sizeHint() + QSize(frame, frame);
-    const QSize wanted = AreaFor(*txtContent_, kPoints) + QSize(frame, extra.height());
-    const QMargins margins = column->contentsMargins();
-    ResizeToFit(*this, wanted + QSize(margins.left() + margins.right(), 0));
+    column->addLayout(buttons_);
+    ResizeToFit(*this, SizeFor(kPoints, buttons_->sizeHint().width()));
     AddShortcut(QKeySequence::Save, [this] { cmdSave_Click(); });
     AddShortcut(QKeySequence::Print, [this] { btnPrint_Click(); });
     AddShortcut(QKeySequence::Find, [this] { OpenFind(); });
@@ -94,12 +90,25 @@ void Report::Build() {
                 [this] { Find(screen_.top() - 1, SearchDirection::Backward); });
 }
 
-QPushButton* Report::AddButton(QHBoxLayout& row, const char* name, const char* caption,
-                               void (Report::*handler)()) {
+QPushButton* Report::AddButton(const char* name, const char* caption, void (Report::*handler)()) {
     QPushButton* button = MakePushButton(name, QLatin1String(caption));
     connect(button, &QPushButton::clicked, this, handler);
-    row.addWidget(button);
+    buttons_->addWidget(button);
     return button;
+}
+
+// The window's size for a whole screen in letters of that size, and at least so wide a row of buttons.
+QSize Report::SizeFor(double points, int row) const {
+    const int frame = 2 * txtContent_->frameWidth();
+    const QMargins margins = layout()->contentsMargins();
+    const QSize area = AreaFor(*txtContent_, points) + QSize(frame, frame);
+    const int width = std::max(area.width(), row);
+    const int height = area.height() + layout()->spacing() + buttons_->heightForWidth(width);
+    return QSize(width, height).grownBy(margins);
+}
+
+QSize Report::minimumSizeHint() const {
+    return SizeFor(kReadablePoints, 0);
 }
 
 void Report::AddShortcut(const QKeySequence& keys, const std::function<void()>& handler) {
@@ -130,8 +139,8 @@ void Report::Load(const std::string& personName) {
     personName_ = personName;
     screen_.GoTo(0);
     // A bar that came and went would change the room, and with it the letters.
-    const bool wide = HasWideLine(context_.report);
-    txtContent_->setHorizontalScrollBarPolicy(wide ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    isWide_ = HasWideLine(context_.report);
+    SetBars(false);
     findBar_->hide();
     Redraw();
 }
@@ -217,7 +226,13 @@ void Report::Wheel(int angle) {
     if (notches != 0) Move(-notches * kWheelLines);
 }
 
-// The largest letters in which a whole screen fits.
+void Report::SetBars(bool needed) {
+    const auto policy = needed ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    txtContent_->setVerticalScrollBarPolicy(policy);
+    txtContent_->setHorizontalScrollBarPolicy(isWide_ ? Qt::ScrollBarAlwaysOn : policy);
+}
+
+// The largest letters in which a whole screen fits; where there are none, scroll bars come.
 void Report::FitLetters() {
     const QSize room = txtContent_->viewport()->size();
     const QSize smallest = AreaFor(*txtContent_, kSmallestPoints);
@@ -227,6 +242,7 @@ void Report::FitLetters() {
     points = std::floor(points / kPointStep) * kPointStep;
     while (points > kSmallestPoints && !Fits(AreaFor(*txtContent_, points), room)) points -= kPointStep;
     txtContent_->setFont(ListingFont(points));
+    SetBars(!Fits(smallest, room));
 }
 
 void Report::OpenFind() {

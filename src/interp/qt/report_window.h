@@ -8,13 +8,14 @@
 #include "output/text_saving.h"
 #include "platform/qt/printing.h"
 
-class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace tolvanis {
+
+class EvenRows;
 
 // What the viewer works on; all of it outlives the window.
 struct ReportContext {
@@ -39,6 +40,9 @@ class Report : public QWidget {
 
     int top() const { return screen_.top(); }
 
+    // Of a window that can be read; its user may make it smaller.
+    QSize minimumSizeHint() const override;
+
   Q_SIGNALS:
     void mainWindowRequested();
 
@@ -60,8 +64,9 @@ class Report : public QWidget {
   private:
     void Build();
     void BuildFindBar();
-    QPushButton* AddButton(QHBoxLayout& row, const char* name, const char* caption,
-                           void (Report::*handler)());
+    QPushButton* AddButton(const char* name, const char* caption, void (Report::*handler)());
+    QSize SizeFor(double points, int row) const;
+    void SetBars(bool needed);
     void AddShortcut(const QKeySequence& keys, const std::function<void()>& handler);
     void ShowScreen();
     void Redraw();
@@ -80,7 +85,9 @@ class Report : public QWidget {
     TextSaving saving_;
     std::string personName_;
     int wheelAngle_ = 0;
+    bool isWide_ = false;  // the report has lines of more characters than the window is made for
     QPlainTextEdit* txtContent_;
+    EvenRows* buttons_;
     QPushButton *cmdPageDOWN_, *cmdPageUP_;
     QWidget* findBar_;
     QLineEdit* txtFind_;

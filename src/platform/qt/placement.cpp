@@ -201,8 +201,9 @@ void PlaceBesideOthers(QWidget& window, const QRect& wanted) {
     QList<QRect> screens = UsableScreens();
     for (QRect& screen : screens) screen.setHeight(screen.height() + CaptionHeight());
     const QSize caption(0, CaptionHeight());
-    const QRect frame(wanted.topLeft(), wanted.size() + caption);
-    const QRect place = ClearPlace(frame, window.minimumSizeHint() + caption, others, screens);
+    const QSize smallest = window.minimumSizeHint();
+    const QRect frame(wanted.topLeft(), wanted.size().expandedTo(smallest) + caption);
+    const QRect place = ClearPlace(frame, smallest + caption, others, screens);
     PlaceWindow(window, QRect(place.topLeft(), place.size() - caption));
 }
 
@@ -233,6 +234,13 @@ QList<QRect> UsableScreens() {
         areas.append(screen->availableGeometry().adjusted(0, 0, 0, -CaptionHeight()));
     }
     return areas;
+}
+
+QSize RoomBesideMenu() {
+    const QList<QRect> screens = UsableScreens();
+    if (screens.isEmpty()) return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+    const QSize screen = screens.front().size();
+    return {screen.width(), screen.height() * 3 / 4};  // menu and captions need less than a quarter
 }
 
 void ResizeToFit(QWidget& window, const QSize& wanted) {

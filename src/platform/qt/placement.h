@@ -69,6 +69,9 @@ int CaptionHeight();
 // The areas of all screens in which the insides of windows fit below their captions, the primary one first.
 QList<QRect> UsableScreens();
 
+// The largest size with which a window leaves the main menu in view on the primary screen.
+QSize RoomBesideMenu();
+
 // Gives a window the size it wants, or that of the primary screen where it is smaller.
 void ResizeToFit(QWidget& window, const QSize& wanted);
 

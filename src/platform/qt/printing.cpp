@@ -21,6 +21,7 @@ namespace {
 
 constexpr double kMarginPoints = 36.0;
 constexpr double kLinesPerInch = 6.0;
+constexpr int kColumns = 80;        // up to which lines are narrowed alike, so that columns stay in line
 constexpr double kNarrowest = 0.5;  // of a letter's width
 constexpr double kClosest = 0.85;   // of the distance of lines; closer ones need smaller letters
 
@@ -60,7 +61,7 @@ bool PrintToPdf(const PrintServices& services, const std::string& documentName, 
 bool PrintToPrinter(const PrintServices& services, const std::string& documentName,
                     const PaintDocument& paint) {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(ToQt(documentName));
+    printer.setDocName(ToQt(FittingFileName(documentName)));
     printer.setCreator(QStringLiteral("TOLVANIS"));
     printer.setPageMargins(QMarginsF(kMarginPoints, kMarginPoints, kMarginPoints, kMarginPoints),
                            QPageLayout::Point);
@@ -87,7 +88,7 @@ class TextPainter {
         MeasureFont(sheet, text.pointSize);
         linesPerSheet_ = std::max(1, static_cast<int>(sheet.height() / lineHeight_));
         if (text.wholePages && LongestPage() > linesPerSheet_) FitPages(sheet);
-        narrowing_ = std::min(1.0, sheet.width() / (letterWidth_ * std::min(LongestLine(), longestLine_)));
+        usualNarrowing_ = NarrowingFor(LongestUsualLine());
     }
 
     void Paint() {
@@ -101,6 +102,7 @@ class TextPainter {
 
   private:
     void MeasureFont(const QRect& sheet, double pointSize) {
+        sheetWidth_ = sheet.width();
         painter_.setFont(ListingFont(pointSize));
         const QFontMetricsF metrics(painter_.font(), &device_);
         letterWidth_ = metrics.horizontalAdvance(QLatin1Char('M'));
@@ -117,45 +119,65 @@ class TextPainter {
         linesPerSheet_ = LongestPage();  // smaller letters may have made fewer lines of the long ones
     }
 
+    // Of the letters of a line.
+    double NarrowingFor(qsizetype length) const {
+        const auto shown = static_cast<double>(std::clamp<qsizetype>(length, 1, longestLine_));
+        return std::min(1.0, sheetWidth_ / (letterWidth_ * shown));
+    }
+
+    // The parts of a line that stand below each other, broken at a blank where there is one near the end.
+    QStringList PartsOf(const std::string& line) const {
+        QStringList parts;
+        QString rest = ToQt(line);
+        while (rest.size() > longestLine_) {
+            const qsizetype blank = rest.lastIndexOf(QLatin1Char(' '), longestLine_ - 1);
+            qsizetype length = blank >= longestLine_ / 2 ? blank + 1 : longestLine_;
+            if (length > 1 && rest[length].isLowSurrogate()) --length;
+            parts += rest.left(length);
+            rest.remove(0, length);
+        }
+        return parts += rest;
+    }
+
     // In lines as they are printed.
     int LongestPage() const {
         qsizetype longest = 1;
         for (const std::vector<std::string>& page : text_.pages) {
             qsizetype lines = 0;
-            for (const std::string& line : page) {
-                lines += std::max<qsizetype>(1, (ToQt(line).size() + longestLine_ - 1) / longestLine_);
-            }
+            for (const std::string& line : page) lines += PartsOf(line).size();
             longest = std::max(longest, lines);
         }
         return static_cast<int>(longest);
     }
 
-    int LongestLine() const {
+    qsizetype LongestUsualLine() const {
         qsizetype longest = 1;
         for (const std::vector<std::string>& page : text_.pages) {
-            for (const std::string& line : page) longest = std::max(longest, ToQt(line).size());
+            for (const std::string& line : page) {
+                const qsizetype length = ToQt(line).size();
+                if (length <= kColumns) longest = std::max(longest, length);
+            }
         }
-        return static_cast<int>(longest);
+        return longest;
     }
 
     void PaintPage(const std::vector<std::string>& page) {
         int row = 0;
         for (const std::string& line : page) {
-            QString rest = ToQt(line);
-            do {
+            const double narrowing = std::min(usualNarrowing_, NarrowingFor(ToQt(line).size()));
+            for (const QString& part : PartsOf(line)) {
                 if (row == linesPerSheet_) {
                     device_.newPage();
                     row = 0;
                 }
-                PaintLine(rest.left(longestLine_), row++);
-                rest = rest.mid(longestLine_);
-            } while (!rest.isEmpty());
+                PaintLine(part, row++, narrowing);
+            }
         }
     }
 
-    void PaintLine(const QString& line, int row) {
+    void PaintLine(const QString& line, int row, double narrowing) {
         painter_.save();
-        painter_.scale(narrowing_, 1.0);
+        painter_.scale(narrowing, 1.0);
         painter_.drawText(QPointF(0.0, row * lineHeight_ + ascent_), line);
         painter_.restore();
     }
@@ -163,10 +185,10 @@ class TextPainter {
     QPagedPaintDevice& device_;
     QPainter& painter_;
     const PrintText& text_;
-    double letterWidth_ = 1.0, lineHeight_ = 1.0, ascent_ = 0.0;
+    double sheetWidth_ = 1.0, letterWidth_ = 1.0, lineHeight_ = 1.0, ascent_ = 0.0;
     int linesPerSheet_ = 1;
     int longestLine_ = 1;
-    double narrowing_ = 1.0;
+    double usualNarrowing_ = 1.0;  // of lines of up to kColumns characters
 };
 
 }  // namespace

@@ -30,9 +30,9 @@ bool PrintDocument(const PrintServices& services, const std::string& documentNam
                    const PaintDocument& paint);
 
 // Prints text pages in the listing font, six lines to the inch. A page with more lines than the paper holds
-// goes on on another sheet, or, where the text wants whole pages, all lines are set closer; a text too wide
-// for the paper is narrowed to fit, and lines that would need letters of less than half their width are
-// continued on the next line.
+// goes on on another sheet, or, where the text wants whole pages, all lines are set closer. Lines of up to 80
+// characters that are too wide for the paper are narrowed with all others; a longer one is narrowed alone,
+// and where it would need letters of less than half their width it is continued on the next line.
 bool PrintPages(const PrintServices& services, const std::string& documentName, const PrintText& text);
 
 }  // namespace tolvanis

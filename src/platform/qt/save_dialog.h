@@ -8,6 +8,6 @@
 namespace tolvanis {
 
 // As FileDialogs::ChooseSaveFile.
-std::string ShowSaveDialog(const SaveRequest& request);
+std::string ShowSaveDialog(SaveRequest request);
 
 }  // namespace tolvanis

@@ -7,7 +7,9 @@
 
 #include "platform/qt/hourglass.h"
 #include "platform/qt/palette.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/symbol_font.h"
+#include "wheel/picture_format.h"
 #include "wheel/qt/wheel_export.h"
 #include "wheel/wheel_page.h"
 #include "wheel/wheel_words.h"
@@ -56,6 +58,13 @@ void Wheels::BuildMenu() {
     CheckType();
     add(bar, "mnuHelp", QStringLiteral("&Help"), &Wheels::helpRequested);
     add(bar, "mnuExport", QStringLiteral("&Export"), &Wheels::mnuExport_Click);
+}
+
+QSize Wheels::minimumSizeHint() const {
+    constexpr double kUsualDpi = 96.0;
+    constexpr int kSmallestWheel = 320;  // pixels of that resolution
+    const int side = qRound(kSmallestWheel * logicalDpiX() / kUsualDpi);
+    return QSize(side, side + menuBar()->sizeHint().height()).boundedTo(RoomBesideMenu());
 }
 
 std::vector<DrawnPoint> Wheels::PaintWheel(QPainter& painter, const QRect& area) {
@@ -137,9 +146,13 @@ void Wheels::SetTypeChart(int typeChart) {
 }
 
 void Wheels::mnuAspects_Click() {
-    delete aspects_;
-    aspects_ = new CWAspect(chart_, orbsFile_, context_.printing.messages, this);
-    aspects_->show();
+    if (aspects_ == nullptr) {
+        aspects_ = new CWAspect(this);
+        connect(aspects_, &CWAspect::mainWindowRequested, this, &Wheels::mainWindowRequested);
+        Q_EMIT aspectsOpened();
+    }
+    aspects_->List(chart_, orbsFile_, context_.printing.messages);
+    BringForward(*aspects_);
 }
 
 void Wheels::mnuOrbsChange_Click() {
@@ -197,13 +210,29 @@ void Wheels::PrintHalfPage() {
 }
 
 void Wheels::mnuExport_Click() {
-    const std::optional<Path> file = ChooseOutput(
-        context_.printing.dialogs, context_.printing.messages,
-        {context_.printing.directory, DocumentName() + ".svg", "Pictures", "*.svg *.pdf *.png", "svg"});
+    const std::optional<Path> file = ChoosePicture();
     if (!file) return;
     const Hourglass hourglass;
     const Result<void> written = ExportWheel(RequestFor(canvas_->size()), *file);
     if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Warning);
+}
+
+// Asks until the name is that of a picture that can be drawn.
+std::optional<Path> Wheels::ChoosePicture() {
+    SaveRequest request = {context_.printing.directory,
+                           DocumentName() + ".svg",
+                           "Pictures",
+                           "*.svg *.pdf *.png",
+                           "svg",
+                           {kOtherPictures.begin(), kOtherPictures.end()}};
+    for (;;) {
+        const std::optional<Path> file =
+            ChooseOutput(context_.printing.dialogs, context_.printing.messages, request);
+        if (!file || PictureFormatOf(*file)) return file;
+        context_.printing.messages.Tell("Error!", NoPictureName(*file), MessageIcon::Warning);
+        request.directory = file->parent_path();
+        request.proposedName = file->filename().string();
+    }
 }
 
 std::string Wheels::DocumentName() const {
@@ -212,6 +241,11 @@ std::string Wheels::DocumentName() const {
         if (std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
     }
     return name;
+}
+
+void Wheels::hideEvent(QHideEvent* event) {
+    QMainWindow::hideEvent(event);
+    if (aspects_ != nullptr && !event->spontaneous()) aspects_->close();
 }
 
 void Wheels::keyPressEvent(QKeyEvent* event) {

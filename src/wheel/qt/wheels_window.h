@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <optional>
 
 #include "platform/qt/painter_surface.h"
 #include "platform/qt/printing.h"
@@ -35,9 +36,13 @@ class Wheels : public QMainWindow, private WheelPainter {
     const Path& orbsFile() const { return orbsFile_; }
     CWAspect* aspectWindow() { return aspects_; }
 
+    // Of a wheel that can be read; its user may make it smaller.
+    QSize minimumSizeHint() const override;
+
   Q_SIGNALS:
     void typeChartChanged(int typeChart);    // to be kept in the settings
     void startScaleChanged(int startScale);  // to be kept in the settings
+    void aspectsOpened();                    // aspectWindow() is new and not shown yet
     void asciiChartRequested();              // write chart() as an ASCII chart and show it
     void orbsEditRequested(const QString& orbsFile);
     void helpRequested();        // show WHEELS.HLP
@@ -56,6 +61,7 @@ class Wheels : public QMainWindow, private WheelPainter {
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;  // the aspects go with their wheel
 
   private:
     // Draws the wheel, or nothing but the background when there is no symbol font.
@@ -71,6 +77,7 @@ class Wheels : public QMainWindow, private WheelPainter {
     WheelRequest RequestFor(QSizeF size, WheelUse use = WheelUse::Window) const;
     void PrintFullPage();
     void PrintHalfPage();
+    std::optional<Path> ChoosePicture();
     std::string DocumentName() const;
 
     WheelSnapshot chart_;

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
@@ -332,6 +333,35 @@ TEST_F(DesktopWindow, HelpIsPrintedSixtyLinesAPageWithNothingCutOff) {
     dialogs_.answer = (directory_.path() / "gone" / "help.pdf").string();
     Choose("mnuHelpPrintHelp");
     EXPECT_NE(messages_.TakeTold().at(0).find("gone/help.pdf: No such file or directory"), std::string::npos);
+}
+
+// The widest line of a print is narrowed, or broken, and the others print as ever.
+TEST_F(DesktopWindow, ALongLineSqueezesNoOther) {
+    const auto widthOfFirstWord = [&](const std::string& longLine) {
+        directory_.Write("HELPFILE", "usual\r\n" + std::string(70, 'y') + "\r\n" + longLine + "END\r\n");
+        dialogs_.answer = (directory_ / "help.pdf").string();
+        Choose("mnuHelpPrintHelp");
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"),
+                     {QStringLiteral("-bbox"), QString::fromStdString(dialogs_.answer), QStringLiteral("-")});
+        EXPECT_TRUE(reader.waitForFinished());
+        const QString words = QString::fromUtf8(reader.readAllStandardOutput());
+        const QRegularExpression word(QStringLiteral("xMin=\"([0-9.]+)\"[^>]*xMax=\"([0-9.]+)\"[^>]*>"));
+        double first = 0.0;
+        for (const QRegularExpressionMatch& match : word.globalMatch(words)) {
+            const double left = match.captured(1).toDouble();
+            const double right = match.captured(2).toDouble();
+            if (first == 0.0) first = right - left;
+            EXPECT_LT(right, 595.0 - 30.0) << "on the paper";
+        }
+        EXPECT_TRUE(words.contains(QStringLiteral("END"))) << "nothing is lost";
+        return first;
+    };
+    const double usual = widthOfFirstWord("short");
+    EXPECT_NEAR(usual, 36.0, 0.5) << "five letters of 12 points";
+    for (const std::size_t length : {100U, 300U}) {
+        EXPECT_NEAR(widthOfFirstWord(std::string(length, 'x')), usual, 0.1) << length;
+    }
 }
 
 TEST_F(DesktopWindow, EditedOptionsAreReadAfreshAndCanBeRestored) {

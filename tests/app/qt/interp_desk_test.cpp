@@ -93,7 +93,7 @@ TEST_F(InterpDeskTest, ReportLettersGrowWithTheWindowAndTheScreenStays) {
     KeyInReport(Qt::Key_PageDown);
     KeyInReport(Qt::Key_PageDown);
     const std::string shown = Shown();
-    for (const QSize size : {QSize(1, 1), QSize(1100, 500), QSize(800, 1000), QSize(1600, 1200)}) {
+    for (const QSize size : {QSize(500, 330), QSize(1100, 500), QSize(800, 1000), QSize(1600, 1200)}) {
         report().resize(size);
         QCoreApplication::processEvents();
         EXPECT_EQ(Shown(), shown);
@@ -102,6 +102,43 @@ TEST_F(InterpDeskTest, ReportLettersGrowWithTheWindowAndTheScreenStays) {
         EXPECT_TRUE(area.viewport()->rect().contains(area.cursorRect(cursor))) << size.height();
     }
     EXPECT_GT(area.font().pointSizeF(), 17.0);
+}
+
+// On a screen of 640 x 480 every button stays in reach; an area too small for the smallest letters scrolls.
+TEST_F(InterpDeskTest, SmallWindowsKeepTheirButtonsInReach) {
+    OpenReport();
+    Choose("mnuDataMeanings");
+    for (QWidget* window :
+         {static_cast<QWidget*>(&report()), static_cast<QWidget*>(desktop_->interpDesk().meanings())}) {
+        for (const QSize size : {QSize(640, 430), QSize(400, 300)}) {
+            window->resize(size);
+            QCoreApplication::processEvents();
+            EXPECT_LE(window->width(), size.width()) << window->objectName().toStdString();
+            EXPECT_LE(window->height(), size.height()) << window->objectName().toStdString();
+            const QList<QPushButton*> buttons = window->findChildren<QPushButton*>();
+            for (const QPushButton* button : buttons) {
+                EXPECT_TRUE(window->rect().contains(button->geometry())) << button->text().toStdString();
+                EXPECT_GE(button->width(), button->minimumSizeHint().width());
+                for (const QPushButton* other : buttons) {
+                    EXPECT_TRUE(other == button || !button->geometry().intersects(other->geometry()));
+                }
+            }
+        }
+    }
+    auto& area = Find<QPlainTextEdit>(report(), "txtContent");
+    report().resize(1, 1);
+    QCoreApplication::processEvents();
+    EXPECT_NE(area.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    report().resize(900, 700);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(area.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    MEANINGS& meanings = *desktop_->interpDesk().meanings();
+    meanings.resize(300, 260);
+    meanings.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&meanings));
+    auto& last = Find<QRadioButton>(meanings, "Option5_8");
+    last.setFocus();
+    EXPECT_EQ(last.visibleRegion().boundingRect(), last.rect()) << "what has the focus is in view";
 }
 
 // A bar that came with the one wide line would change the letters' size while the reader turns the pages.

@@ -1,6 +1,7 @@
 // The wheel as the main menu opens it.
 #include "app/qt/wheel_desk.h"
 
+#include <QMenuBar>
 #include <QSignalSpy>
 
 #include "app/qt/desktop.h"
@@ -57,6 +58,44 @@ TEST_F(WheelDeskTest, OpensBesideTheOthersAndThenWhereItsUserPutIt) {
     wheels().move(wish.topLeft());
     Choose("mnuWheels");
     EXPECT_EQ(QRect(wheels().pos(), wheels().size()), wish);
+}
+
+TEST_F(WheelDeskTest, AspectsOpenBesideTheWheelAndThenWhereTheirUserPutThem) {
+    OpenWheel();
+    Trigger("mnuAspects");
+    const auto placeOf = [](const QWidget& window) { return QRect(window.pos(), window.size()); };
+    const QRect opened = placeOf(*wheels().aspectWindow());
+    EXPECT_GT(opened.height(), 100);
+    for (const QWidget* other :
+         {static_cast<QWidget*>(&desktop_->mainWindow()), static_cast<QWidget*>(wheels().menuBar())}) {
+        const QRect place(other->mapToGlobal(QPoint()), other->size());
+        EXPECT_FALSE(opened.intersects(place)) << other->objectName().toStdString();
+    }
+    const QRect wish(50, 90, 201, 222);
+    PlaceWindow(*wheels().aspectWindow(), wish);
+    for (const bool newWheel : {false, true}) {
+        if (newWheel) {
+            Choose("mnuWheels");
+        } else {
+            wheels().aspectWindow()->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        EXPECT_EQ(wheels().aspectWindow(), nullptr);
+        Trigger("mnuAspects");
+        EXPECT_EQ(placeOf(*wheels().aspectWindow()), wish) << newWheel;
+    }
+    QTest::keyClick(&Find<QPlainTextEdit>(*wheels().aspectWindow(), "Text1"), Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop_->mainWindow()));
+}
+
+// On a small screen a wheel rather covers something than shrinks to a thumbnail.
+TEST(WheelPlacement, KeepsASizeThatCanBeRead) {
+    const QSize smallest(480, 516);
+    const ShownWindows others = {{{0, 100, 800, 500}, {0, 0, 800, 60}},
+                                 {{0, 130, 800, 36}, {0, 30, 800, 30}}};
+    const QRect place = ClearPlace({0, 0, 480, 516}, smallest, others, {{0, 0, 800, 600}});
+    EXPECT_EQ(place.size(), smallest);
+    EXPECT_GT(place.top(), 60) << "beside the main menu";
 }
 
 TEST_F(WheelDeskTest, EditsTheOrbsInUse) {

@@ -63,6 +63,20 @@ TEST(AtlasProgramTest, LeavesPlaceAndZone) {
               "Köln, North Rhine-Westphalia, Germany\r\n50N56\r\n6E57\r\n\r\n-2\r\n");
 }
 
+TEST(AtlasProgramTest, FitsOnASmallScreen) {
+    RecordedMessages messages;
+    AtlasWindow window(Book(), BirthAt("1951", "7", "14", "9"), "TSRTEMP.TXT", messages);
+    window.show();
+    window.resize(500, 430);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), QSize(500, 430));
+    for (const char* control : {"txtSearch", "txtYear", "txtBirthHour", "optPM", "cmdOK", "cmdCancel"}) {
+        const auto& widget = Find<QWidget>(window, control);
+        const QRect place(widget.mapTo(&window, QPoint()), widget.size());
+        EXPECT_TRUE(window.rect().contains(place)) << control;
+    }
+}
+
 // Local mean time depends on the place: handed over, it is that of the coordinates that are handed over.
 TEST(AtlasProgramTest, NothingSpeaksAgainstWhatItHandsOver) {
     const ScratchDirectory directory;

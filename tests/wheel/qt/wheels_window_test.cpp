@@ -15,6 +15,7 @@
 #include <QXmlStreamReader>
 #include <set>
 
+#include "platform/file_replacing.h"
 #include "platform/qt/palette.h"
 #include "platform/qt/symbol_font.h"
 #include "support/window_user.h"
@@ -143,10 +144,60 @@ TEST_F(WheelsTest, ExportsByExtension) {
     }
     EXPECT_EQ(FileContent(directory / "a.svg").find("<text"), std::string::npos)
         << "text needs the font installed";
-    dialogs.answer = (directory / "a.gif").string();
+    std::filesystem::create_directory(directory / "other");
+    dialogs.answers = {(directory / "other/Dr. Ann.gif").string(), ""};
+    dialogs.saveRequests.clear();
     Item(wheels, "mnuExport").trigger();
     EXPECT_EQ(messages.told.size(), 1u);
-    EXPECT_FALSE(std::filesystem::exists(dialogs.answer));
+    EXPECT_FALSE(std::filesystem::exists(directory / "other/Dr. Ann.gif"));
+    ASSERT_EQ(dialogs.saveRequests.size(), 2u) << "the dialog comes again";
+    EXPECT_EQ(dialogs.saveRequests[1].proposedName, "Dr. Ann.gif");
+    EXPECT_EQ(dialogs.saveRequests[1].directory, directory / "other");
+    for (const auto& [typed, saved] : {std::pair{"Dr. Ann", "Dr. Ann.svg"},
+                                       {"a.JPG", "a.JPG"},
+                                       {"Ann.PNG", "Ann.PNG"},
+                                       {".pdf", ".pdf.svg"}}) {
+        EXPECT_EQ(NameWithExtension(typed, dialogs.saveRequests[0]), saved);
+    }
+}
+
+// A name may be longer than that of a file.
+TEST_F(WheelsTest, ProposesNamesThatAFileCanHave) {
+    chart.Name += ".";
+    for (int i = 0; i < 150; ++i) chart.Name += "\xC3\xAB";
+    Wheels wheels(chart, context, 0);
+    Item(wheels, "mnuExport").trigger();
+    messages.answers = {Answer::Yes};
+    Item(wheels, "mnuPrintChartwheel").trigger();
+    ASSERT_EQ(dialogs.saveRequests.size(), 2u);
+    for (const char* extension : {".svg", ".pdf"}) {
+        const SaveRequest& request = dialogs.saveRequests[extension[1] == 's' ? 0 : 1];
+        EXPECT_TRUE(request.proposedName.ends_with(extension)) << request.proposedName;
+        EXPECT_TRUE(ReplaceFile(directory / request.proposedName, "picture"));
+        EXPECT_EQ(request.proposedName.size(), 254u) << "as long as can be, without half a letter";
+        EXPECT_TRUE(QString::fromStdString(request.proposedName).startsWith(QStringLiteral("Ann Smith")));
+    }
+}
+
+TEST_F(WheelsTest, AspectsComeForwardAndGoWithTheirWheel) {
+    Wheels wheels(chart, context, 0);
+    wheels.show();
+    Item(wheels, "mnuAspects").trigger();
+    const QPointer<CWAspect> aspects = wheels.aspectWindow();
+    auto& text = Find<QPlainTextEdit>(*aspects, "Text1");
+    text.moveCursor(QTextCursor::End);
+    wheels.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&wheels));
+    Item(wheels, "mnuAspects").trigger();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(aspects));
+    ASSERT_EQ(wheels.aspectWindow(), aspects);
+    EXPECT_FALSE(text.textCursor().atStart()) << "the reader stays where they were";
+    QSignalSpy called(&wheels, &Wheels::mainWindowRequested);
+    QTest::keyClick(&text, Qt::Key_Escape);
+    EXPECT_EQ(called.count(), 1);
+    wheels.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(aspects, nullptr);
 }
 
 // Every exported SVG is XML whatever the name holds, with the name as its title.
