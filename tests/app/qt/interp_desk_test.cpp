@@ -86,6 +86,26 @@ TEST_F(InterpDeskTest, ReportMovesByButtonsAndKeys) {
     EXPECT_EQ(report().top(), 0) << "a new report is shown from its beginning";
 }
 
+TEST_F(DesktopWindow, TheDeliveredReportBeginsWithItsTitle) {
+    TypeBirth();
+    PressOK();
+    Choose("mnuReportNatal");
+    const auto& area = Find<QPlainTextEdit>(*desktop_->interpDesk().report(), "txtContent");
+    EXPECT_TRUE(area.toPlainText().contains(QStringLiteral("NATAL REPORT FOR")))
+        << area.toPlainText().toStdString();
+}
+
+// All of a screen is in view as soon as it is shown.
+TEST_F(InterpDeskTest, ReportShowsItsFirstLineOnTop) {
+    OpenReport();
+    QCoreApplication::processEvents();
+    auto& area = Find<QPlainTextEdit>(report(), "txtContent");
+    for (const int block : {0, 22}) {
+        const QTextCursor cursor(area.document()->findBlockByNumber(block));
+        EXPECT_TRUE(area.viewport()->rect().contains(area.cursorRect(cursor))) << block;
+    }
+}
+
 TEST_F(InterpDeskTest, ReportLettersGrowWithTheWindowAndTheScreenStays) {
     OpenReport();
     auto& area = Find<QPlainTextEdit>(report(), "txtContent");
