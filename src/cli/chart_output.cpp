@@ -1,5 +1,6 @@
 #include "cli/chart_output.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "app/chart_driver.h"
@@ -154,7 +155,14 @@ Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& opti
     const std::vector<std::string> personalBlock = ReadPersonalBlock(files.Own(kPersonalBlockName));
     BuildNatalReport(report, {chart, options, files, personalBlock});
     if (report.overflowed()) return Fault{"the report is longer than 32,767 lines"};
-    return SavedReport(report, ReportPageFormOf(options), "\n");
+    std::string text = SavedReport(report, ReportPageFormOf(options), "\n");
+    // The texts are files of anyone's; nothing in them controls a terminal.
+    const auto controls = [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return (byte < 0x20 || byte == 0x7F) && std::string_view("\n\f\t").find(c) == std::string_view::npos;
+    };
+    std::ranges::replace_if(text, controls, ' ');
+    return text;
 }
 
 std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed) {

@@ -204,7 +204,7 @@ TEST(ChartCommand, ReportsFollowOneAnotherInPages) {
     const ScratchDirectory directory;
     std::filesystem::copy(DELIVERED_DATA_DIR "/OPTIONS.OPT", directory.path());
     directory.Write("PERSONAL.NAM", "Ann\r\n");
-    directory.Write("philo.hlp", "outlook\r\n");
+    directory.Write("philo.hlp", "out\x1Blook\x7F\r\n");
     const auto names = directory.Write("A.FIL", "Zoe" + kRest + "Max" + kRest);
     const auto request = ParseCommandLine(std::vector<std::string_view>{
         "--names", names.native(), "--format", "report", "--app-dir", directory.path().native()});
@@ -219,7 +219,7 @@ TEST(ChartCommand, ReportsFollowOneAnotherInPages) {
         expected += std::string(5, '\n') + std::string(32, ' ') + "NATAL REPORT FOR\n\n" +
                     std::string(39, ' ') + name + data + std::string(49, '\n') + std::string(39, ' ') +
                     "Ann\n" + std::string(5, '\n') + "\f\n";
-        expected += std::string(5, '\n') + "outlook\n" + std::string(59, '\n') + std::string(37, ' ') +
+        expected += std::string(5, '\n') + "out look \n" + std::string(59, '\n') + std::string(37, ' ') +
                     "Page 2\n\f\n";
     }
     EXPECT_EQ(output, expected);
