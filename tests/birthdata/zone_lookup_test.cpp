@@ -135,6 +135,7 @@ TEST(Atlas, FindsPlacesByTheNamesThatPeopleType) {
         {"Cologne", "Köln, North Rhine-Westphalia, Germany"},
         {"zurich", "Zürich, Zurich, Switzerland"},
         {"Roma", "Rome, Lazio, Italy"},
+        {"Saigon", "Ho Chi Minh City, Hồ Chí Minh City, Vietnam"},
         {"Praha", "Prague, Prague, Czech Republic"},
         {"Moskva", "Moscow, Moscow, Russia"},
         {"Saint Louis", "St. Louis, Missouri, United States"},
