@@ -9,9 +9,9 @@ Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirecto
     const Result<DataFiles> files = ApplicationDirectory(HintsOfProcess(appDirectory), FirstStart::LeaveAsIs);
     if (!files) return files.fault();
     CommandData data{*files, {}, {}};
-    if (const Result<void> read = LoadOptions(*files, data.options); !read) return read.fault();
-    const Result<int> lines = ReadOptions(*files, data.options);
-    if (lines && *lines < kOptionCount) {
+    const Result<int> lines = LoadOptions(*files, data.options);
+    if (!lines) return lines.fault();
+    if (*lines < kOptionCount) {
         data.note = files->Own(kOptionsFileName).string() + " ends after " + std::to_string(*lines) + " of " +
                     std::to_string(kOptionCount) + " lines; the options behind count as 0";
     }

@@ -40,14 +40,14 @@ Result<Path> RestoreOptions(const DataFiles& files) {
     return backup;
 }
 
-Result<void> LoadOptions(const DataFiles& files, Options& options) {
+Result<int> LoadOptions(const DataFiles& files, Options& options) {
     const Result<int> read = ReadOptions(files, options);
     if (!read) return read.fault();
     const auto lines = options.table().subspan(1, static_cast<std::size_t>(std::min(*read, kOptionCount)));
     const bool any = std::ranges::any_of(lines, [](float value) { return value != 0.0F; });
     if (!any || IsForeign(files.Own(kOptionsFileName)))
         return Fault{"The file " + files.Own(kOptionsFileName).string() + " holds no options."};
-    return {};
+    return read;
 }
 
 }  // namespace tolvanis

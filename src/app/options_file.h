@@ -16,7 +16,7 @@ Result<int> ReadOptions(const DataFiles& files, Options& options);
 
 // The same, with a fault also for a file of other content: one that reads as nothing but zeros, or in which
 // most lines hold no number.
-Result<void> LoadOptions(const DataFiles& files, Options& options);
+Result<int> LoadOptions(const DataFiles& files, Options& options);
 
 // Puts the master copy, the delivered options, in the place of the options file, whose content is kept under
 // BackupPath, or with the ending BAD where it holds no options. Gives that name.

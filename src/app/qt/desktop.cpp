@@ -28,9 +28,8 @@ constexpr std::string_view kHelpPrintFile = "HELPFILE";
 constexpr const char* kUnsavedLostText =
     "The changes in this window are not saved and will be lost. Restore the default settings?";
 constexpr const char* kNoOptionsText =
-    " The program does not start with it. Restore Default Settings puts the delivered options in its place; "
-    "the "
-    "former ones are kept as OPTIONS.OLD.";
+    " The program does not start with it. Restore Default Settings puts the delivered options in its "
+    "place; the former ones are kept as OPTIONS.OLD.";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
 
 }  // namespace
@@ -62,7 +61,7 @@ bool Desktop::Start() {
 }
 
 bool Desktop::StartOptions() {
-    const Result<void> read = LoadOptions(state_.files, state_.options);
+    const Result<int> read = LoadOptions(state_.files, state_.options);
     if (read) return true;
     const std::string fault = read.message();
     const Path master = state_.files.Find(kOptionsMasterName);
@@ -80,7 +79,7 @@ bool Desktop::StartOptions() {
         services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
         return false;
     }
-    const Result<void> again = LoadOptions(state_.files, state_.options);
+    const Result<int> again = LoadOptions(state_.files, state_.options);
     if (!again) services_.messages.Tell("Error!", again.message(), MessageIcon::Stop);
     return static_cast<bool>(again);
 }
@@ -333,7 +332,7 @@ void Desktop::EditorSaved(EditorUse use) {
     const Result<int> read = ReadOptions(state_.files, state_.options);
     if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
     Options held;
-    if (const Result<void> loaded = LoadOptions(state_.files, held); read && !loaded)
+    if (const Result<int> loaded = LoadOptions(state_.files, held); read && !loaded)
         services_.messages.Tell("Warning!", loaded.message() + kNoOptionsText, MessageIcon::Warning);
     state_.titlePrefix = kTitlePrefixAfterOptions;
     UpdateClock();
