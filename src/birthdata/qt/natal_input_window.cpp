@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QTimer>
+#include <tuple>
 
 #include "platform/qt/bevel_frame.h"
 #include "platform/qt/entry_box.h"
@@ -18,6 +19,44 @@ namespace {
 constexpr const char* kDigits = "0123456789";
 constexpr int kAdviceDelay = 120;  // milliseconds after the last key
 constexpr const char* kZoneCharacters = "0123456789.-";
+
+EntryBox* AddBox(QGridLayout& grid, int row, int column, const char* name, const char* label,
+                 const char* accepted, int width) {
+    auto* box = new EntryBox(QLatin1String(accepted), width);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(QLatin1String(label));
+    auto* caption = new QLabel(QLatin1String(label));
+    caption->setBuddy(box);
+    grid.addWidget(caption, row, column, Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(box, row, column + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    return box;
+}
+
+// An option button of a pair: Tab stops at the ticked one, the arrow keys tick the other.
+QRadioButton* MakeOption(const char* caption) {
+    auto* option = new QRadioButton(QLatin1String(caption));
+    option->setObjectName(QStringLiteral("opt") + QLatin1String(caption));
+    option->setAccessibleName(QLatin1String(caption));
+    option->setFocusPolicy(Qt::ClickFocus);
+    QObject::connect(option, &QRadioButton::toggled, option, [option](bool ticked) {
+        option->setFocusPolicy(ticked ? Qt::StrongFocus : Qt::ClickFocus);
+    });
+    return option;
+}
+
+// Two option buttons of which one is ticked, with the name of their frame in front.
+std::pair<QRadioButton*, QRadioButton*> AddPair(QGridLayout& grid, int row, const char* frame,
+                                                const char* first, const char* second) {
+    auto* pair = new QWidget;
+    pair->setAccessibleName(QLatin1String(frame));
+    auto* options = new QHBoxLayout(pair);
+    options->setContentsMargins(0, 0, 0, 0);
+    QRadioButton* const made[] = {MakeOption(first), MakeOption(second)};
+    for (QRadioButton* option : made) options->addWidget(option, 1);
+    grid.addWidget(new QLabel(QLatin1String(frame)), row, 4, Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(pair, row, 5);
+    return {made[0], made[1]};
+}
 
 }  // namespace
 
@@ -55,17 +94,17 @@ QWidget* InputD::MakeEntryFrame() {
     txtYear_ = AddBox(*grid, 1, 4, "txtYear", "Birth Year", kDigits, 4);
     txtBirthHour_ = AddBox(*grid, 2, 0, "txtBirthHour", "Birth Hour", kDigits, 2);
     txtBirthMinute_ = AddBox(*grid, 2, 2, "txtBirthMinute", "Birth Minute", kDigits, 2);
-    AddPair(*grid, 2, "Am/Pm", optAM_, "optAM", "AM", optPM_, "optPM", "PM");
+    std::tie(optAM_, optPM_) = AddPair(*grid, 2, "Am/Pm", "AM", "PM");
     txtTZ_ = AddBox(*grid, 3, 0, "txtTZ", "Time Zone . . .", kZoneCharacters, 6);
     // The wide box must not push the columns apart: the window has to fit on small screens.
     grid->addWidget(txtTZ_, 3, 1, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(Label1_, 3, 3, 1, 3, Qt::AlignLeft);
     txtLongDeg_ = AddBox(*grid, 4, 0, "txtLongDeg", "Long Degrees", kDigits, 3);
     txtLongMin_ = AddBox(*grid, 4, 2, "txtLongMin", "Long Minutes", kDigits, 2);
-    AddPair(*grid, 4, "Ea/We", optEast_, "optEast", "East", optWest_, "optWest", "West");
+    std::tie(optEast_, optWest_) = AddPair(*grid, 4, "Ea/We", "East", "West");
     txtLatDeg_ = AddBox(*grid, 5, 0, "txtLatDeg", "Lat Degrees", kDigits, 3);
     txtLatMin_ = AddBox(*grid, 5, 2, "txtLatMin", "Lat Minutes", kDigits, 2);
-    AddPair(*grid, 5, "No/So", optNorth_, "optNorth", "North", optSouth_, "optSouth", "South");
+    std::tie(optNorth_, optSouth_) = AddPair(*grid, 5, "No/So", "North", "South");
     grid->setColumnStretch(5, 1);
     return frame;
 }
@@ -141,42 +180,6 @@ QHBoxLayout* InputD::MakeButtonRow() {
     row->addWidget(cmdOK_);
     row->addWidget(cmdSave_);
     return row;
-}
-
-EntryBox* InputD::AddBox(QGridLayout& grid, int row, int column, const char* name, const char* label,
-                         const char* accepted, int width) {
-    auto* box = new EntryBox(QLatin1String(accepted), width);
-    box->setObjectName(QLatin1String(name));
-    box->setAccessibleName(QLatin1String(label));
-    auto* caption = new QLabel(QLatin1String(label));
-    caption->setBuddy(box);
-    grid.addWidget(caption, row, column, Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(box, row, column + 1, Qt::AlignLeft | Qt::AlignVCenter);
-    return box;
-}
-
-void InputD::AddPair(QGridLayout& grid, int row, const char* frame, QRadioButton*& first,
-                     const char* firstName, const char* firstCaption, QRadioButton*& second,
-                     const char* secondName, const char* secondCaption) {
-    auto* pair = new QWidget;
-    pair->setAccessibleName(QLatin1String(frame));
-    auto* buttons = new QHBoxLayout(pair);
-    buttons->setContentsMargins(0, 0, 0, 0);
-    const auto make = [&](const char* name, const char* caption) {
-        auto* button = new QRadioButton(QLatin1String(caption));
-        button->setObjectName(QLatin1String(name));
-        button->setAccessibleName(QLatin1String(caption));
-        buttons->addWidget(button, 1);
-        // Tab stops at the ticked one, the arrow keys tick the other.
-        button->setFocusPolicy(Qt::ClickFocus);
-        connect(button, &QRadioButton::toggled, button,
-                [button](bool ticked) { button->setFocusPolicy(ticked ? Qt::StrongFocus : Qt::ClickFocus); });
-        return button;
-    };
-    first = make(firstName, firstCaption);
-    second = make(secondName, secondCaption);
-    grid.addWidget(new QLabel(QLatin1String(frame)), row, 4, Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(pair, row, 5);
 }
 
 QPushButton* InputD::MakeButton(const char* name, const char* caption, void (InputD::*handler)()) {

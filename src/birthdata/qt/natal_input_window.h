@@ -74,12 +74,6 @@ class InputD : public QDialog {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    EntryBox* AddBox(QGridLayout& grid, int row, int column, const char* name, const char* label,
-                     const char* accepted, int width);
-    // Two option buttons of which one is ticked, with the name of their frame in front.
-    void AddPair(QGridLayout& grid, int row, const char* frame, QRadioButton*& first, const char* firstName,
-                 const char* firstCaption, QRadioButton*& second, const char* secondName,
-                 const char* secondCaption);
     QPushButton* MakeButton(const char* name, const char* caption, void (InputD::*handler)());
     QWidget* MakeEntryFrame();
     QHBoxLayout* MakeButtonRow();
