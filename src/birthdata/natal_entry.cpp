@@ -14,6 +14,16 @@ constexpr std::string_view kInputErrorText = "Error in natal input data section.
 constexpr std::string_view kPolarLatitudeText =
     "Your latitude is too high. Lower to 66 degrees, 00 minutes or below OR change house systems.";
 
+// Where the options hold the place of the home: degrees and minutes; other than 0 is east or south.
+enum HomeOption : int {
+    kHomeLongDegOption = 19,
+    kHomeLongMinOption = 20,
+    kHomeEastOption = 21,
+    kHomeLatDegOption = 22,
+    kHomeLatMinOption = 23,
+    kHomeSouthOption = 24,
+};
+
 struct Box {
     EntryField field;
     std::string NatalEntry::*text;
@@ -100,12 +110,12 @@ NatalEntry FillNow(const LocalTime& now, const Options& options) {
     entry.birthMinute = std::to_string(now.minute);
     entry.pm = now.hour >= 12;
     entry.timeZone = NumberText(options[kHomeZoneOption]);
-    entry.longDeg = NumberText(options[19]);
-    entry.longMin = NumberText(options[20]);
-    entry.east = options[21] != 0.0F;
-    entry.latDeg = NumberText(options[22]);
-    entry.latMin = NumberText(options[23]);
-    entry.south = options[24] != 0.0F;
+    entry.longDeg = NumberText(options[kHomeLongDegOption]);
+    entry.longMin = NumberText(options[kHomeLongMinOption]);
+    entry.east = options[kHomeEastOption] != 0.0F;
+    entry.latDeg = NumberText(options[kHomeLatDegOption]);
+    entry.latMin = NumberText(options[kHomeLatMinOption]);
+    entry.south = options[kHomeSouthOption] != 0.0F;
     return entry;
 }
 

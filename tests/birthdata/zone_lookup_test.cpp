@@ -176,12 +176,15 @@ TEST(Atlas, RefusesADamagedFileWithItsLine) {
     EXPECT_NE(read.message().find("ATLAS.DAT: the file ends too early"), std::string::npos);
 }
 
-NatalEntry EntryAt(const std::string& place, const CalendarDate& date, const char* hour, const char* zone) {
+// At half past an hour of the morning, or, with a P behind it, of the afternoon.
+NatalEntry EntryAt(const std::string& place, const CalendarDate& date, const std::string& hour,
+                   const char* zone) {
     NatalEntry entry;
     entry.year = std::to_string(date.year);
     entry.month = std::to_string(date.month);
     entry.day = std::to_string(date.day);
-    entry.birthHour = hour;
+    entry.pm = hour.ends_with('P');
+    entry.birthHour = hour.substr(0, hour.find('P'));
     entry.birthMinute = "30";
     const AtlasPlace at = PlaceAt(place);
     FillPlace(entry, {at.Longitude(), at.Latitude(), zone});
@@ -218,6 +221,19 @@ TEST(ZoneAdvice, SaysWhatIsInForceAndNothingElse) {
          "On 1 Apr 2001 2:30 A.M. did not exist in Atlanta: clocks went from 2:00 A.M. (zone 5) to 3:00 A.M. "
          "(zone 4)",
          ""},
+        {"Atlanta, GA",
+         {2001, 4, 1},
+         "12",
+         "4",
+         "On 1 Apr 2001 standard time was in force in Atlanta: zone 5",
+         "5"},
+        {"Atlanta, GA", {2001, 4, 1}, "12P", "4", "", ""},
+        {"Atlanta, GA",
+         {2001, 4, 1},
+         "3P",
+         "5",
+         "On 1 Apr 2001 daylight saving was in force in Atlanta: zone 4",
+         "4"},
         {"Ulm, Germany",
          {1879, 3, 14},
          "11",
