@@ -1,5 +1,8 @@
 #include "app/settings_file.h"
 
+#include <algorithm>
+#include <variant>
+
 #include "birthdata/cities_file.h"
 #include "birthdata/names_file.h"
 #include "platform/directory_list.h"
@@ -13,48 +16,74 @@ constexpr std::string_view kHeading = "[Tolvanis] - Do NOT change the order of t
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr double kSmallestFontSize = 7.75;
 
-void TakeAbove0(double value, double& setting) {
-    if (value > 0.0) setting = value;
-}
+enum class Rule { Any, Above0, FontSize };
 
-void TakeAbove0(double value, std::int16_t& setting) {
-    if (const std::int16_t rounded = RoundToInt16(value); rounded > 0) setting = rounded;
-}
-
-void TakeText(std::string_view value, std::string& setting) {
-    if (!value.empty()) setting = value;
-}
-
-using Take = void (*)(std::string_view text, double number, Settings& settings);
+using Member = std::variant<double DataViewSettings::*, std::int16_t DataViewSettings::*, double Settings::*,
+                            std::int16_t Settings::*, std::string Settings::*>;
 
 struct Key {
     std::string_view name;  // compared with the first characters of a line
-    Take take;
+    Member member;
+    Rule rule = Rule::Any;  // which numbers are taken; of texts all but the empty one
 };
 
-// In the order of comparison.
+// In the order of the file's lines.
 constexpr Key kKeys[] = {
-    {"FontSize",
-     [](auto, double n, Settings& s) {
-         if (n >= kSmallestFontSize) s.dataView.FontSize = n;
-     }},
-    {"FontBold", [](auto, double n, Settings& s) { s.dataView.FontBold = n; }},
-    {"FontItalic", [](auto, double n, Settings& s) { s.dataView.FontItalic = n; }},
-    {"TOLVANISTop", [](auto, double n, Settings& s) { s.TOLVANISTop = n; }},
-    {"TOLVANISLeft", [](auto, double n, Settings& s) { s.TOLVANISLeft = n; }},
-    {"TOLVANISHeight", [](auto, double n, Settings& s) { TakeAbove0(n, s.TOLVANISHeight); }},
-    {"TOLVANISWidth", [](auto, double n, Settings& s) { TakeAbove0(n, s.TOLVANISWidth); }},
-    {"DataTop", [](auto, double n, Settings& s) { TakeAbove0(n, s.dataView.DataTop); }},
-    {"DataLeft", [](auto, double n, Settings& s) { s.dataView.DataLeft = RoundToInt16(n); }},
-    {"DataHeight", [](auto, double n, Settings& s) { TakeAbove0(n, s.dataView.DataHeight); }},
-    {"DataWidth", [](auto, double n, Settings& s) { TakeAbove0(n, s.dataView.DataWidth); }},
-    {"DataFile", [](std::string_view t, double, Settings& s) { TakeText(t, s.DataFile); }},
-    {"GeoDataFile", [](std::string_view t, double, Settings& s) { TakeText(t, s.GeoDataFile); }},
-    {"AtlasDir", [](std::string_view t, double, Settings& s) { TakeText(t, s.AtlasDir); }},
-    {"StartScale", [](auto, double n, Settings& s) { s.StartScale = RoundToInt16(n); }},
-    {"TypeChart", [](auto, double n, Settings& s) { s.TypeChart = RoundToInt16(n); }},
-    {"InterpsDir=", [](std::string_view t, double, Settings& s) { TakeText(t, s.InterpsDir); }},
+    {"FontSize", &DataViewSettings::FontSize, Rule::FontSize},
+    {"FontBold", &DataViewSettings::FontBold},
+    {"FontItalic", &DataViewSettings::FontItalic},
+    {"TOLVANISTop", &Settings::TOLVANISTop},
+    {"TOLVANISLeft", &Settings::TOLVANISLeft},
+    {"TOLVANISHeight", &Settings::TOLVANISHeight, Rule::Above0},
+    {"TOLVANISWidth", &Settings::TOLVANISWidth, Rule::Above0},
+    {"DataTop", &DataViewSettings::DataTop, Rule::Above0},
+    {"DataLeft", &DataViewSettings::DataLeft},
+    {"DataHeight", &DataViewSettings::DataHeight, Rule::Above0},
+    {"DataWidth", &DataViewSettings::DataWidth, Rule::Above0},
+    {"StartScale", &Settings::StartScale},
+    {"DataFile", &Settings::DataFile},
+    {"GeoDataFile", &Settings::GeoDataFile},
+    {"AtlasDir", &Settings::AtlasDir},
+    {"TypeChart", &Settings::TypeChart},
+    {"InterpsDir=", &Settings::InterpsDir},
 };
+
+// The setting that a member stands for.
+template <typename T>
+auto& SettingOf(auto& settings, T Settings::*member) {
+    return settings.*member;
+}
+
+template <typename T>
+auto& SettingOf(auto& settings, T DataViewSettings::*member) {
+    return settings.dataView.*member;
+}
+
+bool Allows(Rule rule, double number) {
+    if (rule == Rule::Above0) return number > 0.0;
+    return rule == Rule::Any || number >= kSmallestFontSize;
+}
+
+void Take(std::string_view value, Rule rule, double& setting) {
+    if (const double number = LeadingNumber(value); Allows(rule, number)) setting = number;
+}
+
+void Take(std::string_view value, Rule rule, std::int16_t& setting) {
+    if (const std::int16_t number = RoundToInt16(LeadingNumber(value)); Allows(rule, number))
+        setting = number;
+}
+
+void Take(std::string_view value, Rule, std::string& setting) {
+    if (!value.empty()) setting = value;
+}
+
+std::string TextOf(double setting) {
+    return ClassicNumberText(setting);
+}
+
+std::string TextOf(const std::string& setting) {
+    return setting;
+}
 
 std::string ClosedWithSeparator(const std::string& directory) {
     return JoinPathText(directory, "");
@@ -104,17 +133,21 @@ Settings DefaultSettings(const Path& applicationDirectory) {
 }
 
 void ApplySettingsLine(std::string_view line, Settings& settings) {
+    const auto key = std::ranges::find_if(kKeys, [&](const Key& one) { return line.starts_with(one.name); });
+    if (key == std::end(kKeys)) return;
     const std::size_t equals = line.find('=');
     const std::string_view value = equals == std::string_view::npos ? line : line.substr(equals + 1);
-    for (const Key& key : kKeys) {
-        if (line.starts_with(key.name)) return key.take(value, LeadingNumber(value), settings);
-    }
+    std::visit([&](auto member) { Take(value, key->rule, SettingOf(settings, member)); }, key->member);
 }
 
-Settings ReadSettings(const Path& applicationDirectory) {
+Result<Settings> ReadSettings(const Path& applicationDirectory) {
     Settings settings = DefaultSettings(applicationDirectory);
-    LineReader reader(FindFile(applicationDirectory, kSettingsFileName));
-    for (std::string line; reader.Next(line);) ApplySettingsLine(line, settings);
+    const Path file = FindFile(applicationDirectory, kSettingsFileName);
+    if (!IsGone(file)) {
+        const Result<std::vector<std::string>> lines = ReadLines(file);
+        if (!lines) return lines.fault();
+        for (const std::string& line : *lines) ApplySettingsLine(line, settings);
+    }
     FollowMove(applicationDirectory, settings);
     settings.InterpsDir = ClosedWithSeparator(settings.InterpsDir);
     return settings;
@@ -122,30 +155,15 @@ Settings ReadSettings(const Path& applicationDirectory) {
 
 std::string SettingsText(const Settings& settings) {
     std::string text;
-    const auto line = [&](std::string_view key, const std::string& value) {
-        text.append(key).append("=").append(value).append(kLineEnd);
+    const auto line = [&](std::string_view key, std::string_view value) {
+        text.append(key).append(key.ends_with('=') ? "" : "=").append(value).append(kLineEnd);
     };
-    const auto number = [&](std::string_view key, double value) { line(key, ClassicNumberText(value)); };
-    const DataViewSettings& view = settings.dataView;
-
     text.append(kHeading).append(kLineEnd);
-    number("FontSize", view.FontSize);
-    number("FontBold", view.FontBold);
-    number("FontItalic", view.FontItalic);
-    number("TOLVANISTop", settings.TOLVANISTop);
-    number("TOLVANISLeft", settings.TOLVANISLeft);
-    number("TOLVANISHeight", settings.TOLVANISHeight);
-    number("TOLVANISWidth", settings.TOLVANISWidth);
-    number("DataTop", view.DataTop);
-    number("DataLeft", view.DataLeft);
-    number("DataHeight", view.DataHeight);
-    number("DataWidth", view.DataWidth);
-    number("StartScale", settings.StartScale);
-    line("DataFile", settings.DataFile);
-    line("GeoDataFile", settings.GeoDataFile);
-    if (!settings.AtlasDir.empty()) line("AtlasDir", settings.AtlasDir);
-    number("TypeChart", settings.TypeChart);
-    line("InterpsDir", settings.InterpsDir);
+    for (const Key& key : kKeys) {
+        const std::string value =
+            std::visit([&](auto member) { return TextOf(SettingOf(settings, member)); }, key.member);
+        if (!value.empty()) line(key.name, value);
+    }
     for (const char* unused : {"wh_var1", "wh_var2", "wh_var3", "wh_var4", "wh_var5", "wh_var6"}) {
         line(unused, "0");
     }

@@ -34,13 +34,13 @@ Settings DefaultSettings(const Path& applicationDirectory);
 // Takes over one line, "key=value". Unknown keys and values outside a key's rule change nothing.
 void ApplySettingsLine(std::string_view line, Settings& settings);
 
-// The defaults overlaid by the settings file of the directory. A missing or unreadable file gives the
-// defaults; InterpsDir gets a separator (JoinPathText) when it ends in neither "/" nor "\". Files that are no
-// longer where the settings say, but in the directory, are taken from there, as are the atlas and the texts:
-// a portable copy may have been moved.
-Settings ReadSettings(const Path& applicationDirectory);
+// The defaults overlaid by the settings file of the directory; a missing file gives the defaults, one that
+// is there and cannot be read to its end a fault. InterpsDir gets a separator (JoinPathText) when it ends in
+// neither "/" nor "\". Files that are no longer where the settings say, but in the directory, are taken from
+// there, as are the atlas and the texts: a portable copy may have been moved.
+Result<Settings> ReadSettings(const Path& applicationDirectory);
 
-// The file's text, lines ending in CR LF.
+// The file's text, lines ending in CR LF; a setting that is an empty text has none.
 std::string SettingsText(const Settings& settings);
 
 Result<void> WriteSettings(const Path& applicationDirectory, const Settings& settings);

@@ -78,12 +78,12 @@ TEST(SettingsFile, WhatIsWrittenReadsBackInAnyOrder) {
     settings.AtlasDir = "/opt/atlas";
     settings.TypeChart = 1;
     ASSERT_TRUE(WriteSettings(directory.path(), settings));
-    EXPECT_EQ(ReadSettings(directory.path()), settings);
+    EXPECT_EQ(*ReadSettings(directory.path()), settings);
 
     auto lines = *ReadLines(directory.path() / "Tolvanis.ini");
     std::reverse(lines.begin(), lines.end());
     directory.Write("Tolvanis.ini", JoinLines(lines));
-    EXPECT_EQ(ReadSettings(directory.path()), settings);
+    EXPECT_EQ(*ReadSettings(directory.path()), settings);
 }
 
 TEST(SettingsFile, InterpretationDirectoryEndsInOneSeparator) {
@@ -91,15 +91,15 @@ TEST(SettingsFile, InterpretationDirectoryEndsInOneSeparator) {
     for (const char* given : {"C:\\TEXTS\\", "/texts/", "/texts"}) {
         directory.Write("Tolvanis.ini", std::string("InterpsDir=") + given + "\r\n");
         const std::string want = given == std::string("/texts") ? "/texts/" : given;
-        EXPECT_EQ(ReadSettings(directory.path()).InterpsDir, want);
+        EXPECT_EQ(ReadSettings(directory.path())->InterpsDir, want);
     }
 }
 
 TEST(SettingsFile, RubbishAndAMissingFileGiveTheDefaults) {
     const ScratchDirectory directory;
-    EXPECT_EQ(ReadSettings(directory.path()), DefaultSettings(directory.path()));
+    EXPECT_EQ(*ReadSettings(directory.path()), DefaultSettings(directory.path()));
     directory.Write("Tolvanis.ini", std::string("\0\xff\xfe====\nDataTop\n=\nDataHeight=1e999x", 30));
-    const Settings settings = ReadSettings(directory.path());
+    const Settings settings = *ReadSettings(directory.path());
     EXPECT_EQ(settings.dataView.DataTop, 945);
     EXPECT_EQ(settings.DataFile, DefaultSettings(directory.path()).DataFile);
 }
@@ -122,7 +122,7 @@ TEST(SettingsFile, FilesOfAMovedDirectoryAreFound) {
     const std::string kept = elsewhere.Write("NAMES.FIL", "").string();
     const auto read = [&](const std::string& content) {
         directory.Write("Tolvanis.ini", content);
-        return ReadSettings(directory.path());
+        return *ReadSettings(directory.path());
     };
     const Settings moved = read(
         "DataFile=/old/place/ANN.FIL\r\nGeoDataFile=C:\\OLD\\GA_MA.LL\r\n"

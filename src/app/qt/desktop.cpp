@@ -28,8 +28,11 @@ constexpr std::string_view kHelpPrintFile = "HELPFILE";
 constexpr const char* kUnsavedLostText =
     "The changes in this window are not saved and will be lost. Restore the default settings?";
 constexpr const char* kNoOptionsText =
-    " The program does not start with it. Restore Default Settings puts the delivered options in its "
+    " The options of before stay in force, but the program does not start with this file. Restore Default "
+    "Settings puts the delivered options in its "
     "place; the former ones are kept as OPTIONS.OLD.";
+constexpr const char* kSettingsUnreadText =
+    " The program starts with its default settings and leaves the file as it is.";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
 
 }  // namespace
@@ -49,7 +52,7 @@ bool Desktop::Start() {
     if (!StartOptions()) return false;
     if (state_.options[kTitleOption] != 0.0F) ShowTitle();
     const Hourglass hourglass;
-    state_.settings = ReadSettings(state_.files.directory());
+    StartSettings();
     MeasureScreen();
     state_.method = MethodOfOptions(state_.options);
     MakeWindows();
@@ -58,6 +61,14 @@ bool Desktop::Start() {
     ShowMainWindow();
     ShowEntryWindows();
     return true;
+}
+
+void Desktop::StartSettings() {
+    const Result<Settings> read = ReadSettings(state_.files.directory());
+    keepsSettings_ = static_cast<bool>(read);
+    state_.settings = read ? *read : DefaultSettings(state_.files.directory());
+    if (keepsSettings_) return;
+    services_.messages.Tell("Warning!", read.message() + kSettingsUnreadText, MessageIcon::Warning);
 }
 
 bool Desktop::StartOptions() {
@@ -329,11 +340,12 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
 void Desktop::EditorSaved(EditorUse use) {
     births_->FileEdited(use);
     if (use != EditorUse::Options) return;
-    const Result<int> read = ReadOptions(state_.files, state_.options);
-    if (!read) services_.messages.Tell("Error!", read.message(), MessageIcon::Stop);
-    Options held;
-    if (const Result<int> loaded = LoadOptions(state_.files, held); read && !loaded)
-        services_.messages.Tell("Warning!", loaded.message() + kNoOptionsText, MessageIcon::Warning);
+    Options edited = state_.options;
+    if (const Result<int> read = LoadOptions(state_.files, edited); read) {
+        state_.options = edited;
+    } else {
+        services_.messages.Tell("Warning!", read.message() + kNoOptionsText, MessageIcon::Warning);
+    }
     state_.titlePrefix = kTitlePrefixAfterOptions;
     UpdateClock();
 }
@@ -378,16 +390,20 @@ void Desktop::mnuHelpPrintHelp_Click() {
                {SplitIntoPages(*lines, state_.options[kLinesPerPrintedPageOption]), PrintPointSize(false)});
 }
 
+void Desktop::KeepSettings() {
+    KeepMainPlacement();
+    if (!keepsSettings_) return;
+    if (const Result<void> written = WriteSettings(state_.files.directory(), state_.settings); !written)
+        services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
+}
+
 void Desktop::Exit() {
     for (const auto& [use, editor] : editors_) {
         if (editor != nullptr && !editor->MayClose()) return;
     }
     if (std::exchange(ended_, true)) return;
     interp_.reset();
-    KeepMainPlacement();
-    if (const Result<void> written = WriteSettings(state_.files.directory(), state_.settings); !written) {
-        services_.messages.Tell("Error!", written.message(), MessageIcon::Stop);
-    }
+    KeepSettings();
     clock_.stop();
     wheel_.reset();
     // An atlas lookup may still be under way in here: the desk is only hidden until the event loops are left.

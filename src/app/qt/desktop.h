@@ -73,6 +73,7 @@ class Desktop : public QObject {
     using Command = std::function<void()>;
 
     bool StartOptions();
+    void StartSettings();
     void ShowTitle();
     void MeasureScreen();
     void MakeWindows();
@@ -80,6 +81,7 @@ class Desktop : public QObject {
     void EnableStudyTexts();
     void PlaceMainWindow();
     void KeepMainPlacement();
+    void KeepSettings();
     void ShowMainWindow();
     void ShowEntryWindows();
     void UnloadChartWindows();
@@ -117,7 +119,8 @@ class Desktop : public QObject {
     std::map<EditorUse, KeptPlace> editorPlaces_;
     std::map<std::string, Command> commands_;
     QTimer clock_;
-    QRect mainPlace_;  // where the settings have put the main window
+    QRect mainPlace_;            // where the settings have put the main window
+    bool keepsSettings_ = true;  // their file could be read
     bool ended_ = false;
 };
 

@@ -487,14 +487,26 @@ TEST_F(DesktopWindow, OptionsThatHoldNoneAreToldAndCostNoBackup) {
     auto* editor = TopWindow<EditorWindow>();
     Find<QPlainTextEdit>(*editor, "txtContent").selectAll();
     Find<QPlainTextEdit>(*editor, "txtContent").insertPlainText(QStringLiteral("no options"));
+    const Options inForce = state_.options;
     Press(*editor, "btnSave");
     EXPECT_NE(messages_.TakeTold().at(0).find("holds no options"), std::string::npos);
+    EXPECT_EQ(state_.options, inForce);
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), own);
     messages_.answers = {Answer::Yes};
     ASSERT_TRUE(Open());
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), FileContent(directory_ / "OPTIONS.MAS"));
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), own);
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.BAD"), "no options\r\n");
+}
+
+TEST_F(DesktopWindow, SettingsThatCannotBeReadAreToldAndLeftAsTheyAre) {
+    const std::string endless = "DataTop= 30\r\nDataFile=" + std::string(3 << 20, 'x');
+    directory_.Write("Tolvanis.ini", endless);
+    ASSERT_TRUE(Open());
+    EXPECT_NE(messages_.TakeTold().at(0).find("Tolvanis.ini"), std::string::npos);
+    EXPECT_EQ(state_.settings, DefaultSettings(directory_.path()));
+    desktop_->mainWindow().close();
+    EXPECT_EQ(FileContent(directory_ / "Tolvanis.ini"), endless);
 }
 
 TEST_F(DesktopWindow, ExitKeepsSettingsForTheNextStart) {
