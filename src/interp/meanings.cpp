@@ -77,7 +77,7 @@ Result<void> ListMeaning(DataBuffer& buffer, const Path& file, std::string_view 
     LineReader reader(file);
     TakeSection(reader, key, SearchEnd::FileEnd,
                 [&](std::string_view line) { buffer.AppendLine(std::string(kListingIndent).append(line)); });
-    if (reader.HasFault()) return Fault{MissingFileText(file)};
+    if (reader.HasFault()) return Fault{UnreadTextMessage(file, CannotRead(file, reader.fault()))};
     return {};
 }
 

@@ -57,8 +57,11 @@ std::vector<std::string> ReadPersonalBlock(const Path& file) {
     return lines ? *lines : std::vector<std::string>{};
 }
 
-std::string MissingFileText(const Path& path) {
-    return "Cannot find the file called " + path.string() + ".";
+std::string UnreadTextMessage(const Path& path, const Fault& fault) {
+    std::error_code error;
+    const bool isMissing =
+        std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
+    return isMissing ? "Cannot find the file called " + path.string() + "." : fault.message;
 }
 
 }  // namespace tolvanis

@@ -47,7 +47,7 @@ Result<int> ListTextFile(DataBuffer& buffer, const Path& path, TextUse use = Tex
 // The lines of the personal block as they stand; none when there is no such file.
 std::vector<std::string> ReadPersonalBlock(const Path& file);
 
-// What the user is told of a text file that cannot be found.
-std::string MissingFileText(const Path& path);
+// What the user is told of a text file that cannot be read: that it is not there, or else the fault.
+std::string UnreadTextMessage(const Path& path, const Fault& fault);
 
 }  // namespace tolvanis

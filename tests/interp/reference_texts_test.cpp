@@ -66,6 +66,8 @@ TEST(Meanings, AreListedBehindABlankLine) {
     const Path missing = directory / "SIGN_Lib.TXT";
     EXPECT_EQ(ListMeaning(buffer, missing, "x").message(),
               "Cannot find the file called " + missing.string() + ".");
+    std::filesystem::create_directory(missing);
+    EXPECT_THAT(ListMeaning(buffer, missing, "x").message(), HasSubstr("directory"));
 }
 
 TEST(Meanings, OwnDirectoryStandsForItself) {

@@ -38,9 +38,9 @@ constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what i
 }  // namespace
 
 Desktop::Desktop(ProgramState& state, const DesktopServices& services)
-    : state_(state),
-      services_(services),
-      printing_{services.dialogs, services.messages, state.files.directory()} {}
+    : state_(state), services_(services), printing_{services.dialogs, services.messages, [&state] {
+                                                        return state.files.directory();
+                                                    }} {}
 
 Desktop::~Desktop() {
     for (auto& [use, editor] : editors_) delete editor;
@@ -251,8 +251,7 @@ void Desktop::ShowTextFile(const std::string& textFileName, TextUse use) {
         return ListTextFile(state_.buffer, path, use);
     }();
     if (!read) {
-        const std::string text = IsReadableFile(path) ? read.message() : MissingFileText(path);
-        services_.messages.Tell("Warning!", text, MessageIcon::Stop);
+        services_.messages.Tell("Warning!", UnreadTextMessage(path, read.fault()), MessageIcon::Stop);
     }
     // A lesson has taken the place of what the buffer held, be it only with a blank line.
     if (use == TextUse::Lesson || (read && *read > 0)) ShowDataBuffer();
@@ -383,7 +382,7 @@ void Desktop::mnuHelpPrintHelp_Click() {
     const Path path = state_.files.FindText(kHelpPrintFile);
     const Result<std::vector<std::string>> lines = ReadLines(path);
     if (!lines) {
-        services_.messages.Tell("Warning!", MissingFileText(path), MessageIcon::Stop);
+        services_.messages.Tell("Warning!", UnreadTextMessage(path, lines.fault()), MessageIcon::Stop);
         return;
     }
     PrintPages(printing_, "Tolvanis help",

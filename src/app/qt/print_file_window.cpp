@@ -42,7 +42,7 @@ PrntFile::PrntFile(const Options& options, const PrintServices& services)
 }
 
 Path PrntFile::File() const {
-    return FindFile(services_.directory, kPrintFileName);
+    return FindFile(services_.directory(), kPrintFileName);
 }
 
 void PrntFile::Load() {

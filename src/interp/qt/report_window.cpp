@@ -317,7 +317,7 @@ void Report::btnCancel_Click() {
 
 void Report::btnPrint_Click() {
     PrintServices printing = context_.printing;
-    printing.directory = SavingDirectory();
+    printing.directory = [this] { return SavingDirectory(); };
     PrintPages(printing, ProposedFileName(personName_, " report"),
                {PrintedReport(context_.report, ReportPageFormOf(context_.options)), 12, true});
 }

@@ -37,7 +37,7 @@ bool TellFault(const PrintServices& services, const std::string& text) {
 }
 
 bool PrintToPdf(const PrintServices& services, const std::string& documentName, const PaintDocument& paint) {
-    const SaveRequest request = {services.directory, documentName + ".pdf", "PDF Files", "*.pdf", "pdf"};
+    const SaveRequest request = {services.directory(), documentName + ".pdf", "PDF Files", "*.pdf", "pdf"};
     const std::optional<Path> path = ChooseOutput(services.dialogs, services.messages, request);
     if (!path) return false;
     const Hourglass hourglass;

@@ -16,7 +16,7 @@ namespace tolvanis {
 struct PrintServices {
     FileDialogs& dialogs;
     Messages& messages;
-    Path directory;  // where PDF files are proposed
+    std::function<Path()> directory;  // where PDF files are proposed, asked for when one is
 };
 
 // Draws a document; a new page is begun with QPagedPaintDevice::newPage. The painter's units are the

@@ -219,7 +219,7 @@ void Wheels::mnuExport_Click() {
 
 // Asks until the name is that of a picture that can be drawn.
 std::optional<Path> Wheels::ChoosePicture() {
-    SaveRequest request = {context_.printing.directory,
+    SaveRequest request = {context_.printing.directory(),
                            DocumentName() + ".svg",
                            "Pictures",
                            "*.svg *.pdf *.png",

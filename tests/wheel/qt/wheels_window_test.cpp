@@ -34,11 +34,10 @@ struct WheelsTest : ::testing::Test {
     Options options = DeliveredOptions();
     WheelData data = DeliveredWheelData();
     WheelSnapshot chart = SnapshotOf(kAnnSmith);
-    WheelContext context{data,
-                         options,
-                         directory / "NATAL.ORB",
-                         directory / "PERSONAL.NAM",
-                         {dialogs, messages, directory.path()}};
+    WheelContext context{
+        data, options, directory / "NATAL.ORB", directory / "PERSONAL.NAM", {dialogs, messages, [this] {
+                                                                                 return directory.path();
+                                                                             }}};
 
     void SetUp() override {
         for (const char* name : {"data/NATAL.ORB", "data/HCDATA.DAT", "data/RADIUS.DAT", "fonts/HORARY.ttf",
