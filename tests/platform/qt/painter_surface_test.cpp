@@ -5,10 +5,12 @@
 
 #include <QFontDatabase>
 #include <QImage>
+#include <QPushButton>
 #include <QTest>
 #include <numbers>
 
 #include "platform/qt/entry_box.h"
+#include "platform/qt/even_rows.h"
 #include "platform/qt/listing_font.h"
 
 namespace tolvanis {
@@ -59,6 +61,54 @@ TEST_F(PainterSurfaceTest, CirclesAreHollowDiscsAndSectorsFull) {
     }
     EXPECT_TRUE(Inked(-10, 10) && Inked(-6, 12) && Inked(-14, 8));
     EXPECT_FALSE(Inked(-10, 18) || Inked(10, 10) || Inked(-10, -10));
+}
+
+// What keeps texts apart is an octagon around their ink: it holds the whole outline, and every side touches
+// it.
+TEST(TextOutlinesTest, TheOctagonIsTheTightestAroundTheInk) {
+    TextOutlines outlines;
+    for (const char* text : {"A", "/", "\\", "L", "12", "O"}) {
+        const auto& [path, cell] = outlines.Of(text, false);
+        constexpr double kFar = 1e9;
+        TextBox want{cell.width, cell.height, kFar, kFar, -kFar, -kFar, kFar, -kFar, kFar, -kFar};
+        const auto widen = [](double& least, double& most, double value) {
+            least = std::min(least, value);
+            most = std::max(most, value);
+        };
+        for (const QPolygonF& polygon : path.toSubpathPolygons()) {
+            for (const QPointF& point : polygon) {
+                widen(want.inkLeft, want.inkRight, point.x());
+                widen(want.inkTop, want.inkBottom, point.y());
+                widen(want.leastSum, want.mostSum, point.x() + point.y());
+                widen(want.leastDifference, want.mostDifference, point.x() - point.y());
+            }
+        }
+        for (const auto side :
+             {&TextBox::inkLeft, &TextBox::inkTop, &TextBox::inkRight, &TextBox::inkBottom,
+              &TextBox::leastSum, &TextBox::mostSum, &TextBox::leastDifference, &TextBox::mostDifference}) {
+            EXPECT_NEAR(cell.*side, want.*side, 0.5) << text;
+        }
+    }
+}
+
+TEST(EvenRowsTest, ButtonsGoIntoAsManyEqualRowsAsTheWidthAsksFor) {
+    QWidget window;
+    EvenRows rows;
+    for (int i = 0; i < 5; ++i) rows.addWidget(new QPushButton(QStringLiteral("Button"), &window));
+    const QSize cell = rows.minimumSize();
+    const int whole = rows.sizeHint().width();
+    const struct {
+        int width;
+        int columns;
+    } cases[] = {{whole, 5}, {2 * whole, 5}, {whole - 1, 3}, {whole / 2, 2}, {cell.width(), 1}, {1, 1}};
+    for (const auto& test : cases) {
+        rows.setGeometry({0, 0, test.width, 500});
+        const auto place = [&](int i) { return rows.itemAt(i)->geometry(); };
+        int inFirstRow = 0;
+        for (int i = 0; i < 5; ++i) inFirstRow += place(i).top() == place(0).top() ? 1 : 0;
+        EXPECT_EQ(inFirstRow, test.columns) << test.width;
+        EXPECT_EQ(place(4).bottom() + 1, rows.heightForWidth(test.width)) << test.width;
+    }
 }
 
 TEST(ListingFontTest, OnlyEvenWidthsAreFixed) {

@@ -28,6 +28,7 @@ class DialogUser {
         steps_.emplace_back([this, name](QWidget& dialog) {
             if (qobject_cast<QFileDialog*>(&dialog) == nullptr) return false;
             auto& box = Find<QLineEdit>(dialog, "fileNameEdit");
+            directories.push_back(static_cast<QFileDialog&>(dialog).directory().path().toStdString());
             proposed.push_back(box.text().toStdString());
             if (name == nullptr) return static_cast<QDialog&>(dialog).reject(), true;
             box.setText(QString::fromUtf8(name));
@@ -46,7 +47,7 @@ class DialogUser {
     }
     bool IsDone() const { return steps_.empty(); }
 
-    std::vector<std::string> proposed, asked;
+    std::vector<std::string> directories, proposed, asked;
 
   private:
     void Act() {
@@ -103,6 +104,19 @@ TEST(SaveDialog, AsksBeforeOverwritingTheFileThatIsWritten) {
     user.Cancel();
     EXPECT_EQ(ShowSaveDialog(request), "");
     EXPECT_TRUE(user.IsDone());
+}
+
+TEST(SaveDialog, AsksAgainInTheDirectoryThatTheUserWentTo) {
+    const ScratchDirectory directory;
+    std::filesystem::create_directory(directory / "Reports");
+    const std::string there = directory.Write("Reports/Ann.doc", "kept").string();
+    DialogUser user;
+    user.TypeName(there.c_str());
+    user.Say(QMessageBox::No);
+    user.TypeName("Ann");
+    user.Say(QMessageBox::Yes);
+    EXPECT_EQ(ShowSaveDialog({directory.path(), "Ann.DOC", "Data Files", "*.DOC", "doc"}), there);
+    EXPECT_EQ(user.directories, (std::vector{directory.path().string(), (directory / "Reports").string()}));
 }
 
 }  // namespace
