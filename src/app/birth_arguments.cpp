@@ -1,5 +1,7 @@
 #include "app/birth_arguments.h"
 
+#include <algorithm>
+
 #include "birthdata/cities_file.h"
 #include "birthdata/name_record.h"
 #include "text/columns.h"
@@ -66,13 +68,13 @@ Result<NatalEntry> EntryOfRecord(const NameRecord& record) {
     return Fault{"field 4 (half day): \"" + record.halfDay + "\" is neither A nor P"};
 }
 
-void TakeRecord(const NameRecord& record, const std::string& source, EntryReceiver& receiver) {
+void TakeRecord(const NameRecord& record, const std::string& source, BirthReceiver& receiver) {
     const Result<NatalEntry> entry = EntryOfRecord(record);
     if (!entry) return receiver.Refuse(source, entry.message());
-    receiver.Take(*entry, source);
+    receiver.Take({*entry, source, {}});
 }
 
-void ReadNamesFile(const BirthArguments& births, EntryReceiver& receiver) {
+void ReadBirthsOfNamesFile(const BirthArguments& births, BirthReceiver& receiver) {
     const std::string& file = *births.namesFile;
     const std::string wanted = ToUtf8(births.name.value_or(std::string()));
     LineReader reader{PathFromText(file)};
@@ -125,22 +127,21 @@ Result<NatalEntry> EntryOfBirth(const std::string& birth, RecordsPlace place) {
 }
 
 // A birth or the present moment at a place of the atlas.
-void ReadPlacedBirth(const BirthArguments& births, const Options& options, const DataFiles& files,
-                     Clock clock, EntryReceiver& receiver) {
-    const Result<ZoneBook> book = ZoneBook::Open(files);
+void ReadPlacedBirth(const BirthArguments& births, const CommandData& data, BirthReceiver& receiver) {
+    const Result<ZoneBook> book = ZoneBook::Open(data.files);
     if (!book) return receiver.Refuse("--at", book.message());
     if (!births.birth) {
         NatalEntry now;
-        const auto placed =
-            PlacePresentMoment(*book, *births.at, births.zone, OnClockOfZone(clock(), 0.0), options, now);
+        const auto placed = PlacePresentMoment(*book, *births.at, births.zone,
+                                               OnClockOfZone(data.time.clock(), 0.0), data.options, now);
         if (!placed) return receiver.Refuse("--at", placed.message());
-        return receiver.TakePlaced(now, "--now", *placed);
+        return receiver.Take({now, "--now", *placed});
     }
     Result<NatalEntry> entry = EntryOfBirth(*births.birth, RecordsPlace::LeaveOut);
     if (!entry) return receiver.Refuse("--birth", entry.message());
     const Result<PlacedBirth> placed = PlaceBirth(*book, *births.at, births.zone, *entry);
     if (!placed) return receiver.Refuse("--at", placed.message());
-    receiver.TakePlaced(*entry, "--birth", *placed);
+    receiver.Take({*entry, "--birth", *placed});
 }
 
 NatalEntry EntryOfNow(std::time_t moment, const Options& options, const std::optional<Place>& place) {
@@ -152,6 +153,10 @@ NatalEntry EntryOfNow(std::time_t moment, const Options& options, const std::opt
 }
 
 }  // namespace
+
+bool Contains(std::span<const std::string_view> arguments, std::string_view wanted) {
+    return std::ranges::find(arguments, wanted) != arguments.end();
+}
 
 bool ArgumentReader::Next() {
     if (rest_.empty()) return false;
@@ -202,18 +207,18 @@ Result<void> CheckBirthArguments(const BirthArguments& births) {
     return {};
 }
 
-void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files, Clock clock,
-                EntryReceiver& receiver) {
-    if (births.namesFile) return ReadNamesFile(births, receiver);
-    if (births.at) return ReadPlacedBirth(births, options, files, clock, receiver);
-    const Result<std::optional<Place>> place = RequestedPlace(births, files);
+void ReadBirths(const BirthArguments& births, const CommandData& data, BirthReceiver& receiver) {
+    if (births.namesFile) return ReadBirthsOfNamesFile(births, receiver);
+    if (births.at) return ReadPlacedBirth(births, data, receiver);
+    const Result<std::optional<Place>> place = RequestedPlace(births, data.files);
     if (!place) return receiver.Refuse("--place", place.message());
-    if (!births.birth) return receiver.Take(EntryOfNow(clock(), options, *place), "--now");
+    if (!births.birth)
+        return receiver.Take({EntryOfNow(data.time.clock(), data.options, *place), "--now", {}});
     Result<NatalEntry> entry =
         EntryOfBirth(*births.birth, *place ? RecordsPlace::LeaveOut : RecordsPlace::Read);
     if (!entry) return receiver.Refuse("--birth", entry.message());
     if (*place) FillPlace(*entry, **place);
-    receiver.Take(*entry, "--birth");
+    receiver.Take({*entry, "--birth", {}});
 }
 
 }  // namespace tolvanis

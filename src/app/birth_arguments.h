@@ -6,10 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "app/command_data.h"
 #include "app/placed_birth.h"
 #include "astro/natal_chart.h"
-#include "platform/clock.h"
-#include "platform/data_files.h"
 #include "platform/result.h"
 
 namespace tolvanis {
@@ -33,6 +32,9 @@ struct BirthArguments {
     std::optional<Theory> theory;
     std::optional<std::string> appDirectory;
 };
+
+// Whether one of the arguments is this one, wherever it stands.
+bool Contains(std::span<const std::string_view> arguments, std::string_view wanted);
 
 // Walks through arguments of the forms "--name value" and "--name=value".
 class ArgumentReader {
@@ -63,21 +65,23 @@ Method MethodOf(const BirthArguments& births, const Options& options);
 // A fault when the arguments do not go together.
 Result<void> CheckBirthArguments(const BirthArguments& births);
 
-// Receives the entries one by one; `source` says where each comes from, for messages.
-class EntryReceiver {
+// A birth that the arguments name.
+struct NamedBirth {
+    NatalEntry entry;
+    std::string source;                 // where it comes from, for messages
+    std::optional<PlacedBirth> placed;  // what the atlas and the zone history know of it, with --at
+};
+
+class BirthReceiver {
   public:
-    virtual ~EntryReceiver() = default;
-    virtual void Take(const NatalEntry& entry, const std::string& source) = 0;
-    // The same with what the atlas and the zone history know of it.
-    virtual void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth&) {
-        Take(entry, source);
-    }
+    virtual ~BirthReceiver() = default;
+    virtual void Take(const NamedBirth& birth) = 0;
     virtual void Refuse(const std::string& source, const std::string& fault) = 0;
     virtual bool WantsMore() const = 0;
 };
 
-// Reads the births that the arguments name, holding one at a time.
-void ReadBirths(const BirthArguments& births, const Options& options, const DataFiles& files, Clock clock,
-                EntryReceiver& receiver);
+// Reads the births that the arguments name, holding one at a time. A record of a names file that cannot be
+// read is refused, and the next one follows.
+void ReadBirths(const BirthArguments& births, const CommandData& data, BirthReceiver& receiver);
 
 }  // namespace tolvanis

@@ -5,10 +5,10 @@
 
 namespace tolvanis {
 
-Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirectory) {
+Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirectory, const HostTime& time) {
     const Result<DataFiles> files = ApplicationDirectory(HintsOfProcess(appDirectory), FirstStart::LeaveAsIs);
     if (!files) return files.fault();
-    CommandData data{*files, {}, {}};
+    CommandData data{*files, {}, time, {}};
     const Result<int> lines = LoadOptions(*files, data.options);
     if (!lines) return lines.fault();
     if (*lines < kOptionCount) {

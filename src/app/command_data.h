@@ -5,6 +5,7 @@
 #include <string>
 
 #include "chart/options.h"
+#include "platform/clock.h"
 #include "platform/data_files.h"
 
 namespace tolvanis {
@@ -12,10 +13,11 @@ namespace tolvanis {
 struct CommandData {
     DataFiles files;
     Options options;
+    HostTime time;
     std::string note;  // that the options file ends early, or empty
 };
 
 // The application directory and its options; nothing is written. A fault says what is missing or damaged.
-Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirectory);
+Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirectory, const HostTime& time);
 
 }  // namespace tolvanis

@@ -5,18 +5,10 @@
 #include "app/birth_arguments.h"
 
 namespace tolvanis {
-namespace {
-
-bool Hold(std::span<const std::string_view> arguments, std::string_view wanted) {
-    return std::ranges::find(arguments, wanted) != arguments.end();
-}
-
-}  // namespace
-
 Result<DesktopArguments> ParseDesktopArguments(std::span<const std::string_view> arguments) {
     DesktopArguments parsed;
-    parsed.help = Hold(arguments, "--help") || Hold(arguments, "-h");
-    parsed.version = Hold(arguments, "--version");
+    parsed.help = Contains(arguments, "--help") || Contains(arguments, "-h");
+    parsed.version = Contains(arguments, "--version");
     parsed.wheel = std::ranges::any_of(arguments, [](std::string_view argument) {
         return argument == "--wheel" || argument.starts_with("--wheel=");
     });

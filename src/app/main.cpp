@@ -38,12 +38,6 @@ int Run(const DesktopArguments& arguments) {
     return QApplication::exec();
 }
 
-int Print(std::string_view text) {
-    if (WriteToStandardOutput(text) && FlushStandardOutput()) return EXIT_SUCCESS;
-    TellOn(std::cerr, "tolvanis: cannot write to standard output");
-    return EXIT_FAILURE;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -55,9 +49,9 @@ int main(int argc, char** argv) {
         TellOn(std::cerr, "tolvanis: " + arguments.message() + "\n\n" + std::string(kDesktopUsage));
         return kWrongUsage;
     }
-    if (arguments->help) return Print(kDesktopUsage);
-    if (arguments->version) return Print("tolvanis " TOLVANIS_VERSION "\n");
-    if (arguments->wheel) return RunWheelCommand(given, argv);
+    if (arguments->help) return PrintAbout("tolvanis", kDesktopUsage);
+    if (arguments->version) return PrintAbout("tolvanis", "tolvanis " TOLVANIS_VERSION "\n");
+    if (arguments->wheel) return RunWheelCommand(given, {HostClock, HostDateTimeOrder()}, argv);
     if (!HasDisplay()) {
         std::cerr << "tolvanis: there is no display to open windows on; tolvanis-chart works without one\n";
         return EXIT_FAILURE;

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "app/command_data.h"
 #include "astro/natal_chart.h"
-#include "platform/clock.h"
 #include "text/numbers.h"
 #include "wheel/picture_format.h"
 
@@ -52,21 +50,18 @@ Result<void> TakeWheelArgument(ArgumentReader& reader, WheelArguments& wheel) {
 }
 
 // Keeps the snapshot of the one birth, or what is wrong with it.
-class SnapshotTaker : public EntryReceiver {
+class SnapshotTaker : public BirthReceiver {
   public:
-    SnapshotTaker(const Method& method, const Options& options) : method_(method), options_(options) {}
+    SnapshotTaker(const Method& method, const CommandData& data) : method_(method), data_(data) {}
 
-    void Take(const NatalEntry& entry, const std::string& source) override {
-        const auto chart = MakeChart(entry, method_, HostDateTimeOrder().iDate, options_);
+    void Take(const NamedBirth& birth) override {
+        if (birth.placed && !birth.placed->note.empty()) note_ = birth.source + ": " + birth.placed->note;
+        const auto chart = MakeChart(birth.entry, method_, data_.time.order.iDate, data_.options);
         if (chart) {
             chart_ = MakeWheelSnapshot(chart->natal, chart->positions);
             return;
         }
-        for (const std::string& detail : chart.fault().Details()) Refuse(source, detail);
-    }
-    void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth& placed) override {
-        if (!placed.note.empty()) note_ = source + ": " + placed.note;
-        Take(entry, source);
+        for (const std::string& detail : chart.fault().Details()) Refuse(birth.source, detail);
     }
     void Refuse(const std::string& source, const std::string& fault) override {
         if (!faults_.empty()) faults_ += "\n";
@@ -81,7 +76,7 @@ class SnapshotTaker : public EntryReceiver {
 
   private:
     Method method_;
-    const Options& options_;
+    const CommandData& data_;
     std::optional<WheelSnapshot> chart_;
     std::string note_;
     std::string faults_;
@@ -99,13 +94,13 @@ Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arg
     return wheel;
 }
 
-Result<WheelPicture> PrepareWheel(const WheelArguments& arguments) {
-    const Result<CommandData> opened = OpenCommandData(arguments.appDirectory);
+Result<WheelPicture> PrepareWheel(const WheelArguments& arguments, const HostTime& time) {
+    const Result<CommandData> opened = OpenCommandData(arguments.appDirectory, time);
     if (!opened) return opened.fault();
     const Result<WheelData> data = ReadWheelData(opened->files);
     if (!data) return data.fault();
-    SnapshotTaker taker(MethodOf(arguments, opened->options), opened->options);
-    ReadBirths(arguments, opened->options, opened->files, HostClock, taker);
+    SnapshotTaker taker(MethodOf(arguments, opened->options), *opened);
+    ReadBirths(arguments, *opened, taker);
     const Result<WheelSnapshot> chart = taker.Taken();
     if (!chart) return chart.fault();
     WheelPicture picture{opened->files, opened->options, *data, *chart, {}, {}};

@@ -35,6 +35,6 @@ struct WheelPicture {
 
 // Reads the files and computes the chart; nothing is written. A fault names the file or the birth, and what
 // is wrong with it.
-Result<WheelPicture> PrepareWheel(const WheelArguments& arguments);
+Result<WheelPicture> PrepareWheel(const WheelArguments& arguments, const HostTime& time);
 
 }  // namespace tolvanis

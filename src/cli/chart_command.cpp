@@ -4,7 +4,6 @@
 #include "cli/chart_output.h"
 #include "cli/entry_writer.h"
 #include "cli/zone_check.h"
-#include "platform/clock.h"
 #include "platform/file_replacing.h"
 #include "platform/terminal.h"
 
@@ -17,68 +16,60 @@ class ChartPrinter : public EntryWriter {
     ChartPrinter(const ChartRequest& request, const CommandData& data, const Sink& output,
                  std::ostream& errors)
         : EntryWriter(output, errors),
-          options_(data.options),
-          files_(data.files),
+          data_(data),
           method_(MethodOf(request, data.options)),
-          format_(request.format),
-          order_(HostDateTimeOrder()) {}
+          format_(request.format) {}
 
-    void Take(const NatalEntry& entry, const std::string& source) override { Print(entry, source, nullptr); }
-
-    void TakePlaced(const NatalEntry& entry, const std::string& source, const PlacedBirth& placed) override {
-        if (!placed.note.empty()) Tell(source + ": " + placed.note);
-        Print(entry, source, &placed);
+    void Take(const NamedBirth& birth) override {
+        if (birth.placed && !birth.placed->note.empty()) Tell(birth.source + ": " + birth.placed->note);
+        const auto chart = MakeChart(birth.entry, method_, data_.time.order.iDate, data_.options);
+        if (chart) return Print(*chart, birth);
+        for (const std::string& detail : chart.fault().Details()) Refuse(birth.source, detail);
     }
 
   private:
-    void WriteReport(const CurrentChart& chart, const std::string& source) {
-        const Result<std::string> report = ChartAsReport(chart, options_, files_);
-        report ? Write(*report) : Refuse(source, report.message());
-    }
-
-    void Print(const NatalEntry& entry, const std::string& source, const PlacedBirth* placed) {
-        const auto made = MakeChart(entry, method_, order_.iDate, options_);
-        if (!made) {
-            for (const std::string& detail : made.fault().Details()) Refuse(source, detail);
-            return;
-        }
-        const CurrentChart& chart = *made;
+    void Print(const CurrentChart& chart, const NamedBirth& birth) {
         switch (format_) {
             case OutputFormat::Text:
-                return Write(ChartAsText(chart, options_));
+                return Write(ChartAsText(chart, data_.options));
             case OutputFormat::Json:
-                return Write(ChartAsJson(chart, placed));
+                return Write(ChartAsJson(chart, birth.placed ? &*birth.placed : nullptr));
             case OutputFormat::Ascii:
                 return Write(ChartAsAscii(chart));
             case OutputFormat::Report:
-                return WriteReport(chart, source);
+                return PrintReport(chart, birth);
         }
     }
 
-    const Options& options_;
-    const DataFiles& files_;
+    void PrintReport(const CurrentChart& chart, const NamedBirth& birth) {
+        const Result<std::string> report = ChartAsReport(chart, data_.options, data_.files);
+        if (report) return Write(*report);
+        Refuse(birth.source, report.message());
+    }
+
+    const CommandData& data_;
     Method method_;
     OutputFormat format_;
-    DateTimeOrder order_;
 };
 
 }  // namespace
 
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors,
-                           Clock clock) {
-    const Result<CommandData> data = OpenCommandData(request.appDirectory);
+                           const HostTime& time) {
+    const Result<CommandData> data = OpenCommandData(request.appDirectory, time);
     if (!data) {
-        TellOn(errors, data.message());
+        TellOn(errors, "tolvanis-chart: " + data.message());
         return kSomethingRefused;
     }
     if (!data->note.empty()) TellOn(errors, "tolvanis-chart: " + data->note);
-    if (request.checkZones) return CheckZones(request, *data, output, errors, clock);
+    if (request.checkZones) return CheckZones(request, *data, output, errors);
     ChartPrinter printer(request, *data, output, errors);
-    ReadBirths(request, data->options, data->files, clock, printer);
+    ReadBirths(request, *data, printer);
     return printer.status();
 }
 
-ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors) {
+ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors,
+                                   const HostTime& time) {
     std::error_code error;
     const Path names = FindPath(PathFromText(request.namesFile.value_or(std::string())));
     if (request.namesFile && std::filesystem::is_regular_file(names, error) &&
@@ -94,7 +85,7 @@ ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file
             any = true;
             return whole = whole && sink(text);
         };
-        status = RunChartCommand(request, noting, errors, HostClock);
+        status = RunChartCommand(request, noting, errors, time);
         return whole && (any || status == kAllComputed);
     });
     const bool nothingToWrite = !any && status == kSomethingRefused;  // the reasons have been told

@@ -14,9 +14,11 @@ namespace tolvanis {
 // Computes and prints what the request asks for, record by record, holding one at a time. Every refused
 // record gives a line on `errors` that names file, line and fault.
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors,
-                           Clock clock = HostClock);
+                           const HostTime& time);
 
-// The same into a file, which is replaced as a whole; it stays as it is when no chart was computed.
-ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors);
+// The same into a file, which is replaced as a whole; it stays as it is when something was refused and no
+// chart computed.
+ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors,
+                                   const HostTime& time);
 
 }  // namespace tolvanis

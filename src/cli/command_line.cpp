@@ -87,10 +87,10 @@ Result<void> TakeArgument(ArgumentReader& reader, ChartRequest& request) {
 
 Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> arguments) {
     ChartRequest request;
+    request.help = Contains(arguments, "--help") || Contains(arguments, "-h");
+    request.version = Contains(arguments, "--version");
+    if (request.help || request.version) return request;
     for (ArgumentReader reader(arguments); reader.Next();) {
-        request.help = reader.Is("--help") || reader.Is("-h");
-        request.version = reader.Is("--version");
-        if (request.help || request.version) return request;
         if (const Result<void> taken = TakeArgument(reader, request); !taken) return taken.fault();
     }
     if (const Result<void> together = CheckBirthArguments(request); !together) return together.fault();

@@ -20,8 +20,8 @@ struct ChartRequest : BirthArguments {
     bool version = false;
 };
 
-// The request that the arguments make; with nothing that names a birth, the present moment's chart. A fault
-// says what is wrong with the arguments.
+// The request that the arguments make; with nothing that names a birth, the present moment's chart. Help and
+// version go before everything else, wherever they stand. A fault says what is wrong with the arguments.
 Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> arguments);
 
 extern const std::string_view kUsage;

@@ -12,7 +12,7 @@
 namespace tolvanis {
 
 // Tells what is refused, and remembers whether anything was or the output took no more.
-class EntryWriter : public EntryReceiver {
+class EntryWriter : public BirthReceiver {
   public:
     EntryWriter(const Sink& output, std::ostream& errors) : output_(output), errors_(errors) {}
 

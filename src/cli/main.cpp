@@ -10,17 +10,7 @@ using namespace tolvanis;
 
 namespace {
 
-// The status, or that of a failure when standard output has not taken everything.
-ExitStatus WithOutputWritten(ExitStatus status) {
-    if (FlushStandardOutput()) return status;
-    TellOn(std::cerr, "tolvanis-chart: cannot write to standard output");
-    return kSomethingRefused;
-}
-
-ExitStatus Print(std::string_view text) {
-    WriteToStandardOutput(text);
-    return WithOutputWritten(kAllComputed);
-}
+constexpr std::string_view kProgram = "tolvanis-chart";
 
 ExitStatus Run(std::span<const std::string_view> arguments) {
     const Result<ChartRequest> request = ParseCommandLine(arguments);
@@ -28,10 +18,11 @@ ExitStatus Run(std::span<const std::string_view> arguments) {
         TellOn(std::cerr, "tolvanis-chart: " + request.message() + "\n\n" + std::string(kUsage));
         return kWrongUsage;
     }
-    if (request->help) return Print(kUsage);
-    if (request->version) return Print("tolvanis-chart " TOLVANIS_VERSION "\n");
-    if (request->output) return RunChartCommandIntoFile(*request, *request->output, std::cerr);
-    return WithOutputWritten(RunChartCommand(*request, WriteToStandardOutput, std::cerr));
+    if (request->help) return PrintAbout(kProgram, kUsage);
+    if (request->version) return PrintAbout(kProgram, "tolvanis-chart " TOLVANIS_VERSION "\n");
+    const HostTime time = {HostClock, HostDateTimeOrder()};
+    if (request->output) return RunChartCommandIntoFile(*request, *request->output, std::cerr, time);
+    return WithOutputWritten(RunChartCommand(*request, WriteToStandardOutput, std::cerr, time), kProgram);
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ class ZoneChecker : public EntryWriter {
     ZoneChecker(const ZoneBook& book, const Options& options, const Sink& output, std::ostream& errors)
         : EntryWriter(output, errors), book_(book), options_(options) {}
 
-    void Take(const NatalEntry& entry, const std::string& source) override {
+    void Take(const NamedBirth& birth) override {
+        const auto& [entry, source, placed] = birth;
         const auto chart = MakeChart(entry, kAnyLatitude, 1, options_);
         if (!chart) {
             for (const std::string& detail : chart.fault().Details()) Refuse(source, detail);
@@ -67,14 +68,14 @@ class ZoneChecker : public EntryWriter {
 }  // namespace
 
 ExitStatus CheckZones(const ChartRequest& request, const CommandData& data, const Sink& output,
-                      std::ostream& errors, Clock clock) {
+                      std::ostream& errors) {
     const Result<ZoneBook> book = ZoneBook::Open(data.files);
     if (!book) {
-        TellOn(errors, book.message());
+        TellOn(errors, "tolvanis-chart: " + book.message());
         return kSomethingRefused;
     }
     ZoneChecker checker(*book, data.options, output, errors);
-    ReadBirths(request, data.options, data.files, clock, checker);
+    ReadBirths(request, data, checker);
     return checker.status();
 }
 

@@ -13,6 +13,6 @@ namespace tolvanis {
 // Lists every record of the names file whose zone is not the one in force at its place, with the difference
 // that it makes to the Ascendant. kSomethingRefused when there are any, or a record cannot be read.
 ExitStatus CheckZones(const ChartRequest& request, const CommandData& data, const Sink& output,
-                      std::ostream& errors, Clock clock);
+                      std::ostream& errors);
 
 }  // namespace tolvanis

@@ -18,6 +18,12 @@ struct LocalTime {
 using Clock = std::time_t (*)();
 std::time_t HostClock();
 
+// What a program takes from its host: the clock, and the order in which its user writes dates and times.
+struct HostTime {
+    Clock clock;
+    DateTimeOrder order;
+};
+
 // A moment on a clock in the host's time zone, and on one that runs `hoursWest` hours behind Greenwich.
 LocalTime OnHostsClock(std::time_t moment);
 LocalTime OnClockOfZone(std::time_t moment, double hoursWest);

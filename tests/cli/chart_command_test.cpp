@@ -27,6 +27,8 @@ struct Outcome {
     std::string errors;
 };
 
+const HostTime kHost = {HostClock, {}};
+
 Outcome RunWith(std::vector<std::string_view> arguments, const Path& appDirectory = DELIVERED_DATA_DIR,
                 Clock clock = HostClock) {
     const std::string directory = appDirectory.string();
@@ -39,7 +41,7 @@ Outcome RunWith(std::vector<std::string_view> arguments, const Path& appDirector
         outcome.output += text;
         return true;
     };
-    outcome.status = RunChartCommand(*request, sink, errors, clock);
+    outcome.status = RunChartCommand(*request, sink, errors, {clock, {}});
     outcome.errors = errors.str();
     return outcome;
 }
@@ -181,7 +183,7 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
         const auto request = ParseCommandLine(std::vector<std::string_view>{
             "--names", names, "--app-dir", DELIVERED_DATA_DIR, "--format", "json"});
         std::ostringstream errors;
-        return std::pair{RunChartCommandIntoFile(*request, file, errors), errors.str()};
+        return std::pair{RunChartCommandIntoFile(*request, file, errors, kHost), errors.str()};
     };
     const auto [status, errors] = run("/no/such/file");
     EXPECT_EQ(status, kSomethingRefused);
@@ -190,7 +192,7 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
     const auto list = directory.Write("my.fil", "Zoe" + kRest);
     const auto itself = ParseCommandLine(std::vector<std::string_view>{"--names", list.native()});
     std::ostringstream told;
-    EXPECT_EQ(RunChartCommandIntoFile(*itself, directory / "my.fil", told), kSomethingRefused);
+    EXPECT_EQ(RunChartCommandIntoFile(*itself, directory / "my.fil", told, kHost), kSomethingRefused);
     EXPECT_THAT(told.str(), HasSubstr("would replace the names file"));
     EXPECT_EQ(FileContent(list), "Zoe" + kRest);
     EXPECT_EQ(run(DELIVERED_DATA_DIR "/NAMES.FIL").first, kAllComputed);
@@ -211,7 +213,7 @@ TEST(ChartCommand, ReportsFollowOneAnotherInPages) {
     std::string output;
     std::ostringstream errors;
     const Sink sink = [&](std::string_view text) { return !output.append(text).empty(); };
-    EXPECT_EQ(RunChartCommand(*request, sink, errors), kAllComputed) << errors.str();
+    EXPECT_EQ(RunChartCommand(*request, sink, errors, kHost), kAllComputed) << errors.str();
     const std::string data =
         "\n\n\n       22 SEP 1949    TZ = 5.0      9.05 A.M.   40.45 NORTH    73.59 WEST\n";
     std::string expected;
@@ -360,9 +362,9 @@ TEST(WheelCommand, ArgumentsAndBirths) {
     ASSERT_TRUE(wheel) << wheel.message();
     EXPECT_EQ(wheel->type, ChartType::European);
     EXPECT_EQ(wheel->size, 700);
-    EXPECT_EQ(PrepareWheel(*wheel)->chart.TitleLines[6], "Koch");
+    EXPECT_EQ(PrepareWheel(*wheel, kHost)->chart.TitleLines[6], "Koch");
     wheel->birth = "Ann,22 Sep 1949,9.05,A,5,073.59,70.45";
-    EXPECT_THAT(PrepareWheel(*wheel).message(), HasSubstr("--birth: "));
+    EXPECT_THAT(PrepareWheel(*wheel, kHost).message(), HasSubstr("--birth: "));
 }
 
 // Without --houses the options choose; the ring takes the orbs of the directory.
@@ -385,7 +387,7 @@ TEST(WheelCommand, TakesHousesAndOrbsFromTheDirectory) {
         "--wheel=a.svg", "--birth", kAnnSmith, "--app-dir", place, "--type", "ring"});
     ASSERT_TRUE(wheel) << wheel.message();
     EXPECT_EQ(wheel->type, ChartType::ZodiacRing);
-    const auto picture = PrepareWheel(*wheel);
+    const auto picture = PrepareWheel(*wheel, kHost);
     ASSERT_TRUE(picture) << picture.message();
     EXPECT_EQ(picture->chart.TitleLines[6], "Porphyry");
     EXPECT_EQ(picture->orbs[1], 3.5F);

@@ -10,10 +10,10 @@ namespace tolvanis {
 namespace {
 
 // Takes every entry and refuses none.
-class Receiver : public EntryReceiver {
+class Receiver : public BirthReceiver {
   public:
-    void Take(const NatalEntry& entry, const std::string&) override {
-        static_cast<void>(MakeChart(entry, Method{}, 1, Options{}));
+    void Take(const NamedBirth& birth) override {
+        static_cast<void>(MakeChart(birth.entry, Method{}, 1, Options{}));
     }
     void Refuse(const std::string&, const std::string& fault) override {
         Require(!fault.empty(), "a refusal has a reason");
@@ -37,7 +37,7 @@ void Fuzz(std::string_view input) {
     if (!request || request->namesFile || request->place || request->at)
         return;  // no file of this machine is read
     Receiver receiver;
-    ReadBirths(*request, Options{}, DataFiles(), HostClock, receiver);
+    ReadBirths(*request, CommandData{{}, {}, {HostClock, {}}, {}}, receiver);
 }
 
 }  // namespace tolvanis

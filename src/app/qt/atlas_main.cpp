@@ -28,12 +28,6 @@ int Fail(Messages& messages, const std::string& message) {
     return EXIT_FAILURE;
 }
 
-int Print(std::string_view text) {
-    if (WriteToStandardOutput(text) && FlushStandardOutput()) return EXIT_SUCCESS;
-    TellOn(std::cerr, "tolvanis-atlas: cannot write to standard output");
-    return EXIT_FAILURE;
-}
-
 // The exchange file in the directory that PCATPATH.TXT of the present directory names, or in that itself.
 Path ExchangeFile() {
     LineReader reader(kAtlasPathFile);
@@ -49,8 +43,9 @@ int main(int argc, char** argv) {
     OutliveFileSizeLimits();
     if (argc > 1) {
         const std::string_view argument = argv[1];
-        if (argument == "--help" || argument == "-h") return Print(kUsage);
-        if (argument == "--version") return Print("tolvanis-atlas " TOLVANIS_VERSION "\n");
+        if (argument == "--help" || argument == "-h") return PrintAbout("tolvanis-atlas", kUsage);
+        if (argument == "--version")
+            return PrintAbout("tolvanis-atlas", "tolvanis-atlas " TOLVANIS_VERSION "\n");
         TellOn(std::cerr, "tolvanis-atlas: unknown argument \"" + std::string(argument) + "\"\n\n" + kUsage);
         return kWrongUsage;
     }

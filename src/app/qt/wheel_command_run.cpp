@@ -19,13 +19,14 @@ ExitStatus Refuse(const std::string& fault) {
 
 }  // namespace
 
-ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments) {
+ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, const HostTime& time,
+                           char** programArguments) {
     const Result<WheelArguments> wheel = ParseWheelArguments(arguments);
     if (!wheel) {
         TellOn(std::cerr, "tolvanis: " + wheel.message() + "\n\n" + std::string(kDesktopUsage));
         return kWrongUsage;
     }
-    const Result<WheelPicture> picture = PrepareWheel(*wheel);
+    const Result<WheelPicture> picture = PrepareWheel(*wheel, time);
     if (!picture) return Refuse(picture.message());
     for (const std::string& note : picture->notes) TellOn(std::cerr, "tolvanis: " + note);
     qputenv("QT_QPA_PLATFORM", "offscreen");

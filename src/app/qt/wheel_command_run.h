@@ -11,6 +11,7 @@ namespace tolvanis {
 
 // Does what the arguments ask for without opening a window or needing a display. Faults go to standard error.
 // `programArguments` are those of main().
-ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, char** programArguments);
+ExitStatus RunWheelCommand(std::span<const std::string_view> arguments, const HostTime& time,
+                           char** programArguments);
 
 }  // namespace tolvanis
