@@ -267,8 +267,7 @@ TEST_F(DrawingTest, SmallPicturesLeaveOutMinutes) {
 }
 
 TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
-    OrbTable orbs{};
-    orbs.fill(-1.0F);
+    OrbTable orbs = NoOrbs();
     orbs[1] = 2.0F;
     orbs[3] = 1.0F;   // square
     orbs[13] = 3.0F;  // quintile
@@ -327,8 +326,7 @@ TEST_F(DrawingTest, RingShowsDegreesTrueAnglesAndAllAspectsOfTheOrbsFile) {
 
 // The glyph of an aspect stands in the middle of its line, on a disc that clears the lines behind it.
 TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
-    OrbTable orbs{};
-    orbs.fill(-1.0F);
+    OrbTable orbs = NoOrbs();
     orbs[3] = 1.0F;
     chart = SpreadChart(0.0);
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
@@ -355,8 +353,7 @@ TEST_F(DrawingTest, RingAspectsHaveTheirGlyphsOnClearedDiscs) {
 // In the middle of its cell or from a corner of it, an aspect's letter stays in the row of one point and the
 // column of the other.
 TEST_F(DrawingTest, GridAspectsStandInTheirCells) {
-    OrbTable orbs{};
-    orbs.fill(-1.0F);
+    OrbTable orbs = NoOrbs();
     orbs[3] = 1.0F;
     for (int point = 1; point <= kChartPointCount; ++point) Put(chart, point, 3.0 + 17.3 * point);
     Put(chart, kSun, 130.0);

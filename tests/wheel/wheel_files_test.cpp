@@ -87,16 +87,13 @@ TEST(AspectList, SeptileAndOppositionAtTheirBounds) {
         std::size_t slot;
         float orb;
         int code;
-    } cases[] = {{51.5, 16, 0.1F, kSeptile},
-                 {52.0, 16, 0.1F, kNoAspect},
-                 {178.0, 5, 2.0F, kOpposition},
-                 {177.9, 5, 2.0F, kNoAspect},
-                 {144.0, 15, 0.0F, kBiQuintile}};
+    } cases[] = {{51.5, 16, 0.1F, kSeptile},  {52.0, 16, 0.1F, kNoAspect},   {178.0, 5, 2.0F, kOpposition},
+                 {177.9, 5, 2.0F, kNoAspect}, {180.0, 5, 0.0F, kOpposition}, {144.0, 15, 0.0F, kBiQuintile}};
     for (const auto& c : cases) {
         WheelSnapshot chart;
         chart.PointLongitude[kMoon] = c.separation;
-        OrbTable orbs{};
-        orbs.fill(-1.0F);
+        OrbTable orbs = NoOrbs();
+        EXPECT_EQ(ListAspects(chart, orbs).size(), 0u) << c.separation;
         orbs[c.slot] = c.orb;
         const auto aspects = ListAspects(chart, orbs);
         const auto moon = std::ranges::find(aspects, kMoon, &ListedAspect::first);

@@ -164,7 +164,7 @@ void WheelCanvas::keyPressEvent(QKeyEvent* event) {
             return GoTo(current_ + 1);
         case Qt::Key_Left:
         case Qt::Key_Up:
-            return GoTo(current_ - 1);
+            return GoTo(qMax(current_, 0) - 1);
         case Qt::Key_Home:
             return GoTo(0);
         case Qt::Key_End:

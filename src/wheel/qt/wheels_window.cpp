@@ -92,8 +92,7 @@ void Wheels::Describe() {
 // A file that cannot be read is told where the user asks for its aspects, not here.
 void Wheels::ReadOrbs() {
     OrbTable orbs{};
-    if (!ReadOrbsFile(orbsFile_, orbs)) orbs.fill(-1.0F);
-    orbs_ = orbs;
+    orbs_ = ReadOrbsFile(orbsFile_, orbs) ? orbs : NoOrbs();
     Describe();
     canvas_->update();
 }
@@ -185,7 +184,7 @@ void Wheels::PrintFullPage() {
                      .personalLines = ReadPersonalLines(context_.personalBlock, context_.options)};
     if (const Result<void> read = ReadOrbsFile(orbsFile_, page.orbs); !read) {
         context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Warning);
-        page.orbs = {};
+        page.orbs = NoOrbs();
     }
     PrintDocument(context_.printing, DocumentName(), [&](QPagedPaintDevice& device, QPainter& painter) {
         const Hourglass hourglass;

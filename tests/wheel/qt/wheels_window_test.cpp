@@ -46,6 +46,11 @@ struct WheelsTest : ::testing::Test {
         }
         ASSERT_TRUE(LoadSymbolFont(DataFiles(directory.path())));
     }
+    Path WriteNoOrbs(const char* name) {
+        std::string lines;
+        for (int slot = 1; slot < kOrbSlotCount; ++slot) lines += "-1\r\n";
+        return directory.Write(name, lines);
+    }
     static QAction& Item(Wheels& wheels, const char* name) { return Find<QAction>(wheels, name); }
 };
 
@@ -97,9 +102,7 @@ TEST_F(WheelsTest, AspectWindowIsRebuiltFromTheSelectedOrbs) {
     Item(wheels, "mnuAspects").trigger();
     const auto text = [&] { return wheels.aspectWindow()->findChild<QPlainTextEdit*>()->toPlainText(); };
     EXPECT_TRUE(text().startsWith(QString::fromStdString("  " + PointGlyph(kSun) + " ")));
-    std::string noOrbs;
-    for (int i = 0; i < 16; ++i) noOrbs += "-1\r\n";
-    dialogs.answer = directory.Write("NONE.ORB", noOrbs).string();
+    dialogs.answer = WriteNoOrbs("NONE.ORB").string();
     Item(wheels, "mnuOrbsChange").trigger();
     EXPECT_EQ(text(), QString());
     dialogs.answer.clear();
@@ -302,13 +305,17 @@ TEST_F(WheelsTest, PicturesShowWhatIsDrawn) {
     }
 }
 
-// The rectangle of a printed page that holds ink, in shares of the page.
-QRectF InkOfPage(const Path& pdf) {
+QImage PictureOfPage(const Path& pdf) {
     const QString picture = QString::fromStdString(pdf.string()) + QStringLiteral(".page");
     QProcess::execute(QStringLiteral("pdftoppm"),
                       {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
                        QStringLiteral("50"), QString::fromStdString(pdf.string()), picture});
-    const QImage page(picture + QStringLiteral(".png"));
+    return QImage(picture + QStringLiteral(".png"));
+}
+
+// The rectangle of a printed page that holds ink, in shares of the page.
+QRectF InkOfPage(const Path& pdf) {
+    const QImage page = PictureOfPage(pdf);
     QRect ink;
     for (int y = 0; y < page.height(); ++y) {
         for (int x = 0; x < page.width(); ++x) {
@@ -339,6 +346,44 @@ TEST_F(WheelsTest, PrintsFillTheirPageOrItsUpperHalf) {
         EXPECT_GT(half.height(), 0.3);
         EXPECT_GT(half.left(), 0.02);
         EXPECT_LT(half.right(), 0.98);
+    }
+}
+
+// A page without orbs shows no aspect, not even that of the nodes, which are always opposite.
+TEST_F(WheelsTest, PrintsNoAspectsWithoutOrbs) {
+    const Path file = directory / "wheel.pdf";
+    const auto print = [&] {
+        Wheels wheels(chart, context, 2);
+        dialogs.answer = file.string();
+        messages.answers = {Answer::Yes};
+        Item(wheels, "mnuPrintChartwheel").trigger();
+        return PictureOfPage(file);
+    };
+    const QImage usual = print();
+    WriteNoOrbs("NATAL.ORB");
+    const QImage bare = print();
+    EXPECT_NE(bare, usual);
+    EXPECT_EQ(messages.told.size(), 0u);
+    std::filesystem::remove(directory / "NATAL.ORB");
+    EXPECT_EQ(print(), bare);
+    EXPECT_EQ(messages.told.size(), 1u) << "the file that cannot be read is told";
+}
+
+TEST_F(WheelsTest, TheFirstKeyGoesToTheFirstOrTheLastPoint) {
+    constexpr int kLast = kChartPointCount - 1;
+    for (const auto& [key, index] : {std::pair{Qt::Key_Tab, 0},
+                                     {Qt::Key_Right, 0},
+                                     {Qt::Key_Down, 0},
+                                     {Qt::Key_Home, 0},
+                                     {Qt::Key_Left, kLast},
+                                     {Qt::Key_Up, kLast},
+                                     {Qt::Key_End, kLast}}) {
+        Wheels wheels(chart, context, 2);
+        auto& canvas = Find<WheelCanvas>(wheels, "canvas");
+        canvas.grab();
+        ASSERT_EQ(canvas.current(), -1);
+        QTest::keyClick(&canvas, key);
+        EXPECT_EQ(canvas.current(), index) << key;
     }
 }
 
