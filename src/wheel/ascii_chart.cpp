@@ -60,16 +60,27 @@ struct StarRow {
     int count;
 };
 constexpr std::array kStars = {
-    StarRow{{13, 8}, {0, 1}, 18},   StarRow{{13, 43}, {0, 1}, 19},  // axis across
-    StarRow{{2, 34}, {1, 0}, 9},    StarRow{{16, 34}, {1, 0}, 9},   // axis down
-    StarRow{{12, 25}, {2, 0}, 2},   StarRow{{12, 43}, {2, 0}, 2},   // box
-    StarRow{{10, 31}, {0, 1}, 2},   StarRow{{16, 31}, {0, 1}, 2},   //
-    StarRow{{10, 36}, {0, 1}, 2},   StarRow{{16, 36}, {0, 1}, 2},   //
-    StarRow{{11, 26}, {-1, -4}, 6}, StarRow{{10, 29}, {-1, -3}, 9},
-    StarRow{{15, 26}, {1, -4}, 6},  // diagonals
-    StarRow{{16, 29}, {1, -3}, 9},  StarRow{{11, 42}, {-1, 4}, 6},
-    StarRow{{10, 39}, {-1, 3}, 9},  //
-    StarRow{{15, 42}, {1, 4}, 6},   StarRow{{16, 39}, {1, 3}, 9},
+    // Axes, across and down.
+    StarRow{{13, 8}, {0, 1}, 18},
+    StarRow{{13, 43}, {0, 1}, 19},
+    StarRow{{2, 34}, {1, 0}, 9},
+    StarRow{{16, 34}, {1, 0}, 9},
+    // Box.
+    StarRow{{12, 25}, {2, 0}, 2},
+    StarRow{{12, 43}, {2, 0}, 2},
+    StarRow{{10, 31}, {0, 1}, 2},
+    StarRow{{16, 31}, {0, 1}, 2},
+    StarRow{{10, 36}, {0, 1}, 2},
+    StarRow{{16, 36}, {0, 1}, 2},
+    // Diagonals.
+    StarRow{{11, 26}, {-1, -4}, 6},
+    StarRow{{10, 29}, {-1, -3}, 9},
+    StarRow{{15, 26}, {1, -4}, 6},
+    StarRow{{16, 29}, {1, -3}, 9},
+    StarRow{{11, 42}, {-1, 4}, 6},
+    StarRow{{10, 39}, {-1, 3}, 9},
+    StarRow{{15, 42}, {1, 4}, 6},
+    StarRow{{16, 39}, {1, 3}, 9},
 };
 
 class AsciiGrid {

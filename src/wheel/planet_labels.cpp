@@ -8,7 +8,6 @@
 #include "text/numbers.h"
 #include "wheel/position_label.h"
 #include "wheel/symbols.h"
-#include "wheel/zodiac_ring.h"
 
 namespace tolvanis {
 namespace {
@@ -40,6 +39,14 @@ LabelSteps MeasureSteps(const WheelPlan& plan, const TextMeasure& measure, doubl
     steps.glyph.height /= form.heightRatio;
     steps.digit.height /= form.heightRatio;
     return steps;
+}
+
+// Of the glyph's centre; the table gives that of its upper left corner.
+double GlyphRadius(const WheelPlan& plan, const Cell& glyph, double angle) {
+    if (plan.type == ChartType::ZodiacRing) return kRingGlyphRadius;
+    const SinCos ray = SinCosDeg(angle);
+    const auto degree = static_cast<std::size_t>(RoundToInt16(angle));
+    return plan.data.radius[degree] + glyph.width / 2 * ray.cos - glyph.height / 2 * ray.sin;
 }
 
 bool ReadsInwards(const WheelPlan& plan, const PlacedGlyph& glyph) {
@@ -89,7 +96,7 @@ std::vector<LabelPart> LabelItems(const WheelPlan& plan, const PlacedGlyph& glyp
         items = {std::move(degrees), std::move(sign), std::move(minutes)};
     }
     if (!ReadsInwards(plan, glyph)) std::ranges::reverse(items);
-    if (glyph.point <= kMoon && plan.chart.IsRetrograde[glyph.point]) {
+    if (plan.chart.IsRetrograde[glyph.point]) {
         items.push_back(
             {"R", {SizeOf(plan.options, form.retrogradeSize)}, plan.TextColour(form.retrogradeColour)});
     }
@@ -142,7 +149,7 @@ void Build(const WheelPlan& plan, const TextMeasure& measure, Fitted& fitted) {
     const Fit& fit = kFits[fitted.fit];
     const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
     const SinCos ray = SinCosDeg(glyph.angle);
-    double radius = GlyphRadius(plan, measure, glyph.angle);
+    double radius = GlyphRadius(plan, steps.glyph, glyph.angle);
     const TextFont glyphFont{SizeOf(plan.options, plan.form.planetSize) * kGlyphSizes[fitted.glyphSize]};
     std::vector<WheelText>& texts = fitted.label.texts;
     texts = {CentredText(measure, OnWheel(glyph.angle, radius), PointGlyph(glyph.point), glyphFont,
@@ -283,14 +290,6 @@ class LabelCrowd {
 };
 
 }  // namespace
-
-double GlyphRadius(const WheelPlan& plan, const TextMeasure& measure, double angle) {
-    if (plan.type == ChartType::ZodiacRing) return kRingGlyphRadius;
-    const LabelSteps steps = MeasureSteps(plan, measure, angle);
-    const SinCos ray = SinCosDeg(angle);
-    const auto degree = static_cast<std::size_t>(RoundToInt16(angle));
-    return plan.data.radius[degree] + steps.glyph.width / 2 * ray.cos - steps.glyph.height / 2 * ray.sin;
-}
 
 std::vector<PlanetLabel> PlanetLabels(const WheelPlan& plan, const TextMeasure& measure,
                                       std::span<const PlacedGlyph> glyphs) {

@@ -11,9 +11,6 @@ struct PlanetLabel {
     std::optional<LineSpan> leader{};  // from the glyph to its position, where that stands further inwards
 };
 
-// The glyph stands with its centre at this radius: the table gives that of its upper left corner.
-double GlyphRadius(const WheelPlan& plan, const TextMeasure& measure, double angle);
-
 // The labels of all drawn glyphs. The items (degrees, sign, minutes, retrograde mark) follow each other
 // inwards along the glyph's ray, so that the text reads degrees, sign, minutes from left to right on both
 // sides; a number is always whole and upright. Labels that would touch each other or the inner circle draw

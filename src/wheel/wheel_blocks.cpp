@@ -132,12 +132,11 @@ std::vector<Cell> HeadingCells(const PointColumns& columns, double size) {
 std::vector<Cell> PointCells(const WheelSnapshot& chart, int point, const PointColumns& columns,
                              double size) {
     const ZodiacPlace place = SplitZodiac(chart.PointLongitude[point]);
-    const bool isRetrograde = point <= kMoon && chart.IsRetrograde[point];
     return {{0.0, PointGlyph(point), {size}},
             {columns.degrees, TwoDigits(place.degrees), {size, true}},
             {columns.sign, SignGlyph(place.sign), {size * 0.95}},
             {columns.minutes, TwoDigits(place.minutes), {size}},
-            {columns.mark, isRetrograde ? "R" : "", {size}},
+            {columns.mark, chart.IsRetrograde[point] ? "R" : "", {size}},
             {columns.declinationEnd, FormatDeclination(chart.PointDeclination[point]), {size}, Align::Right},
             {columns.width, std::to_string(chart.PointHouse[point]), {size}, Align::Right}};
 }

@@ -27,7 +27,7 @@ Result<void> ReadTable(const Path& path, std::span<std::int16_t> table, std::siz
     for (std::string line; count < table.size() && reader.Next(line);) {
         count += TakeNumbers(line, table.subspan(count));
     }
-    if (reader.HasFault()) return Fault{path.string() + " cannot be read: " + reader.fault()};
+    if (reader.HasFault()) return CannotRead(path, reader.fault());
     if (count < needed) {
         return Fault{path.string() + " holds " + std::to_string(count) + " numbers; the wheel needs " +
                      std::to_string(needed) + "."};

@@ -27,8 +27,8 @@ struct WheelData {
     std::array<std::int16_t, 361> radius{};
 };
 
-// Reads both files: integers separated by line ends or commas, read up to the
-// end of the table. A fault names the file that cannot be read, or that holds too few numbers.
+// Reads both files: integers separated by line ends or commas, read up to the end of the table. A fault names
+// the file that cannot be read, or that holds too few numbers.
 Result<WheelData> ReadWheelData(const DataFiles& files);
 
 }  // namespace tolvanis

@@ -20,6 +20,14 @@ inline constexpr double kOuterRadius = 217.0;
 inline constexpr double kInnerRadius = 120.0;
 inline constexpr double kSignRadius = 236.0;
 
+// Radii of the zodiac ring, from outside, within the outer circle: the band of the signs, the degrees, the
+// planets, the house numbers, the aspects.
+inline constexpr double kRingBandRadius = 193.0;  // inner edge of the signs' band, outer of the degrees
+inline constexpr double kRingScaleRadius = 185.0;
+inline constexpr double kRingGlyphRadius = 167.0;
+inline constexpr double kRingInnerRadius = 110.0;
+inline constexpr double kRingAspectRadius = 97.0;
+
 // The colour of a sign's element: fire red, earth green, air brown, water blue; legible on the ground.
 int ElementColour(int sign, int ground);
 

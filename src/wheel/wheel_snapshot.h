@@ -17,8 +17,8 @@ struct WheelSnapshot {
     PerPoint<double> PointLongitude;  // degrees, 0 <= x < 360
     tolvanis::HouseCusps HouseCusps;
     PerPoint<double> PointDeclination;
-    PerPoint<int> PointHouse;  // 1 to 12
-    PerPoint<bool> IsRetrograde;
+    PerPoint<int> PointHouse;     // 1 to 12
+    PerPoint<bool> IsRetrograde;  // of Mercury to Pluto only
     std::array<std::string, kTitleLineCount> TitleLines;
 };
 

@@ -95,11 +95,6 @@ double NearestToCentre(const Extent& box) {
     return std::hypot(x, y);
 }
 
-double FarthestFromCentre(const Extent& box) {
-    return std::hypot(std::max(std::abs(box.left), std::abs(box.right)),
-                      std::max(std::abs(box.top), std::abs(box.bottom)));
-}
-
 std::vector<LineSpan> Interrupted(const LineSpan& line, std::span<const std::vector<WheelText>> labels,
                                   const TextMeasure& measure) {
     constexpr double kClear = 0.8;

@@ -40,9 +40,8 @@ WheelText CentredText(const TextMeasure& measure, Point centre, std::string text
 // The point at a wheel angle and radius.
 Point OnWheel(double angle, double radius);
 
-// The nearest and the farthest that a rectangle comes to the wheel's centre.
+// The nearest that a rectangle comes to the wheel's centre.
 double NearestToCentre(const Extent& box);
-double FarthestFromCentre(const Extent& box);
 
 // What remains of a line from the centre outwards where texts stand on it: each label, a group of texts,
 // takes away the piece from its first text that the line meets to its last.

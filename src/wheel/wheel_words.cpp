@@ -50,17 +50,13 @@ std::string ArcText(double degrees) {
     return std::to_string(minutes / 60) + "\xC2\xB0" + TwoDigits(minutes % 60) + "'";
 }
 
-bool IsRetrograde(const WheelSnapshot& chart, int point) {
-    return point <= kMoon && chart.IsRetrograde[point];
-}
-
 }  // namespace
 
 std::string PointInWords(const WheelRequest& request, int point) {
     const WheelSnapshot& chart = request.chart;
     std::string words = std::string(PointName(point)) + " " + PlaceInWords(chart.PointLongitude[point]) +
                         ", house " + std::to_string(chart.PointHouse[point]);
-    if (IsRetrograde(chart, point)) words += ", retrograde";
+    if (chart.IsRetrograde[point]) words += ", retrograde";
     words += ".";
     bool isFirst = true;
     for (const Partner& partner : PartnersOf(request, point)) {
@@ -74,7 +70,7 @@ std::string PointInWords(const WheelRequest& request, int point) {
 std::string PointTip(const WheelRequest& request, int point) {
     const WheelSnapshot& chart = request.chart;
     std::string tip = std::string(PointName(point)) + "  " + PlaceInWords(chart.PointLongitude[point]);
-    if (IsRetrograde(chart, point)) tip += "  R";
+    if (chart.IsRetrograde[point]) tip += "  R";
     tip += "\nHouse " + std::to_string(chart.PointHouse[point]) + ", declination " +
            FormatDeclination(chart.PointDeclination[point]);
     for (const Partner& partner : PartnersOf(request, point)) {

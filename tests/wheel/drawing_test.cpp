@@ -175,7 +175,7 @@ TEST_F(DrawingTest, LabelsReadDegreesSignMinutesAllTheWayRound) {
         for (const float leftLabels : {0.0F, 1.0F}) {
             options[28] = leftLabels;
             chart = SpreadChart(7.2);
-            chart.IsRetrograde[kMars] = chart.IsRetrograde[kNorthNode] = true;
+            chart.IsRetrograde[kMars] = true;
             const WheelPlan plan{chart, data, options, kScreenForm, type, WindowExtent(1, 1)};
             const auto glyphs = PlaceGlyphs(chart, type);
             for (const PlanetLabel& label : PlanetLabels(plan, surface, glyphs)) {

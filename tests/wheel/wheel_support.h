@@ -1,6 +1,8 @@
 #pragma once
 // Charts made by hand and a surface that records what is drawn on it.
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -53,6 +55,12 @@ inline WheelData DeliveredWheelData() {
     const auto data = ReadWheelData(DataFiles(DELIVERED_DATA_DIR));
     EXPECT_TRUE(data) << data.message();
     return data ? *data : WheelData{};
+}
+
+// The farthest that a rectangle comes from the wheel's centre.
+inline double FarthestFromCentre(const Extent& box) {
+    return std::hypot(std::max(std::abs(box.left), std::abs(box.right)),
+                      std::max(std::abs(box.top), std::abs(box.bottom)));
 }
 
 // Every character is 0.6 of the size wide and 0.7 high, in a cell of 1.2.
