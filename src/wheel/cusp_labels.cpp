@@ -64,7 +64,7 @@ void AddRow(const LabelRow& row, Point start, const TextMeasure& measure, std::v
     }
 }
 
-Extent BoxOf(const LabelRow& row, Point start) {
+Box BoxOf(const LabelRow& row, Point start) {
     return {start.x, start.y + row.height / 2, start.x + row.width, start.y - row.height / 2};
 }
 
@@ -74,7 +74,7 @@ double RowShift(double angle) {
     return angle > 100.0 && angle < 260.0 ? 49.0 : 0.0;
 }
 
-Extent Around(const LineSpan& line) {
+Box Around(const LineSpan& line) {
     return {std::min(line.from.x, line.to.x), std::max(line.from.y, line.to.y),
             std::max(line.from.x, line.to.x), std::min(line.from.y, line.to.y)};
 }
@@ -84,13 +84,14 @@ constexpr double kLabelGap = 2.5;   // between a label and other texts
 constexpr double kMostOutwards = 75.0;
 constexpr double kMostAside = 150.0;
 
-double SeenAt(const Extent& box) {
-    return DirectionDeg((box.left + box.right) / 2, (box.top + box.bottom) / 2);
+double SeenAt(const Box& box) {
+    const auto [x, y] = box.Middle();
+    return DirectionDeg(x, y);
 }
 
 // From the end of a house line to a label that does not stand at it, in short pieces that wind outwards and
 // so never enter the circle. Empty when the label stands at the line.
-std::vector<LineSpan> LeaderTo(double angle, const Extent& box) {
+std::vector<LineSpan> LeaderTo(double angle, const Box& box) {
     constexpr double kNear = 9.0;
     constexpr double kClear = 1.2;
     constexpr double kPiece = 3.0;  // degrees
@@ -117,12 +118,12 @@ struct Standing {
     struct Label {
         double cusp, seen;
     };
-    std::vector<Extent> taken;
+    std::vector<Box> taken;
     std::vector<LineSpan> leaders;
     std::vector<Label> labels;
 
-    bool IsFree(const Extent& box, double gap) const {
-        return std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(box, other, gap); });
+    bool IsFree(const Box& box, double gap) const {
+        return std::ranges::none_of(taken, [&](const Box& other) { return Overlap(box, other, gap); });
     }
     // Whether a label seen at `seen` would stand among the others as its cusp does among theirs.
     bool KeepsOrder(double cusp, double seen) const {
@@ -132,9 +133,9 @@ struct Standing {
         });
     }
     // Whether neither the leader meets a text nor the box another's leader.
-    bool IsClear(const std::vector<LineSpan>& leader, const Extent& box) const {
+    bool IsClear(const std::vector<LineSpan>& leader, const Box& box) const {
         constexpr double kClear = 1.0;
-        const auto meets = [&](const Extent& other) {
+        const auto meets = [&](const Box& other) {
             return std::ranges::any_of(leader,
                                        [&](const LineSpan& line) { return Crosses(line, other, kClear); });
         };
@@ -162,7 +163,7 @@ std::optional<Point> FindRowPlace(const LabelRow& row, double angle, const Stand
     const SinCos ray = SinCosDeg(angle);
     const double shift = RowShift(angle) * demand.size;
     constexpr double kStep = 2.0;
-    const auto isPlace = [&](const Extent& box) {
+    const auto isPlace = [&](const Box& box) {
         if (!Inside(box, surface, kLabelGap) || NearestToCentre(box) < kOuterRadius + kCircleGap)
             return false;
         if (!standing.IsFree(box, kLabelGap)) return false;
@@ -197,7 +198,7 @@ Point AnyFreePlace(const LabelRow& row, double angle, const Standing& standing, 
     double bestDistance = std::numeric_limits<double>::max();
     for (double y = surface.bottom; y <= surface.top; y += kGrid) {
         for (double x = surface.left; x <= surface.right; x += kGrid) {
-            const Extent box = BoxOf(row, {x, y});
+            const Box box = BoxOf(row, {x, y});
             const double distance = std::hypot(x - end.x, y - end.y);
             if (distance >= bestDistance || NearestToCentre(box) < kOuterRadius + kCircleGap) continue;
             if (!Inside(box, surface, 1.0) || !standing.IsFree(box, 0.5)) continue;
@@ -222,7 +223,7 @@ void PlaceRow(const WheelPlan& plan, const TextMeasure& measure, int position, S
     }
     if (!start) start = AnyFreePlace(row, angle, standing, plan.surface);
     AddRow(row, *start, measure, rows.texts);
-    const Extent box = BoxOf(row, *start);
+    const Box box = BoxOf(row, *start);
     const std::vector<LineSpan> leader = LeaderTo(angle, box);
     rows.leaders.insert(rows.leaders.end(), leader.begin(), leader.end());
     standing.leaders = rows.leaders;
@@ -241,7 +242,7 @@ std::vector<WheelText> TableCuspLabels(const WheelPlan& plan) {
     return texts;
 }
 
-CuspLabelRows CuspLabels(const WheelPlan& plan, const TextMeasure& measure, std::span<const Extent> taken) {
+CuspLabelRows CuspLabels(const WheelPlan& plan, const TextMeasure& measure, std::span<const Box> taken) {
     CuspLabelRows rows;
     if (plan.type == ChartType::American) return rows;
     Standing standing{{taken.begin(), taken.end()}, {}, {{180.0, 180.0}, {0.0, 0.0}}};

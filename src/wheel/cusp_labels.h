@@ -16,6 +16,6 @@ struct CuspLabelRows {
 
 // The labels that stand in a row beside the end of their house line, as near to it as what is `taken` (signs,
 // table labels, title) and each other allow: first beside it, then further out; never where something stands.
-CuspLabelRows CuspLabels(const WheelPlan& plan, const TextMeasure& measure, std::span<const Extent> taken);
+CuspLabelRows CuspLabels(const WheelPlan& plan, const TextMeasure& measure, std::span<const Box> taken);
 
 }  // namespace tolvanis

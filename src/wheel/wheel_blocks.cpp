@@ -165,8 +165,8 @@ int GridColour(const Options& options, int code) {
                     kFirstGridColourOption + kFamilies[static_cast<std::size_t>(code - kConjunction)]);
 }
 
-std::vector<Extent> AspectGridBlock::Rows() const {
-    std::vector<Extent> rows;
+std::vector<Box> AspectGridBlock::Rows() const {
+    std::vector<Box> rows;
     for (int row = 1; row <= kChartPointCount; ++row) {
         rows.push_back(
             {look_.corner.x, RowTop(row), look_.corner.x + row * look_.cellWidth, RowTop(row + 1)});

@@ -32,7 +32,7 @@ class AspectGridBlock {
     AspectGridBlock(const BlockSource& source, const Look& look) : source_(source), look_(look) {}
 
     // The ground that each row covers.
-    std::vector<Extent> Rows() const;
+    std::vector<Box> Rows() const;
     void Draw(DrawingSurface& surface) const;
 
   private:
@@ -52,7 +52,7 @@ struct TextBlock {
     double width = 0.0;
     double height = 0.0;
 
-    Extent At(Point corner) const { return {corner.x, corner.y, corner.x + width, corner.y - height}; }
+    Box At(Point corner) const { return {corner.x, corner.y, corner.x + width, corner.y - height}; }
     void Draw(DrawingSurface& surface, Point corner, int ruleColour) const;
 };
 

@@ -53,9 +53,9 @@ void DrawAspects(DrawingSurface& surface, const WheelPlan& plan, std::span<const
     // Each glyph stands in a gap of the background, so that no line runs through it.
     const int background = plan.Background();
     for (const WheelText& text : AspectGlyphs(plan, surface, lines)) {
-        const Extent ink = InkOf(text, surface);
-        const double radius = std::max(ink.right - ink.left, ink.top - ink.bottom) / 2 + 1.0;
-        surface.Disc({(ink.left + ink.right) / 2, (ink.top + ink.bottom) / 2}, radius, background);
+        const Box ink = InkOf(text, surface);
+        const double radius = std::max(ink.Width(), ink.Height()) / 2 + 1.0;
+        surface.Disc(ink.Middle(), radius, background);
         surface.Text(text.corner, text.text, text.font, text.colour);
     }
 }
@@ -67,8 +67,8 @@ struct CornerBlocks {
     TextBlock elements;
     Point elementsCorner;
 
-    std::vector<Extent> Taken() const {
-        std::vector<Extent> taken = grid.Rows();
+    std::vector<Box> Taken() const {
+        std::vector<Box> taken = grid.Rows();
         taken.push_back(elements.At(elementsCorner));
         return taken;
     }
@@ -135,9 +135,9 @@ WheelPlan PlanFor(const WheelRequest& request) {
 }
 
 WheelParts LayOutWheel(const WheelPlan& plan, const TextMeasure& measure, TitlePlace title,
-                       std::span<const Extent> taken) {
+                       std::span<const Box> taken) {
     WheelParts parts;
-    std::vector<Extent> busy(taken.begin(), taken.end());
+    std::vector<Box> busy(taken.begin(), taken.end());
     const auto take = [&](const std::vector<WheelText>& texts) {
         for (const WheelText& text : texts) busy.push_back(InkOf(text, measure));
     };
@@ -181,7 +181,7 @@ std::vector<DrawnPoint> DrawWheel(DrawingSurface& surface, const WheelRequest& r
     surface.Clear(plan.Background());
     const std::optional<CornerBlocks> corners = FitCornerBlocks(plan, surface);
     const WheelParts parts = LayOutWheel(plan, surface, {kTitleIndent, plan.surface.top - kTitleTop},
-                                         corners ? corners->Taken() : std::vector<Extent>());
+                                         corners ? corners->Taken() : std::vector<Box>());
     DrawParts(surface, plan, parts);
     if (corners) corners->Draw(surface, plan);
     std::vector<DrawnPoint> points;

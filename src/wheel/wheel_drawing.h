@@ -36,7 +36,7 @@ WheelPlan PlanFor(const WheelRequest& request);
 // Where a point's glyph was drawn.
 struct DrawnPoint {
     int point = kSun;
-    Extent ink;
+    Box ink;
 };
 // The points that were drawn, from the Ascendant around the wheel.
 std::vector<DrawnPoint> DrawWheel(DrawingSurface& surface, const WheelRequest& request);
@@ -55,7 +55,7 @@ struct TitlePlace {
 };
 // `taken` is where other things will stand.
 WheelParts LayOutWheel(const WheelPlan& plan, const TextMeasure& measure, TitlePlace title,
-                       std::span<const Extent> taken);
+                       std::span<const Box> taken);
 void DrawParts(DrawingSurface& surface, const WheelPlan& plan, const WheelParts& parts);
 
 }  // namespace tolvanis

@@ -95,7 +95,7 @@ std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type) {
 }
 
 std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure,
-                                     std::span<const Extent> taken) {
+                                     std::span<const Box> taken) {
     constexpr double kSlide = 0.5;  // degrees from one try to the next
     constexpr double kMostSlide = 14.0;
     const TextFont font{SizeOf(plan.options, plan.form.signRingSize), true};
@@ -107,11 +107,11 @@ std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& m
         place.x += leftHalf ? kSignCell / 2 - kSignCell : kSignCell / 2;
         return CentredText(measure, place, SignGlyph(mark.sign), font, plan.SignColour(mark.sign));
     };
-    std::vector<Extent> busy(taken.begin(), taken.end());
+    std::vector<Box> busy(taken.begin(), taken.end());
     const auto isFree = [&](const WheelText& text) {
-        const Extent ink = InkOf(text, measure);
+        const Box ink = InkOf(text, measure);
         return Inside(ink, plan.surface) &&
-               std::ranges::none_of(busy, [&](const Extent& other) { return Overlap(ink, other, 1.0); });
+               std::ranges::none_of(busy, [&](const Box& other) { return Overlap(ink, other, 1.0); });
     };
     std::vector<WheelText> texts;
     for (const SignMark& mark : SignRing(plan.chart.HouseCusps, plan.type)) {
@@ -127,7 +127,7 @@ std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& m
 }
 
 std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& measure, double indent,
-                                  double top, std::span<const Extent> taken) {
+                                  double top, std::span<const Box> taken) {
     constexpr double kClear = 2.0;
     constexpr double kSmallest = 0.66;  // of the size in the options
     const double fullSize = SizeOf(plan.options, plan.form.titleSize);
@@ -141,9 +141,9 @@ std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& meas
         return texts;
     };
     const auto fits = [&](const WheelText& text) {
-        const Extent ink = InkOf(text, measure);
+        const Box ink = InkOf(text, measure);
         return ink.right <= plan.surface.right - kClear &&
-               std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, kClear); });
+               std::ranges::none_of(taken, [&](const Box& other) { return Overlap(ink, other, kClear); });
     };
     std::vector<WheelText> texts = build(fullSize);
     for (double size = fullSize * 0.95; !std::ranges::all_of(texts, fits); size *= 0.95) {
@@ -180,7 +180,7 @@ std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const Place
 
 std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
                                      const std::string& glyph, TextFont font, int colour, double gap,
-                                     std::span<const Extent> taken) {
+                                     std::span<const Box> taken) {
     constexpr double kSlide = 2.0;  // units from one try to the next
     const auto [from, to] = line;
     const double length = std::hypot(to.x - from.x, to.y - from.y);
@@ -190,8 +190,8 @@ std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan&
             const double t = length > 0.0 ? 0.5 + side * offset / length : 0.5;
             WheelText text = CentredText(
                 measure, {from.x + t * (to.x - from.x), from.y + t * (to.y - from.y)}, glyph, font, colour);
-            const Extent ink = InkOf(text, measure);
-            if (std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(ink, other, gap); })) {
+            const Box ink = InkOf(text, measure);
+            if (std::ranges::none_of(taken, [&](const Box& other) { return Overlap(ink, other, gap); })) {
                 return text;
             }
         }
@@ -204,7 +204,7 @@ std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& me
     constexpr double kGap = 2.0;
     const double size = SizeOf(plan.options, plan.form.aspectSize);
     std::vector<WheelText> texts;
-    std::vector<Extent> taken;
+    std::vector<Box> taken;
     for (const AspectLine& aspect : lines) {
         for (const double share : {1.0, 0.85, 0.7}) {
             auto text = GlyphOnLine(measure, aspect.line, AspectGlyph(aspect.code), {size * share},

@@ -83,12 +83,12 @@ std::vector<SignMark> SignRing(const HouseCusps& cusps, ChartType type);
 std::vector<LineSpan> SignTicks(const HouseCusps& cusps, ChartType type);
 // The glyphs of the ring; one that would meet what is taken slides along the ring.
 std::vector<WheelText> SignRingTexts(const WheelPlan& plan, const TextMeasure& measure,
-                                     std::span<const Extent> taken);
+                                     std::span<const Box> taken);
 
 // The seven title lines, one below the other from the surface's upper left corner; smaller where they would
 // meet what is taken or leave the surface, and cut short only where that is not enough.
 std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& measure, double indent,
-                                  double top, std::span<const Extent> taken);
+                                  double top, std::span<const Box> taken);
 
 struct AspectLine {
     int first = kSun;
@@ -101,7 +101,7 @@ std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const Place
 // A glyph on the first free place of the line from its middle outwards; none where every place is taken.
 std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
                                      const std::string& glyph, TextFont font, int colour, double gap,
-                                     std::span<const Extent> taken);
+                                     std::span<const Box> taken);
 // The glyphs of the lines, at their middles; where glyphs would meet, the later one slides along its line or
 // becomes smaller.
 std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& measure,

@@ -61,19 +61,18 @@ std::vector<WheelText> PersonalTexts(const PageRequest& request, const TextMeasu
     return texts;
 }
 
-bool IsFree(const Extent& box, std::span<const Extent> taken) {
+bool IsFree(const Box& box, std::span<const Box> taken) {
     constexpr double kClear = 3.0;
-    return std::ranges::none_of(taken, [&](const Extent& other) { return Overlap(box, other, kClear); });
+    return std::ranges::none_of(taken, [&](const Box& other) { return Overlap(box, other, kClear); });
 }
 
 // The personal block, smaller where it would run into other blocks or off the page.
 std::vector<WheelText> FitPersonalTexts(const PageRequest& request, const TextMeasure& measure,
-                                        const Extent& page, std::span<const Extent> taken) {
+                                        const Extent& page, std::span<const Box> taken) {
     constexpr double kSmallest = 4.0;
     const auto fits = [&](const WheelText& text) {
         const TextBox cell = measure.Measure(text.text, text.font);
-        const Extent box{text.corner.x, text.corner.y, text.corner.x + cell.width,
-                         text.corner.y - cell.height};
+        const Box box{text.corner.x, text.corner.y, text.corner.x + cell.width, text.corner.y - cell.height};
         return Inside(box, page) && IsFree(box, taken);
     };
     for (double size = SizeOf(request.options, kPersonalSizeOption);; size *= 0.95) {
@@ -87,20 +86,20 @@ struct PlacedBlock {
     TextBlock block;
     Point corner;
 
-    Extent Ground() const { return block.At(corner); }
+    Box Ground() const { return block.At(corner); }
 };
 using MakeBlock = TextBlock (*)(const BlockSource& source, const TextMeasure& measure, double size);
 
 // With its lower right corner at (right, bottom); none where it could not be read.
 std::optional<PlacedBlock> FitBlock(MakeBlock make, const BlockSource& source, const TextMeasure& measure,
-                                    Point lowerRight, const Extent& page, std::span<const Extent> taken) {
+                                    Point lowerRight, const Extent& page, std::span<const Box> taken) {
     constexpr double kLargest = 10.0;
     constexpr double kSmallest = 5.0;
     constexpr double kClearRadius = 246.0;  // of the wheel with the nearer of its cusp labels
     for (double size = kLargest; size >= kSmallest; size -= 0.25) {
         TextBlock block = make(source, measure, size);
         const Point corner{lowerRight.x - block.width, lowerRight.y + block.height};
-        const Extent ground = block.At(corner);
+        const Box ground = block.At(corner);
         if (Inside(ground, page) && NearestToCentre(ground) >= kClearRadius && IsFree(ground, taken)) {
             return PlacedBlock{std::move(block), corner};
         }
@@ -113,7 +112,7 @@ std::optional<PlacedBlock> FitBlock(MakeBlock make, const BlockSource& source, c
 struct LowerBlocks {
     std::optional<AspectGridBlock> grid;
     std::vector<PlacedBlock> tables;
-    std::vector<Extent> taken;
+    std::vector<Box> taken;
 };
 
 LowerBlocks FitLowerBlocks(const PageRequest& request, const BlockSource& source, const TextMeasure& measure,

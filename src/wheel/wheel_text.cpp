@@ -14,33 +14,31 @@ struct Piece {
 };
 
 // The piece of the line that the rectangle, with some room around it, hides.
-Piece Hidden(const LineSpan& line, const Extent& box) {
+Piece Hidden(const LineSpan& line, const Box& box) {
     constexpr double kRoom = 1.4;
     const double x = line.to.x - line.from.x;
     const double y = line.to.y - line.from.y;
     const double length = std::hypot(x, y);
-    const double middle =
-        (((box.left + box.right) / 2 - line.from.x) * x + ((box.top + box.bottom) / 2 - line.from.y) * y) /
-        length;
-    const double reach =
-        ((box.right - box.left) * std::abs(x) + (box.top - box.bottom) * std::abs(y)) / length / 2 + kRoom;
+    const auto [middleX, middleY] = box.Middle();
+    const double middle = ((middleX - line.from.x) * x + (middleY - line.from.y) * y) / length;
+    const double reach = (box.Width() * std::abs(x) + box.Height() * std::abs(y)) / length / 2 + kRoom;
     return {middle - reach, middle + reach};
 }
 
 }  // namespace
 
-Extent InkOf(const WheelText& text, const TextMeasure& measure) {
+Box InkOf(const WheelText& text, const TextMeasure& measure) {
     const TextBox box = measure.Measure(text.text, text.font);
     return {text.corner.x + box.inkLeft, text.corner.y - box.inkTop, text.corner.x + box.inkRight,
             text.corner.y - box.inkBottom};
 }
 
-bool Overlap(const Extent& a, const Extent& b, double gap) {
+bool Overlap(const Box& a, const Box& b, double gap) {
     return a.left < b.right + gap && b.left < a.right + gap && a.bottom < b.top + gap &&
            b.bottom < a.top + gap;
 }
 
-bool Inside(const Extent& box, const Extent& surface, double margin) {
+bool Inside(const Box& box, const Extent& surface, double margin) {
     return box.left >= surface.left + margin && box.right <= surface.right - margin &&
            box.top <= surface.top - margin && box.bottom >= surface.bottom + margin;
 }
@@ -62,16 +60,16 @@ bool Touch(const InkShape& a, const InkShape& b, double gap) {
            a.leastDifference < b.mostDifference + slant && b.leastDifference < a.mostDifference + slant;
 }
 
-bool Crosses(const LineSpan& line, const Extent& box, double gap) {
-    const Point centre{(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+bool Crosses(const LineSpan& line, const Box& box, double gap) {
+    const Point centre = box.Middle();
     const double x = line.to.x - line.from.x;
     const double y = line.to.y - line.from.y;
     const double length = std::hypot(x, y);
     if (length == 0.0) return false;
     const double along = ((centre.x - line.from.x) * x + (centre.y - line.from.y) * y) / length;
     const double across = std::abs((centre.x - line.from.x) * y - (centre.y - line.from.y) * x) / length;
-    const double halfWidth = (box.right - box.left) / 2;
-    const double halfHeight = (box.top - box.bottom) / 2;
+    const double halfWidth = box.Width() / 2;
+    const double halfHeight = box.Height() / 2;
     const double reachAcross = (halfWidth * std::abs(y) + halfHeight * std::abs(x)) / length;
     const double reachAlong = (halfWidth * std::abs(x) + halfHeight * std::abs(y)) / length;
     return across < reachAcross + gap && along > -reachAlong - gap && along < length + reachAlong + gap;
@@ -89,7 +87,7 @@ Point OnWheel(double angle, double radius) {
     return {radius * ray.cos, radius * ray.sin};
 }
 
-double NearestToCentre(const Extent& box) {
+double NearestToCentre(const Box& box) {
     const double x = box.left > 0.0 ? box.left : std::min(box.right, 0.0);
     const double y = box.bottom > 0.0 ? box.bottom : std::min(box.top, 0.0);
     return std::hypot(x, y);
@@ -103,7 +101,7 @@ std::vector<LineSpan> Interrupted(const LineSpan& line, std::span<const std::vec
     for (const std::vector<WheelText>& label : labels) {
         bool meets = false;
         for (const WheelText& text : label) {
-            const Extent ink = InkOf(text, measure);
+            const Box ink = InkOf(text, measure);
             if (!Crosses(line, ink, kClear)) continue;
             const Piece piece = Hidden(line, ink);
             if (!meets) hidden.push_back(piece);

@@ -90,9 +90,8 @@ void DrawPointMarks(DrawingSurface& surface, const WheelPlan& plan, std::span<co
     for (const PlanetLabel& label : labels) {
         const double angle = TrueAngle(plan, label.point);
         const InkShape glyph = ShapeOf(label.texts[0], surface);
-        const Point centre{(glyph.box.left + glyph.box.right) / 2, (glyph.box.top + glyph.box.bottom) / 2};
-        const double half =
-            std::hypot(glyph.box.right - glyph.box.left, glyph.box.top - glyph.box.bottom) / 2;
+        const Point centre = glyph.box.Middle();
+        const double half = std::hypot(glyph.box.Width(), glyph.box.Height()) / 2;
         const Point bend = OnWheel(angle, kRingScaleRadius - kBend);
         const double way = std::hypot(bend.x - centre.x, bend.y - centre.y);
         const double share = std::max(0.0, 1.0 - (half * 0.82 + 0.8) / std::max(way, 1e-9));
@@ -156,7 +155,7 @@ void DrawRingAspects(DrawingSurface& surface, const WheelPlan& plan) {
     constexpr double kBetweenGlyphs = 5.0;
     const double size = SizeOf(plan.options, plan.form.aspectSize) * 0.85;
     const std::vector<ListedAspect> aspects = RingAspects(plan);
-    std::vector<Extent> taken;
+    std::vector<Box> taken;
     std::vector<WheelText> glyphs;
     for (const ListedAspect& aspect : aspects) {
         const double widest = IsMajor(aspect.code) ? kWidest : kWidest * 0.6;
@@ -173,9 +172,9 @@ void DrawRingAspects(DrawingSurface& surface, const WheelPlan& plan) {
         glyphs.push_back(*glyph);
     }
     for (std::size_t i = 0; i < glyphs.size(); ++i) {
-        const Extent& ink = taken[i];
-        const double radius = std::max(ink.right - ink.left, ink.top - ink.bottom) / 2 + 0.8;
-        surface.Disc({(ink.left + ink.right) / 2, (ink.top + ink.bottom) / 2}, radius, plan.Background());
+        const Box& ink = taken[i];
+        const double radius = std::max(ink.Width(), ink.Height()) / 2 + 0.8;
+        surface.Disc(ink.Middle(), radius, plan.Background());
     }
     DrawTexts(surface, glyphs);
 }

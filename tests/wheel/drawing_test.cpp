@@ -195,7 +195,7 @@ TEST_F(DrawingTest, LabelsReadDegreesSignMinutesAllTheWayRound) {
                 double last = 300.0;
                 for (const WheelText& text : label.texts) {
                     drawn.push_back(text.text);
-                    const Extent ink = InkOf(text, surface);
+                    const Box ink = InkOf(text, surface);
                     const double radius = std::hypot(ink.left + ink.right, ink.top + ink.bottom) / 2;
                     EXPECT_LT(radius, last) << "inwards along the ray";
                     last = radius;
@@ -214,7 +214,7 @@ TEST_F(DrawingTest, HouseLinesSpareTheLabels) {
         Draw(type);
         int spared = 0;
         for (const WheelText& text : surface.texts) {
-            const Extent ink = InkOf(text, surface);
+            const Box ink = InkOf(text, surface);
             const bool inRing = NearestToCentre(ink) > kInnerRadius && FarthestFromCentre(ink) < 190.0;
             if (!inRing) continue;
             for (const auto& line : surface.lines) {
@@ -258,7 +258,7 @@ TEST_F(DrawingTest, SmallPicturesLeaveOutMinutes) {
     const auto numbersInTheRing = [&](double size) {
         Draw(Request(ChartType::European, size));
         return std::ranges::count_if(surface.texts, [&](const WheelText& text) {
-            const Extent ink = InkOf(text, surface);
+            const Box ink = InkOf(text, surface);
             return std::isdigit(text.text[0]) && FarthestFromCentre(ink) < 217.0;
         });
     };

@@ -58,7 +58,7 @@ inline WheelData DeliveredWheelData() {
 }
 
 // The farthest that a rectangle comes from the wheel's centre.
-inline double FarthestFromCentre(const Extent& box) {
+inline double FarthestFromCentre(const Box& box) {
     return std::hypot(std::max(std::abs(box.left), std::abs(box.right)),
                       std::max(std::abs(box.top), std::abs(box.bottom)));
 }

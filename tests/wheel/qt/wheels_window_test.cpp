@@ -290,7 +290,7 @@ TEST_F(WheelsTest, PicturesShowWhatIsDrawn) {
         };
         EXPECT_GT(surface.texts.size(), 100u);
         for (const WheelText& text : surface.texts) {
-            const Extent ink = InkOf(text, surface);
+            const Box ink = InkOf(text, surface);
             const QRect area(pixel(ink.left, ink.top), pixel(ink.right, ink.bottom));
             const double covered = Covered(picture, area, PaletteColour(text.colour));
             EXPECT_GT(covered, 0.08) << text.text << " of type " << type;
