@@ -34,7 +34,7 @@ bool Meets(double separation, const AspectDefinition& aspect, float orb) {
 
 }  // namespace
 
-const AspectDefinition& DefinitionOf(int code) {
+const AspectDefinition& DefinitionOf(AspectCode code) {
     return kDefinitions[static_cast<std::size_t>(code - kConjunction)];
 }
 
@@ -45,7 +45,7 @@ double Separation(double longitudeA, double longitudeB) {
 
 AspectMatch MatchAspect(double separation, std::span<const AspectCode> codes, std::span<const float> orbs) {
     AspectMatch match;
-    for (const int code : codes) {
+    for (const AspectCode code : codes) {
         const AspectDefinition& aspect = DefinitionOf(code);
         if (Meets(separation, aspect, orbs[static_cast<std::size_t>(aspect.orbSlot)])) {
             match = {code, separation - aspect.angle};

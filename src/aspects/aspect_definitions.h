@@ -29,14 +29,14 @@ enum AspectCode : int {
 };
 
 struct AspectDefinition {
-    int code;
+    AspectCode code;
     double angle;           // degrees; a parallel has none
     int orbSlot;            // of the options table and of an orbs file
     std::string_view name;  // as the aspect displays write it
 };
 
 // The definition of a code from kConjunction to kSeptile.
-const AspectDefinition& DefinitionOf(int code);
+const AspectDefinition& DefinitionOf(AspectCode code);
 
 // The order in which the grid tests the aspects: a later match replaces an earlier one, so the conjunction
 // wins.
@@ -51,7 +51,7 @@ inline constexpr std::array kFullGridSearch = {
 double Separation(double longitudeA, double longitudeB);
 
 struct AspectMatch {
-    int code = kNoAspect;
+    AspectCode code = kNoAspect;
     double fromExact = 0.0;  // separation less the aspect's angle, degrees
 };
 

@@ -41,7 +41,7 @@ std::string_view ParallelCell(double declinationA, double declinationB, float or
     return (declinationA >= 0) == (declinationB >= 0) ? " P   " : " CP  ";
 }
 
-std::string AspectCell(int code) {
+std::string AspectCell(AspectCode code) {
     if (code == kNoAspect) return "---  ";
     return PadToThree(std::to_string(static_cast<int>(DefinitionOf(code).angle))) + "  ";
 }

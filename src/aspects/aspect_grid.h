@@ -13,7 +13,7 @@ namespace tolvanis {
 struct FoundAspect {
     int row;  // grid positions 1 to 15, row < column
     int column;
-    int code;
+    AspectCode code;
     double separation;  // degrees, 0 to 180
     double fromExact;   // separation less the aspect's angle
 };
@@ -25,18 +25,19 @@ class FoundAspects {
     void Add(const FoundAspect& aspect);
     const std::vector<FoundAspect>& list() const { return list_; }
     // The aspect code at a row and column of the upper triangle, kNoAspect where there is none.
-    int CodeAt(int row, int column) const { return codes_[Index(row, column)]; }
+    AspectCode CodeAt(int row, int column) const { return codes_[Index(row, column)]; }
 
   private:
+    using Codes = std::array<AspectCode, kChartPointCount * kChartPointCount>;
     static std::size_t Index(int row, int column) {
         return static_cast<std::size_t>((row - 1) * kChartPointCount + column - 1);
     }
     static constexpr auto kEmpty = [] {
-        std::array<int, kChartPointCount * kChartPointCount> codes{};
+        Codes codes{};
         codes.fill(kNoAspect);
         return codes;
     }();
-    std::array<int, kChartPointCount* kChartPointCount> codes_ = kEmpty;
+    Codes codes_ = kEmpty;
     std::vector<FoundAspect> list_;
 };
 

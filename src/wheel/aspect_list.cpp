@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "aspects/aspect_definitions.h"
 #include "wheel/symbols.h"
 
 namespace tolvanis {

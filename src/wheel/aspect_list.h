@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "aspects/aspect_definitions.h"
 #include "aspects/orbs_file.h"
 #include "wheel/wheel_snapshot.h"
 
@@ -12,7 +13,7 @@ namespace tolvanis {
 struct ListedAspect {
     int first = kSun;  // chart points
     int second = kSun;
-    int code = 0;
+    AspectCode code = kNoAspect;
     double exactness = 0.0;  // 0 at the bound of the orb, 1 when exact
 };
 

@@ -19,7 +19,7 @@ std::string SignGlyph(int sign) {
     return SymbolText(191 + sign);
 }
 
-std::string AspectGlyph(int aspect) {
+std::string AspectGlyph(AspectCode aspect) {
     return SymbolText(159 + aspect);
 }
 

@@ -158,7 +158,7 @@ int BlockSource::Colour(int colour, double contrast) const {
     return turnsColours ? ForGround(colour, ground, contrast) : Legible(colour, ground, contrast);
 }
 
-int GridColour(const Options& options, int code) {
+int GridColour(const Options& options, AspectCode code) {
     // By aspect code from the conjunction on: which of the seven family colours.
     constexpr std::array kFamilies = {0, 1, 2, 1, 2, 0, 3, 4, 4, 3, 5, 6, 5, 5, 5, 6};
     return ColourOf(options,

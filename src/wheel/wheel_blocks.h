@@ -43,7 +43,7 @@ class AspectGridBlock {
 };
 
 // Colour of an aspect's glyph in the grid, by its family.
-int GridColour(const Options& options, int code);
+int GridColour(const Options& options, AspectCode code);
 
 // A block of texts and fine rules, laid out to be placed; (0, 0) is its upper left corner.
 struct TextBlock {

@@ -167,7 +167,7 @@ std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const Place
         for (int second = first + 1; second <= kMoon; ++second) {
             const double separation =
                 Separation(plan.chart.PointLongitude[first], plan.chart.PointLongitude[second]);
-            const int code = MatchAspect(separation, kLineSearch, plan.options.table()).code;
+            const AspectCode code = MatchAspect(separation, kLineSearch, plan.options.table()).code;
             if (code == kNoAspect) continue;
             lines.push_back({first,
                              second,
@@ -218,7 +218,7 @@ std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& me
     return texts;
 }
 
-int AspectColour(const WheelPlan& plan, int code, double contrast) {
+int AspectColour(const WheelPlan& plan, AspectCode code, double contrast) {
     const auto option = [&](int number) { return plan.OnGround(ColourOf(plan.options, number), contrast); };
     switch (code) {
         case kSquare:

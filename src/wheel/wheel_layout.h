@@ -93,7 +93,7 @@ std::vector<WheelText> TitleTexts(const WheelPlan& plan, const TextMeasure& meas
 struct AspectLine {
     int first = kSun;
     int second = kSun;
-    int code = kNoAspect;
+    AspectCode code = kNoAspect;
     LineSpan line;
 };
 // The aspects between Sun and Moon to Pluto that are drawn as lines, under the orbs of the options.
@@ -107,6 +107,6 @@ std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan&
 std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& measure,
                                     std::span<const AspectLine> lines);
 // Of a line or, with the contrast of texts, of a glyph.
-int AspectColour(const WheelPlan& plan, int code, double contrast = kLineContrast);
+int AspectColour(const WheelPlan& plan, AspectCode code, double contrast = kLineContrast);
 
 }  // namespace tolvanis

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "aspects/aspect_definitions.h"
 #include "output/zodiac_text.h"
 #include "text/numbers.h"
 #include "wheel/zodiac_ring.h"
@@ -19,7 +18,7 @@ std::string PlaceInWords(double longitude) {
 
 struct Partner {
     int point = kSun;
-    int code = kNoAspect;
+    AspectCode code = kNoAspect;
 };
 
 // The aspects of a point that the picture shows.

@@ -105,7 +105,7 @@ void DrawPointMarks(DrawingSurface& surface, const WheelPlan& plan, std::span<co
     surface.Lines(leaders, {plan.OnGround(kDarkGrey, kLineContrast), kFineWidth});
 }
 
-int RingAspectColour(const WheelPlan& plan, int code, double contrast) {
+int RingAspectColour(const WheelPlan& plan, AspectCode code, double contrast) {
     const auto colour = [&](int number) { return plan.OnGround(number, contrast); };
     switch (code) {
         case kConjunction:
@@ -126,7 +126,7 @@ int RingAspectColour(const WheelPlan& plan, int code, double contrast) {
     }
 }
 
-bool IsMajor(int code) {
+bool IsMajor(AspectCode code) {
     return code >= kConjunction && code <= kOpposition;
 }
 

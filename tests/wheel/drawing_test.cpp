@@ -47,7 +47,7 @@ struct DrawingTest : ::testing::Test {
     std::vector<int> AspectCodes() const {
         std::vector<int> codes;
         for (int code = kConjunction; code <= kSeptile; ++code) {
-            if (!Texts(AspectGlyph(code)).empty()) codes.push_back(code);
+            if (!Texts(AspectGlyph(AspectCode{code})).empty()) codes.push_back(code);
         }
         return codes;
     }
@@ -399,13 +399,13 @@ TEST_F(DrawingTest, PartsOfALabelFollowTheirOptions) {
 
 TEST_F(DrawingTest, GridColoursGoByFamily) {
     for (int family = 0; family < 7; ++family) options[181 + family] = static_cast<float>(family + 1);
-    const std::pair<int, std::vector<int>> families[] = {
+    const std::pair<int, std::vector<AspectCode>> families[] = {
         {1, {kConjunction, kParallel}},    {2, {kSextile, kTrine}},
         {3, {kSquare, kOpposition}},       {4, {kSemiSextile, kQuincunx}},
         {5, {kSemiSquare, kSesquisquare}}, {6, {kSemiQuintile, kQuintile, kTrecile, kBiQuintile}},
         {7, {kNonagen, kSeptile}}};
     for (const auto& [colour, codes] : families) {
-        for (const int code : codes) EXPECT_EQ(GridColour(options, code), colour) << code;
+        for (const AspectCode code : codes) EXPECT_EQ(GridColour(options, code), colour) << code;
     }
 }
 
