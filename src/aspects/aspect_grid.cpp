@@ -11,17 +11,9 @@ namespace {
 constexpr int kParallelOrbOption = 6;
 constexpr int kRareAspectsOption = 16;
 
-int PointAt(int gridPosition) {
-    return kGridOrder[static_cast<std::size_t>(gridPosition - 1)];
-}
-
-std::string_view NameAt(int gridPosition) {
-    return kGridNames[static_cast<std::size_t>(gridPosition - 1)];
-}
-
 // The five characters that label a row.
 std::string RowLabel(int row) {
-    switch (PointAt(row)) {
+    switch (GridPoint(row)) {
         case kNorthNode:
             return "N.N  ";
         case kSouthNode:
@@ -31,7 +23,7 @@ std::string RowLabel(int row) {
         case kMidheaven:
             return "MC   ";
         default:
-            return std::string(NameAt(row).substr(0, 3)) + "  ";
+            return std::string(GridName(row).substr(0, 3)) + "  ";
     }
 }
 
@@ -56,8 +48,8 @@ void WriteRows(DataBuffer& buffer, const ChartPositions& chart, const FoundAspec
             } else if (row < column) {
                 line += AspectCell(aspects.CodeAt(row, column));
             } else {
-                line += ParallelCell(chart.PointDeclination[PointAt(row)],
-                                     chart.PointDeclination[PointAt(column)], parallelOrb);
+                line += ParallelCell(chart.PointDeclination[GridPoint(row)],
+                                     chart.PointDeclination[GridPoint(column)], parallelOrb);
             }
         }
         buffer.AppendLine(line);
@@ -94,7 +86,7 @@ void WriteList(DataBuffer& buffer, const FoundAspects& aspects) {
         const DegreesMinutes separation = Split(aspect.separation);
         const DegreesMinutes fromExact = Split(aspect.fromExact);
         std::string line = "  ";
-        line.append(PadRight(NameAt(aspect.row), 11)).append(PadRight(NameAt(aspect.column), 11));
+        line.append(PadRight(GridName(aspect.row), 11)).append(PadRight(GridName(aspect.column), 11));
         line.append(PadToThree(std::to_string(separation.degrees))).append("d ");
         line.append(TwoDigits(separation.minutes)).append("m       ");
         line.append(PadSignedToFour(std::to_string(fromExact.degrees))).append("d ");
@@ -118,7 +110,7 @@ FoundAspects FindAspects(const ChartPositions& chart, const Options& options) {
     for (int row = 1; row <= kChartPointCount; ++row) {
         for (int column = kChartPointCount; column > row; --column) {
             const double separation =
-                Separation(chart.PointLongitude[PointAt(row)], chart.PointLongitude[PointAt(column)]);
+                Separation(chart.PointLongitude[GridPoint(row)], chart.PointLongitude[GridPoint(column)]);
             const AspectMatch match = MatchAspect(separation, codes, options.table());
             if (match.code != kNoAspect) found.Add({row, column, match.code, separation, match.fromExact});
         }

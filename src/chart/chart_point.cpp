@@ -3,28 +3,31 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/columns.h"
+
 namespace tolvanis {
 namespace {
 
 constexpr std::string_view kListingNames =
     "SUN       MERCURY   VENUS     MARS      JUPITER   SATURN    URANUS    NEPTUNE   "
     "PLUTO     MOON      N. NODE   S. NODE   P. OF F.  ASC       MC        ";
-constexpr std::string_view kSigns = "ARITAUGEMCANLEOVIRLIBSCOSAGCAPAQUPIS";
 
 }  // namespace
 
+int GridPosition(int point) {
+    return static_cast<int>(std::ranges::find(kGridOrder, point) - kGridOrder.begin()) + 1;
+}
+
 std::string_view PointName(int point) {
-    const auto place = std::find(kGridOrder.begin(), kGridOrder.end(), point);
-    return place == kGridOrder.end() ? std::string_view{}
-                                     : kGridNames[static_cast<std::size_t>(place - kGridOrder.begin())];
+    return GridName(GridPosition(point));
 }
 
 std::string_view ListingPointName(int point) {
     return kListingNames.substr(static_cast<std::size_t>(point - 1) * 10, 10);
 }
 
-std::string_view SignAbbreviation(int sign) {
-    return kSigns.substr(static_cast<std::size_t>(sign - 1) * 3, 3);
+std::string SignAbbreviation(int sign) {
+    return UpperCase(SignName(sign).substr(0, 3));
 }
 
 int SignOf(double longitude) {

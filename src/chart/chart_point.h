@@ -2,6 +2,7 @@
 // The fifteen points of a chart, their order and their names.
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace tolvanis {
@@ -46,7 +47,16 @@ inline constexpr std::array<std::string_view, kChartPointCount> kGridNames = {
     "Sun",     "Moon",  "Mercury",    "Venus",      "Mars",     "Jupiter",   "Saturn",   "Uranus",
     "Neptune", "Pluto", "North Node", "South Node", "P. of F.", "Ascendant", "Midheaven"};
 
-// The name of a chart point as the grid writes it.
+// The chart point at a grid position, 1 to 15, and its name.
+constexpr int GridPoint(int position) {
+    return kGridOrder[static_cast<std::size_t>(position - 1)];
+}
+constexpr std::string_view GridName(int position) {
+    return kGridNames[static_cast<std::size_t>(position - 1)];
+}
+
+// The grid position of a chart point, and its name as the grid writes it.
+int GridPosition(int point);
 std::string_view PointName(int point);
 
 // The ten-character name of a chart point in the listing: "SUN       ".
@@ -62,7 +72,7 @@ constexpr std::string_view SignName(int sign) {
 }
 
 // "ARI" to "PIS" for signs 1 to 12.
-std::string_view SignAbbreviation(int sign);
+std::string SignAbbreviation(int sign);
 
 // The sign, 1 to 12, of a longitude in degrees, 0 <= longitude < 360.
 int SignOf(double longitude);

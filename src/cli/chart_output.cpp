@@ -102,8 +102,8 @@ void WriteAspects(JsonWriter& json, const FoundAspects& aspects) {
     json.Open('[');
     for (const FoundAspect& aspect : aspects.list()) {
         json.Open('{');
-        json.Member("first", kGridNames[static_cast<std::size_t>(aspect.row - 1)]);
-        json.Member("second", kGridNames[static_cast<std::size_t>(aspect.column - 1)]);
+        json.Member("first", GridName(aspect.row));
+        json.Member("second", GridName(aspect.column));
         json.Member("code", aspect.code);
         json.Member("angle", DefinitionOf(aspect.code).angle);
         json.Member("separation", aspect.separation);

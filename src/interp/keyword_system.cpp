@@ -10,14 +10,10 @@ std::string LessonFile(std::string_view name) {
     return std::string(name).append(kTextEnding);
 }
 
-std::string ThreeCapitals(std::string_view name) {
-    return UpperCase(name.substr(0, 3));
-}
-
 }  // namespace
 
 std::string SignLessonFile(int sign) {
-    return LessonFile(ThreeCapitals(SignName(sign)));
+    return LessonFile(SignAbbreviation(sign));
 }
 
 std::string HouseLessonFile(int house) {
@@ -26,7 +22,7 @@ std::string HouseLessonFile(int house) {
 
 std::string PlanetLessonFile(int planet) {
     if (planet == 1) return LessonFile("SUN_SUN");  // the Sun's own name is that of its aspects
-    return LessonFile(ThreeCapitals(kGridNames[static_cast<std::size_t>(planet - 1)]));
+    return LessonFile(UpperCase(GridName(planet).substr(0, 3)));
 }
 
 }  // namespace tolvanis

@@ -101,8 +101,8 @@ class ReportWriter {
     }
 
     void WriteAspectsOf(int row, int column) {
-        const std::string_view first = kGridNames[static_cast<std::size_t>(row - 1)];
-        const std::string_view second = kGridNames[static_cast<std::size_t>(column - 1)];
+        const std::string_view first = GridName(row);
+        const std::string_view second = GridName(column);
         for (const ReportedAspect& reported : kReportedAspects) {
             const bool found = std::ranges::any_of(aspects_, [&](const FoundAspect& aspect) {
                 return aspect.row == row && aspect.column == column && aspect.code == reported.code;

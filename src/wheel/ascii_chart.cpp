@@ -16,7 +16,6 @@ namespace {
 constexpr int kLeftMargin = 5;
 constexpr int kLastPoint = kPartOfFortune;
 constexpr std::string_view kPointLetters = "SUMEVEMAJUSAURNEPLMONNSNPF";
-constexpr std::string_view kSignLetters = "AriTauGemCanLeoVirLibScoSagCapAquPis";
 
 struct Place {
     int row;
@@ -120,8 +119,7 @@ void WritePoint(AsciiGrid& grid, Place place, int point, double longitude) {
     const ZodiacPlace zodiac = SplitZodiac(longitude);
     grid.Write(place, kPointLetters.substr(static_cast<std::size_t>(2 * point - 2), 2));
     grid.Write({place.row, place.column + 2}, TwoDigits(zodiac.degrees));
-    grid.Write({place.row, place.column + 4},
-               kSignLetters.substr(static_cast<std::size_t>(3 * zodiac.sign - 3), 3));
+    grid.Write({place.row, place.column + 4}, SignName(zodiac.sign).substr(0, 3));
 }
 
 // The written points by house, turned until no house is split between the end and the start.

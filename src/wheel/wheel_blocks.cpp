@@ -14,10 +14,6 @@ namespace {
 constexpr int kFirstGridColourOption = 181;
 constexpr double kRuleWidth = 0.4;
 
-int GridPosition(int point) {
-    return static_cast<int>(std::ranges::find(kGridOrder, point) - kGridOrder.begin()) + 1;
-}
-
 constexpr std::array kElements = {"Fire", "Earth", "Air", "Water"};
 constexpr std::array kQualities = {"Cardinal", "Fixed", "Mutable"};
 
@@ -189,9 +185,8 @@ void AspectGridBlock::Draw(DrawingSurface& surface) const {
     };
     std::vector<WheelText> texts;
     for (int row = 1; row <= kChartPointCount; ++row) {
-        texts.push_back(CentredText(surface, middle(row, row),
-                                    PointGlyph(kGridOrder[static_cast<std::size_t>(row - 1)]),
-                                    {look_.glyphSize}, source_.Colour(kBlack, kTextContrast)));
+        texts.push_back(CentredText(surface, middle(row, row), PointGlyph(GridPoint(row)), {look_.glyphSize},
+                                    source_.Colour(kBlack, kTextContrast)));
     }
     for (const ListedAspect& aspect : ListAspects(source_.chart, source_.orbs)) {
         const int row = GridPosition(aspect.first);

@@ -37,9 +37,8 @@ std::vector<Partner> PartnersOf(const WheelRequest& request, int point) {
     } else {
         take(AspectLines(plan, PlaceGlyphs(request.chart, request.type)));
     }
-    std::ranges::stable_sort(partners, {}, [](const Partner& partner) {
-        return std::ranges::find(kGridOrder, partner.point) - kGridOrder.begin();
-    });
+    std::ranges::stable_sort(partners, {},
+                             [](const Partner& partner) { return GridPosition(partner.point); });
     return partners;
 }
 
