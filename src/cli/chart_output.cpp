@@ -80,6 +80,38 @@ class JsonWriter {
     bool first_ = true;
 };
 
+void WriteBirth(JsonWriter& json, const NatalData& natal) {
+    json.Member("name", natal.Name);
+    json.Member("year", natal.Year);
+    json.Member("month", natal.Month);
+    json.Member("day", natal.Day);
+}
+
+// The theory, the instant and the frame that the longitudes are counted in.
+void WriteFrame(JsonWriter& json, const ChartPositions& chart) {
+    json.Member("theory", TheoryCode(chart.Theory));
+    json.Member("julianDay", chart.JulianDay);
+    json.Member("deltaT", chart.DeltaT);
+    if (chart.PlutoFromOldSeries) json.Member("remark", kOldPlutoRemark);
+    json.Member("centuries", chart.Centuries);
+    json.Member("obliquity", chart.ObliquityDegrees);
+    json.Member("ramc", RadToDeg(chart.RAMC));
+    json.Member("siderealTime", chart.SiderealTimeText);
+}
+
+void WriteAngles(JsonWriter& json, const ChartPositions& chart) {
+    json.Member("midheaven", chart.Midheaven);
+    json.Member("ascendant", chart.Ascendant);
+    json.Member("vertex", chart.Vertex);
+    json.Member("equatorialAscendant", chart.EquatorialAscendant);
+    json.Member("coAscendant", chart.CoAscendant);
+    json.Member("polarAscendant", chart.PolarAscendant);
+    json.Key("houseCusps");
+    json.Open('[');
+    for (int position = 1; position <= 12; ++position) json.Number(chart.HouseCusps[position]);
+    json.Close(']');
+}
+
 void WritePoints(JsonWriter& json, const ChartPositions& chart) {
     json.Key("points");
     json.Open('[');
@@ -95,6 +127,14 @@ void WritePoints(JsonWriter& json, const ChartPositions& chart) {
         json.Close('}');
     }
     json.Close(']');
+}
+
+void WriteTrueNode(JsonWriter& json, const ChartPositions& chart) {
+    json.Key("trueNode");
+    json.Open('{');
+    json.Member("longitude", chart.TrueNodeLongitude);
+    json.Member("declination", chart.TrueNodeDeclination);
+    json.Close('}');
 }
 
 void WriteAspects(JsonWriter& json, const FoundAspects& aspects) {
@@ -166,40 +206,15 @@ Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& opti
 }
 
 std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed) {
-    const NatalData& natal = chart.natal;
-    const ChartPositions& positions = chart.positions;
     JsonWriter json;
     json.Open('{');
-    json.Member("name", natal.Name);
-    json.Member("year", natal.Year);
-    json.Member("month", natal.Month);
-    json.Member("day", natal.Day);
+    WriteBirth(json, chart.natal);
     if (placed != nullptr) WritePlaced(json, *placed);
-    json.Member("houseSystem", HouseSystemCode(natal.HouseSystem));
-    json.Member("theory", TheoryCode(positions.Theory));
-    json.Member("julianDay", positions.JulianDay);
-    json.Member("deltaT", positions.DeltaT);
-    if (positions.PlutoFromOldSeries) json.Member("remark", kOldPlutoRemark);
-    json.Member("centuries", positions.Centuries);
-    json.Member("obliquity", positions.ObliquityDegrees);
-    json.Member("ramc", RadToDeg(positions.RAMC));
-    json.Member("siderealTime", positions.SiderealTimeText);
-    json.Member("midheaven", positions.Midheaven);
-    json.Member("ascendant", positions.Ascendant);
-    json.Member("vertex", positions.Vertex);
-    json.Member("equatorialAscendant", positions.EquatorialAscendant);
-    json.Member("coAscendant", positions.CoAscendant);
-    json.Member("polarAscendant", positions.PolarAscendant);
-    json.Key("houseCusps");
-    json.Open('[');
-    for (int position = 1; position <= 12; ++position) json.Number(positions.HouseCusps[position]);
-    json.Close(']');
-    WritePoints(json, positions);
-    json.Key("trueNode");
-    json.Open('{');
-    json.Member("longitude", positions.TrueNodeLongitude);
-    json.Member("declination", positions.TrueNodeDeclination);
-    json.Close('}');
+    json.Member("houseSystem", HouseSystemCode(chart.natal.HouseSystem));
+    WriteFrame(json, chart.positions);
+    WriteAngles(json, chart.positions);
+    WritePoints(json, chart.positions);
+    WriteTrueNode(json, chart.positions);
     WriteAspects(json, chart.aspects);
     json.Close('}');
     return json.Take() + "\n";

@@ -2,6 +2,7 @@
 // The lessons of the keyword system: what the lists and buttons show, and in which files.
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,18 @@ inline constexpr int kLessonPlanets = 10;
 std::string SignLessonFile(int sign);
 std::string HouseLessonFile(int house);
 std::string PlanetLessonFile(int planet);
+
+// The lists to choose from.
+struct LessonChoice {
+    const char *control, *caption;
+    std::span<const std::string_view> items;
+    std::string (*fileOf)(int item);  // counted from 1
+};
+inline constexpr std::array<LessonChoice, 3> kLessonChoices = {{
+    {"Combo1", "S&igns", kSignNames, SignLessonFile},
+    {"Combo2", "&Houses", kHouseNames, HouseLessonFile},
+    {"Combo3", "&Planets", std::span(kGridNames).first<kLessonPlanets>(), PlanetLessonFile},
+}};
 
 struct LessonButton {
     const char *control, *caption, *file;

@@ -144,42 +144,54 @@ struct Fitted {
     std::vector<InkShape> shapes;
 };
 
-void Build(const WheelPlan& plan, const TextMeasure& measure, Fitted& fitted) {
-    const PlacedGlyph& glyph = fitted.glyph;
+// How far a label has come along its ray: the middle of its last text, the room of its ink, and the room that
+// the options give it.
+struct Reached {
+    double radius;
+    Cell ink, wide;
+};
+
+Reached AddGlyph(const WheelPlan& plan, const TextMeasure& measure, const Cell& wide, Fitted& fitted) {
+    const double angle = fitted.glyph.angle;
+    const double radius = GlyphRadius(plan, wide, angle);
+    const TextFont font{SizeOf(plan.options, plan.form.planetSize) * kGlyphSizes[fitted.glyphSize]};
+    const std::string text = PointGlyph(fitted.glyph.point);
+    fitted.label.texts.push_back(
+        CentredText(measure, OnWheel(angle, radius), text, font, plan.TextColour(plan.form.planetColour)));
+    return {radius, InkCell(measure, text, font), wide};
+}
+
+void AddItems(const WheelPlan& plan, const TextMeasure& measure, const LabelSteps& steps, Reached last,
+              Fitted& fitted) {
     const Fit& fit = kFits[fitted.fit];
-    const LabelSteps steps = MeasureSteps(plan, measure, glyph.angle);
-    const SinCos ray = SinCosDeg(glyph.angle);
-    double radius = GlyphRadius(plan, steps.glyph, glyph.angle);
-    const TextFont glyphFont{SizeOf(plan.options, plan.form.planetSize) * kGlyphSizes[fitted.glyphSize]};
-    std::vector<WheelText>& texts = fitted.label.texts;
-    texts = {CentredText(measure, OnWheel(glyph.angle, radius), PointGlyph(glyph.point), glyphFont,
-                         plan.TextColour(plan.form.planetColour))};
-    fitted.label.point = glyph.point;
-    fitted.label.leader.reset();
-    Cell last = InkCell(measure, texts[0].text, glyphFont);
-    Cell lastWide = steps.glyph;
-    const double glyphEdge = radius - TouchingStep(last, {}, ray);
-    bool isFirst = true;
-    for (LabelPart& item : LabelItems(plan, glyph)) {
+    const double angle = fitted.glyph.angle;
+    const SinCos ray = SinCosDeg(angle);
+    double inset = fitted.isEven ? fit.inset : 0.0;  // of the first item only
+    for (LabelPart& item : LabelItems(plan, fitted.glyph)) {
         item.font.size = Shrunk(item.font.size, fit.size);
-        const Cell cell = InkCell(measure, item.text, item.font);
+        const Cell ink = InkCell(measure, item.text, item.font);
         const Cell wide = OptionCell(steps, item);
-        double step = TouchingStep(last, cell, ray);
-        if (fit.isWide) step = std::max(step, TouchingStep(lastWide, wide, ray));
-        if (isFirst && fitted.isEven) step += fit.inset * cell.height;
-        radius -= step;
-        if (isFirst && fitted.isEven && fit.inset > 0.0) {
-            fitted.label.leader = {OnWheel(glyph.angle, glyphEdge),
-                                   OnWheel(glyph.angle, radius + TouchingStep(cell, {}, ray))};
+        double step = TouchingStep(last.ink, ink, ray);
+        if (fit.isWide) step = std::max(step, TouchingStep(last.wide, wide, ray));
+        const double radius = last.radius - (step + inset * ink.height);
+        if (inset > 0.0) {
+            fitted.label.leader = {OnWheel(angle, last.radius - TouchingStep(last.ink, {}, ray)),
+                                   OnWheel(angle, radius + TouchingStep(ink, {}, ray))};
         }
-        texts.push_back(CentredText(measure, {radius * ray.cos, radius * ray.sin}, std::move(item.text),
-                                    item.font, item.colour));
-        last = cell;
-        lastWide = wide;
-        isFirst = false;
+        fitted.label.texts.push_back(CentredText(measure, {radius * ray.cos, radius * ray.sin},
+                                                 std::move(item.text), item.font, item.colour));
+        last = {radius, ink, wide};
+        inset = 0.0;
     }
+}
+
+void Build(const WheelPlan& plan, const TextMeasure& measure, Fitted& fitted) {
+    const LabelSteps steps = MeasureSteps(plan, measure, fitted.glyph.angle);
+    fitted.label = {.point = fitted.glyph.point, .texts = {}};
+    const Reached glyph = AddGlyph(plan, measure, steps.glyph, fitted);
+    AddItems(plan, measure, steps, glyph, fitted);
     fitted.shapes.clear();
-    for (const WheelText& text : texts) fitted.shapes.push_back(ShapeOf(text, measure));
+    for (const WheelText& text : fitted.label.texts) fitted.shapes.push_back(ShapeOf(text, measure));
 }
 
 enum class Meeting { None, Glyphs, Labels };

@@ -34,12 +34,14 @@ ElementCells CellsOf(const WheelSnapshot& chart) {
 struct ElementLook {
     TextFont glyphs, names, elements;
     int colour;            // of all but the elements' names
+    int ground;            // behind them
     double label, column;  // widths
     double line;           // height
 
-    double MiddleOf(std::size_t quality) const {
+    double MiddleOfColumn(std::size_t quality) const {
         return label + (static_cast<double>(quality) + 0.5) * column;
     }
+    double MiddleOfRow(std::size_t element) const { return -(static_cast<double>(element) + 1.5) * line; }
 };
 
 // A cell holds three to six glyphs side by side, as many as the fullest needs; more become smaller.
@@ -53,6 +55,7 @@ ElementLook LookFor(const ElementCells& cells, const BlockSource& source, const 
                      .names = {size * 0.8},
                      .elements = {size * 0.8, true},
                      .colour = source.Colour(kBlack, kTextContrast),
+                     .ground = source.ground,
                      .label = 0.0,
                      .column = 0.0,
                      .line = 1.55 * size};
@@ -63,28 +66,30 @@ ElementLook LookFor(const ElementCells& cells, const BlockSource& source, const 
     return look;
 }
 
-void AddElementRow(TextBlock& block, const ElementLook& look, std::size_t element,
-                   std::span<const std::string> cells, int ground, const TextMeasure& measure) {
-    const double y = -(static_cast<double>(element) + 1.5) * look.line;
-    const int colour = ElementColour(static_cast<int>(element) + 1, ground);
+void AddElementName(TextBlock& block, const ElementLook& look, std::size_t element,
+                    const TextMeasure& measure) {
+    const double y = look.MiddleOfRow(element);
+    const int colour = ElementColour(static_cast<int>(element) + 1, look.ground);
     WheelText name = CentredText(measure, {0.0, y}, kElements[element], look.elements, colour);
     name.corner.x = 1.5;
     block.texts.push_back(std::move(name));
     block.rules.push_back({{0.0, y + look.line / 2}, {block.width, y + look.line / 2}});
-    for (std::size_t quality = 0; quality < cells.size(); ++quality) {
-        const std::string& points = cells[quality];
-        if (points.empty()) continue;
-        const double width = measure.Measure(points, look.glyphs).width;
-        const double room = look.column - 2.0;
-        const double size = look.glyphs.size;
-        block.texts.push_back(CentredText(measure, {look.MiddleOf(quality), y}, points,
-                                          {width > room ? size * room / width : size}, look.colour));
-    }
+}
+
+// `points` in the cell at this middle, smaller where they would not fit.
+void AddElementPoints(TextBlock& block, const ElementLook& look, Point middle, const std::string& points,
+                      const TextMeasure& measure) {
+    if (points.empty()) return;
+    const double width = measure.Measure(points, look.glyphs).width;
+    const double room = look.column - 2.0;
+    const double size = look.glyphs.size;
+    block.texts.push_back(
+        CentredText(measure, middle, points, {width > room ? size * room / width : size}, look.colour));
 }
 
 void AddQualityHeading(TextBlock& block, const ElementLook& look, std::size_t quality,
                        const TextMeasure& measure) {
-    const double x = look.MiddleOf(quality);
+    const double x = look.MiddleOfColumn(quality);
     block.texts.push_back(
         CentredText(measure, {x, -look.line / 2}, kQualities[quality], look.names, look.colour));
     block.rules.push_back({{x - look.column / 2, 0.0}, {x - look.column / 2, -block.height}});
@@ -222,7 +227,11 @@ TextBlock ElementTable(const BlockSource& source, const TextMeasure& measure, do
     block.width = look.label + static_cast<double>(kQualities.size()) * look.column;
     block.height = static_cast<double>(kElements.size() + 1) * look.line;
     for (std::size_t element = 0; element < kElements.size(); ++element) {
-        AddElementRow(block, look, element, cells[element], source.ground, measure);
+        AddElementName(block, look, element, measure);
+        for (std::size_t quality = 0; quality < kQualities.size(); ++quality) {
+            const Point middle{look.MiddleOfColumn(quality), look.MiddleOfRow(element)};
+            AddElementPoints(block, look, middle, cells[element][quality], measure);
+        }
     }
     for (std::size_t quality = 0; quality < kQualities.size(); ++quality) {
         AddQualityHeading(block, look, quality, measure);

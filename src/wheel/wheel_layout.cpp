@@ -178,22 +178,21 @@ std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const Place
     return lines;
 }
 
-std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
-                                     const std::string& glyph, TextFont font, int colour, double gap,
+std::optional<WheelText> GlyphOnLine(const LineGlyph& glyph, const TextMeasure& measure,
                                      std::span<const Box> taken) {
     constexpr double kSlide = 2.0;  // units from one try to the next
-    const auto [from, to] = line;
+    const auto [from, to] = glyph.line;
     const double length = std::hypot(to.x - from.x, to.y - from.y);
-    const double reach = std::max(length / 2 - font.size, kSlide);
+    const double reach = std::max(length / 2 - glyph.font.size, kSlide);
+    const auto isFree = [&](const Box& ink) {
+        return std::ranges::none_of(taken, [&](const Box& other) { return Overlap(ink, other, glyph.gap); });
+    };
     for (double offset = 0.0; offset < reach; offset += kSlide) {
         for (const double side : {1.0, -1.0}) {
             const double t = length > 0.0 ? 0.5 + side * offset / length : 0.5;
-            WheelText text = CentredText(
-                measure, {from.x + t * (to.x - from.x), from.y + t * (to.y - from.y)}, glyph, font, colour);
-            const Box ink = InkOf(text, measure);
-            if (std::ranges::none_of(taken, [&](const Box& other) { return Overlap(ink, other, gap); })) {
-                return text;
-            }
+            const Point place{from.x + t * (to.x - from.x), from.y + t * (to.y - from.y)};
+            WheelText text = CentredText(measure, place, glyph.text, glyph.font, glyph.colour);
+            if (isFree(InkOf(text, measure))) return text;
         }
     }
     return std::nullopt;
@@ -207,8 +206,12 @@ std::vector<WheelText> AspectGlyphs(const WheelPlan& plan, const TextMeasure& me
     std::vector<Box> taken;
     for (const AspectLine& aspect : lines) {
         for (const double share : {1.0, 0.85, 0.7}) {
-            auto text = GlyphOnLine(measure, aspect.line, AspectGlyph(aspect.code), {size * share},
-                                    AspectColour(plan, aspect.code, kTextContrast), kGap, taken);
+            const LineGlyph glyph{aspect.line,
+                                  AspectGlyph(aspect.code),
+                                  {size * share},
+                                  AspectColour(plan, aspect.code, kTextContrast),
+                                  kGap};
+            auto text = GlyphOnLine(glyph, measure, taken);
             if (!text) continue;
             taken.push_back(InkOf(*text, measure));
             texts.push_back(std::move(*text));

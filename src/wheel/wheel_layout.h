@@ -98,9 +98,16 @@ struct AspectLine {
 };
 // The aspects between Sun and Moon to Pluto that are drawn as lines, under the orbs of the options.
 std::vector<AspectLine> AspectLines(const WheelPlan& plan, std::span<const PlacedGlyph> glyphs);
-// A glyph on the first free place of the line from its middle outwards; none where every place is taken.
-std::optional<WheelText> GlyphOnLine(const TextMeasure& measure, const LineSpan& line,
-                                     const std::string& glyph, TextFont font, int colour, double gap,
+// A glyph that stands on a line.
+struct LineGlyph {
+    LineSpan line;
+    std::string text;
+    TextFont font;
+    int colour = kBlack;
+    double gap = 0.0;  // to what is taken
+};
+// The glyph on the first free place of its line from the middle outwards; none where every place is taken.
+std::optional<WheelText> GlyphOnLine(const LineGlyph& glyph, const TextMeasure& measure,
                                      std::span<const Box> taken);
 // The glyphs of the lines, at their middles; where glyphs would meet, the later one slides along its line or
 // becomes smaller.

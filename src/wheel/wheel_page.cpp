@@ -90,17 +90,25 @@ struct PlacedBlock {
 };
 using MakeBlock = TextBlock (*)(const BlockSource& source, const TextMeasure& measure, double size);
 
-// With its lower right corner at (right, bottom); none where it could not be read.
+// Where a block may stand.
+struct BlockRoom {
+    Point lowerRight;  // the block's own corner
+    const Extent& page;
+    std::span<const Box> taken;
+};
+
+// None where the block could not be read.
 std::optional<PlacedBlock> FitBlock(MakeBlock make, const BlockSource& source, const TextMeasure& measure,
-                                    Point lowerRight, const Extent& page, std::span<const Box> taken) {
+                                    const BlockRoom& room) {
     constexpr double kLargest = 10.0;
     constexpr double kSmallest = 5.0;
     constexpr double kClearRadius = 246.0;  // of the wheel with the nearer of its cusp labels
     for (double size = kLargest; size >= kSmallest; size -= 0.25) {
         TextBlock block = make(source, measure, size);
-        const Point corner{lowerRight.x - block.width, lowerRight.y + block.height};
+        const Point corner{room.lowerRight.x - block.width, room.lowerRight.y + block.height};
         const Box ground = block.At(corner);
-        if (Inside(ground, page) && NearestToCentre(ground) >= kClearRadius && IsFree(ground, taken)) {
+        if (Inside(ground, room.page) && NearestToCentre(ground) >= kClearRadius &&
+            IsFree(ground, room.taken)) {
             return PlacedBlock{std::move(block), corner};
         }
     }
@@ -127,7 +135,7 @@ LowerBlocks FitLowerBlocks(const PageRequest& request, const BlockSource& source
     if (ChartTypeOf(request.typeChart) == ChartType::ZodiacRing) makers.push_back(ElementTable);
     Point lowerRight{page.right - kMargin, page.bottom + kMargin};
     for (const MakeBlock make : makers) {
-        auto placed = FitBlock(make, source, measure, lowerRight, page, blocks.taken);
+        auto placed = FitBlock(make, source, measure, {lowerRight, page, blocks.taken});
         if (!placed) continue;
         blocks.taken.push_back(placed->Ground());
         lowerRight.x = placed->Ground().left - kBetween;

@@ -13,10 +13,6 @@ constexpr double kSlotStep = 4.0;  // degrees between slots
 constexpr double kLeastGap = 4.0;  // degrees between European glyphs
 constexpr double kOnCusp = 1.0 / 36000.0;
 
-double HouseWidth(const HouseCusps& cusps, int house) {
-    return Norm360(cusps.OfHouse(house % 12 + 1) - cusps.OfHouse(house));
-}
-
 // Degrees from the cusp of the point's house; a point just in front of the cusp is on it.
 double OffsetInHouse(const WheelSnapshot& chart, int point) {
     const double offset =
@@ -37,13 +33,20 @@ class SlotRow {
     std::array<bool, kSlots> taken_{};
 };
 
-// The slot of the k-th of n points of a house.
-int ChooseSlot(const SlotRow& row, int house, double offset, double width, int k, int n) {
-    int slot =
-        width > 0.0 ? static_cast<int>(std::min(kSlotsPerHouse * offset / width, kSlotsPerHouse - 1.0)) : 0;
-    if (slot >= kSlotsPerHouse - n + k) {
-        const bool fitsBehind = slot - (n - k) >= 0 && row.IsFree(house, slot);
-        slot = fitsBehind ? kSlotsPerHouse - 1 - n + k : kSlotsPerHouse - n;
+// The slot of its house that a point lies in.
+int OwnSlot(const WheelSnapshot& chart, int point) {
+    const int house = chart.PointHouse[point];
+    const double width = Norm360(chart.HouseCusps.OfHouse(house % 12 + 1) - chart.HouseCusps.OfHouse(house));
+    if (!(width > 0.0)) return 0;
+    const double slot = kSlotsPerHouse * OffsetInHouse(chart, point) / width;
+    return static_cast<int>(std::min(slot, kSlotsPerHouse - 1.0));
+}
+
+// Where a point that lies in `slot` comes to stand; `behind` of the house's `count` points follow it.
+int ChooseSlot(const SlotRow& row, int house, int slot, int count, int behind) {
+    if (slot >= kSlotsPerHouse - behind) {
+        const bool fitsBehind = slot - behind >= 0 && row.IsFree(house, slot);
+        slot = fitsBehind ? kSlotsPerHouse - 1 - behind : kSlotsPerHouse - count;
     }
     slot = std::max(slot, 0);
     while (!row.IsFree(house, slot)) ++slot;
@@ -89,18 +92,15 @@ class EuropeanAngles {
 
 void PlaceInSlots(const WheelSnapshot& chart, std::vector<PlacedGlyph>& glyphs) {
     const std::array<int, 12> counts = PointsPerHouse(chart);
+    std::array<int, 12> behind = counts;
     SlotRow row;
-    int house = 0;
-    int k = 0;
     for (PlacedGlyph& glyph : glyphs) {
-        k = glyph.house == house ? k + 1 : 1;
-        house = glyph.house;
-        const int n = counts[static_cast<std::size_t>(house - 1)];
-        glyph.slot = ChooseSlot(row, house, OffsetInHouse(chart, glyph.point),
-                                HouseWidth(chart.HouseCusps, house), k, n);
-        row.Take(house, glyph.slot);
-        glyph.angle = Norm360(SectorStart(house) + kSlotStep * glyph.slot);
-        glyph.drawn = n <= kSlotsPerHouse || (glyph.point != kSouthNode && glyph.point != kPartOfFortune);
+        const auto house = static_cast<std::size_t>(glyph.house - 1);
+        const int count = counts[house];
+        glyph.slot = ChooseSlot(row, glyph.house, OwnSlot(chart, glyph.point), count, --behind[house]);
+        row.Take(glyph.house, glyph.slot);
+        glyph.angle = Norm360(SectorStart(glyph.house) + kSlotStep * glyph.slot);
+        glyph.drawn = count <= kSlotsPerHouse || (glyph.point != kSouthNode && glyph.point != kPartOfFortune);
     }
 }
 

@@ -164,12 +164,15 @@ void DrawRingAspects(DrawingSurface& surface, const WheelPlan& plan) {
     }
     for (auto aspect = aspects.rbegin(); aspect != aspects.rend(); ++aspect) {
         if (aspect->code == kConjunction) continue;
-        const auto glyph =
-            GlyphOnLine(surface, AspectSpans(plan, *aspect)[0], AspectGlyph(aspect->code), {size},
-                        RingAspectColour(plan, aspect->code, kTextContrast), kBetweenGlyphs, taken);
-        if (!glyph) continue;
-        taken.push_back(InkOf(*glyph, surface));
-        glyphs.push_back(*glyph);
+        const LineGlyph glyph{AspectSpans(plan, *aspect)[0],
+                              AspectGlyph(aspect->code),
+                              {size},
+                              RingAspectColour(plan, aspect->code, kTextContrast),
+                              kBetweenGlyphs};
+        const auto text = GlyphOnLine(glyph, surface, taken);
+        if (!text) continue;
+        taken.push_back(InkOf(*text, surface));
+        glyphs.push_back(*text);
     }
     for (std::size_t i = 0; i < glyphs.size(); ++i) {
         const Box& ink = taken[i];

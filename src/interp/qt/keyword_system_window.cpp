@@ -6,7 +6,6 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
-#include "interp/keyword_system.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
 
@@ -37,11 +36,9 @@ KW_SYSTM::KW_SYSTM() {
     setWindowTitle(QStringLiteral("Keyword System of Analysis"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* grid = new QGridLayout(this);
-    const auto planets = std::span(kGridNames).first<kLessonPlanets>();
-    AddList(*grid, 0, "Combo1", "S&igns", kSignNames, SignLessonFile);
-    AddList(*grid, 1, "Combo2", "&Houses", kHouseNames, HouseLessonFile);
-    AddList(*grid, 2, "Combo3", "&Planets", planets, PlanetLessonFile);
     int row = 0;
+    for (const LessonChoice& choice : kLessonChoices) AddList(*grid, row++, choice);
+    row = 0;
     for (const LessonButton& lesson : kLessonButtons) {
         QPushButton* button = MakePushButton(lesson.control, QLatin1String(lesson.caption));
         connect(button, &QPushButton::clicked, this,
@@ -56,15 +53,14 @@ KW_SYSTM::KW_SYSTM() {
     grid->setHorizontalSpacing(fontMetrics().height());
 }
 
-void KW_SYSTM::AddList(QGridLayout& grid, int row, const char* name, const char* caption,
-                       std::span<const std::string_view> items, std::string (*fileOf)(int)) {
-    auto* list = new LessonList(items);
-    list->setObjectName(QLatin1String(name));
-    auto* label = new QLabel(QLatin1String(caption));
+void KW_SYSTM::AddList(QGridLayout& grid, int row, const LessonChoice& choice) {
+    auto* list = new LessonList(choice.items);
+    list->setObjectName(QLatin1String(choice.control));
+    auto* label = new QLabel(QLatin1String(choice.caption));
     label->setBuddy(list);
     list->setAccessibleName(label->text().remove(QLatin1Char('&')));
     connect(list, &LessonList::taken, this,
-            [this, fileOf](int index) { Q_EMIT lessonChosen(fileOf(index + 1)); });
+            [this, fileOf = choice.fileOf](int index) { Q_EMIT lessonChosen(fileOf(index + 1)); });
     grid.addWidget(label, row, 0);
     grid.addWidget(list, row, 1);
 }

@@ -3,10 +3,8 @@
 
 #include <QComboBox>
 #include <QWidget>
-#include <functional>
-#include <span>
-#include <string>
-#include <string_view>
+
+#include "interp/keyword_system.h"
 
 class QGridLayout;
 
@@ -43,9 +41,7 @@ class KW_SYSTM : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    // `fileOf` gives the lesson of an entry, counted from 1.
-    void AddList(QGridLayout& grid, int row, const char* name, const char* caption,
-                 std::span<const std::string_view> items, std::string (*fileOf)(int));
+    void AddList(QGridLayout& grid, int row, const LessonChoice& choice);
 };
 
 }  // namespace tolvanis
