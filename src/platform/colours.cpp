@@ -23,12 +23,7 @@ int FromChannels(const std::array<int, 3>& channels) {
     return Rgb(channels[0] << 16 | channels[1] << 8 | channels[2]);
 }
 
-}  // namespace
-
-int RgbOf(int colour) {
-    return (colour & kRgbColour) != 0 ? colour & 0xFFFFFF : kPalette[static_cast<std::size_t>(colour & 15)];
-}
-
+// How light a colour is, 0 to 1 (the guidelines' "relative luminance").
 double Luminance(int colour) {
     constexpr std::array kWeights = {0.2126, 0.7152, 0.0722};
     double luminance = 0.0;
@@ -38,6 +33,21 @@ double Luminance(int colour) {
             kWeights[i] * (value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4));
     }
     return luminance;
+}
+
+// The same hue with its lightness turned round: black for white, dark red for light red. What was chosen for
+// a white ground fits a black one.
+int LightnessTurned(int colour) {
+    std::array<int, 3> channels = Channels(colour);
+    const auto [least, most] = std::ranges::minmax(channels);
+    for (int& channel : channels) channel += 255 - least - most;
+    return FromChannels(channels);
+}
+
+}  // namespace
+
+int RgbOf(int colour) {
+    return (colour & kRgbColour) != 0 ? colour & 0xFFFFFF : kPalette[static_cast<std::size_t>(colour & 15)];
 }
 
 double Contrast(int a, int b) {
@@ -61,13 +71,6 @@ int Legible(int colour, int ground, double contrast) {
         if (Contrast(tried, ground) >= contrast) return tried;
     }
     return end;
-}
-
-int LightnessTurned(int colour) {
-    std::array<int, 3> channels = Channels(colour);
-    const auto [least, most] = std::ranges::minmax(channels);
-    for (int& channel : channels) channel += 255 - least - most;
-    return FromChannels(channels);
 }
 
 int ForGround(int colour, int ground, double contrast) {

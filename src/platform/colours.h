@@ -20,10 +20,8 @@ inline constexpr int kWhite = 15;
 // 0xRRGGBB of a colour; a number beyond the palette that Rgb did not make folds into the palette.
 int RgbOf(int colour);
 
-// Contrast of two colours, 1 to 21, and how light one is, 0 to 1 (Web Content Accessibility Guidelines 2.1,
-// "contrast ratio" and "relative luminance").
+// Contrast of two colours, 1 to 21 (Web Content Accessibility Guidelines 2.1, "contrast ratio").
 double Contrast(int a, int b);
-double Luminance(int colour);
 
 // Text and lines can be told from their ground from these contrasts on (the same guidelines, 1.4.3
 // and 1.4.11).
@@ -35,10 +33,6 @@ int Mixed(int a, int b, double share);
 
 // The colour itself, or as little darker or lighter as gives it that contrast to the ground.
 int Legible(int colour, int ground, double contrast);
-
-// The same hue with its lightness turned round: black for white, dark red for light red. What was chosen for
-// a white ground fits a black one.
-int LightnessTurned(int colour);
 
 // A colour chosen for white paper as it is drawn on another ground: turned on a dark one, and legible.
 int ForGround(int colour, int ground, double contrast);
