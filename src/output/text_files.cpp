@@ -29,11 +29,17 @@ std::string PrintFileText(std::span<const std::string> lines) {
     return JoinLines(lines).append(kLineEnd);
 }
 
+std::string FileNameText(std::string text) {
+    const auto isSign = [](char c) {
+        return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
+    };
+    std::ranges::replace_if(text, isSign, '_');
+    return text;
+}
+
 std::string ProposedFileName(std::string_view personName, std::string_view extension) {
     const std::string_view firstWord = personName.substr(0, personName.find(' '));
-    std::string stem(FirstCharacters(firstWord, kLongestStem));
-    std::replace_if(
-        stem.begin(), stem.end(), [](char c) { return c == '/' || c == '\\'; }, '_');
+    std::string stem = FileNameText(std::string(FirstCharacters(firstWord, kLongestStem)));
     if (stem.empty()) stem = "CHART";
     return stem.append(extension);
 }

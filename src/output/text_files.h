@@ -29,8 +29,11 @@ std::string SavedListing(std::span<const std::string> lines, double linesPerPage
 // What the print commands write: every line and one empty line.
 std::string PrintFileText(std::span<const std::string> lines);
 
-// A file name for a person's text: the name up to its first blank, at most 8 characters, and the extension
-// (".DOC"). Characters that separate directories become "_"; without a name it is "CHART".
+// A text as a file name may hold it, with "_" for each of the signs / \ : * ? " < > |.
+std::string FileNameText(std::string text);
+
+// A file name for a person's text: the name up to its first blank, at most 8 characters, as a file name may
+// hold it, and the extension (".DOC"); without a name it is "CHART".
 std::string ProposedFileName(std::string_view personName, std::string_view extension);
 
 // How a text file becomes a listing.

@@ -76,8 +76,8 @@ void DrawHouseNumbers(DrawingSurface& surface, const WheelPlan& plan) {
         const double width = Norm360(angles[(house + 1) % angles.size()] - angles[house]);
         const Point middle = OnWheel(angles[house] + width / 2, (kRingInnerRadius + kRingAspectRadius) / 2);
         const WheelText number = CentredText(surface, middle, std::to_string(house + 1), font,
-                                             Legible(8, plan.Background(), kTextContrast));
-        const double needed = surface.Measure(number.text, font).width / kRingAspectRadius * 180.0 / kPi;
+                                             Legible(kDarkGrey, plan.Background(), kTextContrast));
+        const double needed = RadToDeg(surface.Measure(number.text, font).width / kRingAspectRadius);
         if (width < std::max(kNarrow, 1.3 * needed)) continue;
         surface.Text(number.corner, number.text, number.font, number.colour);
     }

@@ -38,6 +38,7 @@ TEST(ProposedFileName, IsTheFirstWordCutToEightCharacters) {
                  {"Christopher Doe", "Christop.DOC"},
                  {"Zo\u00eb-\u00c9lodie-Anne", "Zo\u00eb-\u00c9lod.DOC"},
                  {"../x", ".._x.DOC"},
+                 {"A\\B:*?\"<>|", "A_B_____.DOC"},
                  {"", "CHART.DOC"},
                  {" Ann", "CHART.DOC"}};
     for (const auto& test : cases) EXPECT_EQ(ProposedFileName(test.person, ".DOC"), test.file);

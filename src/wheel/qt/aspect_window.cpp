@@ -29,7 +29,7 @@ void CWAspect::List(const WheelSnapshot& chart, const Path& orbsFile, Messages& 
     OrbTable orbs{};
     QString text;
     if (const Result<void> read = ReadOrbsFile(orbsFile, orbs); !read) {
-        messages.Tell("Error!", read.message(), MessageIcon::Warning);
+        messages.Tell("Error!", read.message(), MessageIcon::Stop);
     } else {
         text = QString::fromStdString(AspectListText(ListAspects(chart, orbs)));
     }

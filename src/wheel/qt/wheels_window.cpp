@@ -5,6 +5,7 @@
 #include <QPagedPaintDevice>
 #include <QScreen>
 
+#include "output/text_files.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/palette.h"
 #include "platform/qt/placement.h"
@@ -117,15 +118,15 @@ WheelRequest Wheels::RequestFor(QSizeF size, WheelUse use) const {
 }
 
 void Wheels::mnuCTAmerican_Click() {
-    SetTypeChart(0);
+    SetTypeChart(ChartType::American);
 }
 
 void Wheels::mnuCTEuropean_Click() {
-    SetTypeChart(1);
+    SetTypeChart(ChartType::European);
 }
 
 void Wheels::mnuCTRing_Click() {
-    SetTypeChart(2);
+    SetTypeChart(ChartType::ZodiacRing);
 }
 
 void Wheels::CheckType() {
@@ -135,11 +136,11 @@ void Wheels::CheckType() {
     mnuCTRing_->setChecked(type == ChartType::ZodiacRing);
 }
 
-void Wheels::SetTypeChart(int typeChart) {
+void Wheels::SetTypeChart(ChartType type) {
     const Hourglass hourglass;
-    typeChart_ = typeChart;
+    typeChart_ = static_cast<int>(type);
     CheckType();
-    Q_EMIT typeChartChanged(typeChart);
+    Q_EMIT typeChartChanged(typeChart_);
     ReadOrbs();
     canvas_->repaint();
 }
@@ -157,7 +158,7 @@ void Wheels::mnuAspects_Click() {
 void Wheels::mnuOrbsChange_Click() {
     if (!IsReadableFile(orbsFile_)) {
         context_.printing.messages.Tell("Error!", orbsFile_.string() + " cannot be found.",
-                                        MessageIcon::Warning);
+                                        MessageIcon::Stop);
     }
     const std::string chosen = context_.printing.dialogs.ChooseFile("*.ORB", orbsFile_.string());
     if (chosen.empty()) return;
@@ -183,11 +184,10 @@ void Wheels::PrintFullPage() {
                      .typeChart = typeChart_,
                      .personalLines = ReadPersonalLines(context_.personalBlock, context_.options)};
     if (const Result<void> read = ReadOrbsFile(orbsFile_, page.orbs); !read) {
-        context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Warning);
+        context_.printing.messages.Tell("Error!", read.message(), MessageIcon::Stop);
         page.orbs = NoOrbs();
     }
     PrintDocument(context_.printing, DocumentName(), [&](QPagedPaintDevice& device, QPainter& painter) {
-        const Hourglass hourglass;
         page.width = device.width();
         page.height = device.height();
         PainterSurface surface(painter, QRectF(0.0, 0.0, page.width, page.height), outlines_);
@@ -199,7 +199,6 @@ void Wheels::PrintHalfPage() {
     // The picture has the shape of the maximised window.
     const QSizeF window = screen()->availableSize();
     PrintDocument(context_.printing, DocumentName(), [&](QPagedPaintDevice& device, QPainter& painter) {
-        const Hourglass hourglass;
         const QSizeF half(device.width(), device.height() / 2.0);
         const QSizeF size = window.scaled(half, Qt::KeepAspectRatio);
         const QRectF area(QPointF((half.width() - size.width()) / 2, 0.0), size);
@@ -213,7 +212,7 @@ void Wheels::mnuExport_Click() {
     if (!file) return;
     const Hourglass hourglass;
     const Result<void> written = ExportWheel(RequestFor(canvas_->size()), *file);
-    if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Warning);
+    if (!written) context_.printing.messages.Tell("Error!", written.message(), MessageIcon::Stop);
 }
 
 // Asks until the name is that of a picture that can be drawn.
@@ -228,18 +227,14 @@ std::optional<Path> Wheels::ChoosePicture() {
         const std::optional<Path> file =
             ChooseOutput(context_.printing.dialogs, context_.printing.messages, request);
         if (!file || PictureFormatOf(*file)) return file;
-        context_.printing.messages.Tell("Error!", NoPictureName(*file), MessageIcon::Warning);
+        context_.printing.messages.Tell("Error!", NoPictureName(*file), MessageIcon::Stop);
         request.directory = file->parent_path();
         request.proposedName = file->filename().string();
     }
 }
 
 std::string Wheels::DocumentName() const {
-    std::string name = chart_.Name.empty() ? "Chartwheel" : chart_.Name;
-    for (char& c : name) {
-        if (std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
-    }
-    return name;
+    return FileNameText(chart_.Name.empty() ? "Chartwheel" : chart_.Name);
 }
 
 void Wheels::hideEvent(QHideEvent* event) {

@@ -70,7 +70,7 @@ class Wheels : public QMainWindow, private WheelPainter {
     QString WordsOf(int point) const override;
 
     void BuildMenu();
-    void SetTypeChart(int typeChart);
+    void SetTypeChart(ChartType type);
     void CheckType();
     void ReadOrbs();
     void Describe();

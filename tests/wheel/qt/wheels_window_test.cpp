@@ -110,7 +110,8 @@ TEST_F(WheelsTest, AspectWindowIsRebuiltFromTheSelectedOrbs) {
     EXPECT_EQ(wheels.orbsFile().filename(), "NONE.ORB") << "cancelling keeps the file";
     std::filesystem::remove(directory / "NONE.ORB");
     Item(wheels, "mnuAspects").trigger();
-    EXPECT_EQ(messages.told.size(), 1u);
+    ASSERT_EQ(messages.told.size(), 1u);
+    EXPECT_EQ(messages.told[0].icon, MessageIcon::Stop);
 }
 
 TEST_F(WheelsTest, PrintsAsAsked) {
@@ -165,7 +166,7 @@ TEST_F(WheelsTest, ExportsByExtension) {
 
 // A name may be longer than that of a file.
 TEST_F(WheelsTest, ProposesNamesThatAFileCanHave) {
-    chart.Name += ".";
+    chart.Name += "/?.";
     for (int i = 0; i < 150; ++i) chart.Name += "\xC3\xAB";
     Wheels wheels(chart, context, 0);
     Item(wheels, "mnuExport").trigger();
@@ -177,7 +178,7 @@ TEST_F(WheelsTest, ProposesNamesThatAFileCanHave) {
         EXPECT_TRUE(request.proposedName.ends_with(extension)) << request.proposedName;
         EXPECT_TRUE(ReplaceFile(directory / request.proposedName, "picture"));
         EXPECT_EQ(request.proposedName.size(), 254u) << "as long as can be, without half a letter";
-        EXPECT_TRUE(QString::fromStdString(request.proposedName).startsWith(QStringLiteral("Ann Smith")));
+        EXPECT_TRUE(QString::fromStdString(request.proposedName).startsWith(QStringLiteral("Ann Smith__.")));
     }
 }
 
@@ -366,7 +367,8 @@ TEST_F(WheelsTest, PrintsNoAspectsWithoutOrbs) {
     EXPECT_EQ(messages.told.size(), 0u);
     std::filesystem::remove(directory / "NATAL.ORB");
     EXPECT_EQ(print(), bare);
-    EXPECT_EQ(messages.told.size(), 1u) << "the file that cannot be read is told";
+    ASSERT_EQ(messages.told.size(), 1u) << "the file that cannot be read is told";
+    EXPECT_EQ(messages.told[0].icon, MessageIcon::Stop);
 }
 
 TEST_F(WheelsTest, TheFirstKeyGoesToTheFirstOrTheLastPoint) {
