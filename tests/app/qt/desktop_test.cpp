@@ -624,9 +624,27 @@ TEST_F(DesktopWindow, ExitWhileTheAtlasRunsIsSafe) {
     const Path atlas = directory_.Write("ATLAS.EXE", "#!/bin/sh\nsleep 0.5\n");
     std::filesystem::permissions(atlas, std::filesystem::perms::owner_all);
     state_.settings.AtlasDir = directory_.path().string() + "/";
+    auto& button = Find<QPushButton>(input(), "Label2");
+    QTimer::singleShot(100, &button, [&] { EXPECT_FALSE(button.isEnabled()) << "asked for once"; });
+    Press(input(), "Label2");
+    EXPECT_TRUE(button.isEnabled());
+    messages_.TakeTold();
     QTimer::singleShot(100, &desktop_->mainWindow(), [this] { Choose("mnuFileExit"); });
     Press(input(), "Label2");
     EXPECT_FALSE(input().isVisible());
+}
+
+// Places in twips are finer than pixels: one that nobody changes must not creep from run to run.
+TEST_F(DesktopWindow, AMainWindowThatNobodyMovesKeepsItsPlaceToTheTwip) {
+    Settings settings = DefaultSettings(directory_.path());
+    settings.TOLVANISTop = 127;
+    settings.TOLVANISLeft = 911;
+    settings.TOLVANISHeight = 1507;
+    settings.TOLVANISWidth = 9001;
+    ASSERT_TRUE(WriteSettings(directory_.path(), settings));
+    ASSERT_TRUE(Open());
+    desktop_->mainWindow().close();
+    EXPECT_EQ(*ReadSettings(directory_.path()), settings);
 }
 
 TEST(Placement, BringsLostWindowsBack) {
