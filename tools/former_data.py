@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-EDITED_BY_USERS = (".FIL", ".LL", ".OPT", ".ORB")
+EDITED_BY_USERS = (".FIL", ".LL", ".OPT", ".ORB", ".NAM")
 
 
 def git(*arguments):
