@@ -11,7 +11,7 @@ namespace {
 
 WheelSnapshot SampleWheel() {
     const auto entry = EntryFromRecord(*ParseNameRecord("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45"));
-    const NatalData natal = ParseNatalData(*entry, HouseSystem::Placidus, 1);
+    const NatalData natal = ParseNatalData(*entry, {}, 1);
     return MakeWheelSnapshot(natal, *ComputePositions(natal));
 }
 

@@ -152,7 +152,7 @@ inline NatalEntry EntryOf(const std::string& record) {
 }
 
 inline NatalData NatalOf(const std::string& record, HouseSystem system = HouseSystem::Placidus) {
-    return ParseNatalData(EntryOf(record), system, 1);
+    return ParseNatalData(EntryOf(record), {system}, 1);
 }
 
 inline ChartPositions ChartOf(const std::string& record, HouseSystem system = HouseSystem::Placidus) {

@@ -23,7 +23,7 @@ struct Sample {
 
     Sample() {
         const auto entry = EntryFromRecord(*ParseNameRecord("Ann Smith,22 Sep 1949,9.05,A,5,073.59,40.45"));
-        const NatalData natal = ParseNatalData(*entry, HouseSystem::Placidus, 1);
+        const NatalData natal = ParseNatalData(*entry, {}, 1);
         chart = MakeWheelSnapshot(natal, *ComputePositions(natal));
         data = *ReadWheelData(DataFiles(DELIVERED_DATA_DIR));
         (void)ReadOptions(DataFiles(DELIVERED_DATA_DIR), options);

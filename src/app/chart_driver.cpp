@@ -16,18 +16,14 @@ void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& op
 }
 
 ComputeOutcome ComputeChart(const NatalEntry& entry, const Method& method, int iDate, const Options& options,
-                            CurrentChart& chart, DataBuffer& buffer, Messages& messages) {
+                            Messages& messages) {
     const Result<CurrentChart, ChartFaults> made = MakeChart(entry, method, iDate, options);
-    if (made) {
-        chart = *made;
-        WriteChart(buffer, chart, options);
-        return {.computed = true, .toCorrect = std::nullopt};
-    }
+    if (made) return {*made, {}};
     const ChartFaults& faults = made.fault();
     for (const InputFault& fault : faults.entry) {
         messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
     }
-    if (!faults.entry.empty()) return {.computed = false, .toCorrect = faults.entry.front().field};
+    if (!faults.entry.empty()) return {{}, faults.entry.front().field};
     messages.Tell("Error!", "The chart cannot be computed: " + faults.computation + ".", MessageIcon::Stop);
     return {};
 }

@@ -1,5 +1,5 @@
 #pragma once
-// A computation as the user sees it: its faults told, its listing written.
+// A computation as the user sees it: its faults told, its listing in the buffer.
 
 #include <optional>
 
@@ -13,14 +13,13 @@ namespace tolvanis {
 void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& options);
 
 struct ComputeOutcome {
-    bool computed = false;
-    std::optional<EntryField> toCorrect;  // where the user corrects the entry first
+    std::optional<CurrentChart> chart;
+    std::optional<EntryField> toCorrect;  // without a chart: where the user corrects the entry first
 };
 
-// The entry's chart into `chart` and its listing into the buffer, which the caller has emptied. Faults of the
-// entry are told one by one and leave everything as it was, as does a computation that overflows.
+// The chart of an entry. Faults of the entry are told one by one, and so is a computation that overflows.
 ComputeOutcome ComputeChart(const NatalEntry& entry, const Method& method, int iDate, const Options& options,
-                            CurrentChart& chart, DataBuffer& buffer, Messages& messages);
+                            Messages& messages);
 
 // Whether a computed listing stays in the buffer for saving and printing (option 165) once it has been shown.
 bool KeepsListing(const Options& options);

@@ -66,11 +66,6 @@ Result<ChartPositions> ComputePositions(const NatalData& natal) {
     return chart;
 }
 
-Method MethodOfOptions(const Options& options) {
-    constexpr int kHouseSystemOption = 27;
-    return {HouseSystemOfOption(options[kHouseSystemOption]), TheoryOfOption(options[kTheoryOption])};
-}
-
 std::vector<std::string> ChartFaults::Details() const {
     if (!computation.empty()) return {computation};
     std::vector<std::string> details;
@@ -82,8 +77,7 @@ Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, const Metho
                                             const Options& options) {
     std::vector<InputFault> faults = CheckEntry(entry, method.houses);
     if (!faults.empty()) return ChartFaults{std::move(faults), {}};
-    NatalData natal = ParseNatalData(entry, method.houses, iDate);
-    natal.Theory = method.theory;
+    const NatalData natal = ParseNatalData(entry, method, iDate);
     const Result<ChartPositions> positions = ComputePositions(natal);
     if (!positions) return ChartFaults{{}, positions.message()};
     return CurrentChart{natal, *positions, FindAspects(*positions, options)};

@@ -34,15 +34,6 @@ struct ChartFaults {
     std::vector<std::string> Details() const;
 };
 
-// How a chart is computed.
-struct Method {
-    HouseSystem houses = HouseSystem::Placidus;
-    Theory theory = Theory::Classic;
-};
-
-// The method that options 27 and 26 name.
-Method MethodOfOptions(const Options& options);
-
 // The chart of an entry: checked, read, computed, its aspects searched under the orbs of the options. iDate
 // is the system's date order.
 Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,

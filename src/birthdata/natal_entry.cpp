@@ -192,7 +192,7 @@ std::vector<InputFault> CheckEntry(const NatalEntry& entry, HouseSystem system) 
     return faults;
 }
 
-NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate) {
+NatalData ParseNatalData(const NatalEntry& entry, const Method& method, int iDate) {
     NatalData data;
     data.Name = Printable(entry.name);
     data.Day = Whole(entry.day);
@@ -206,7 +206,8 @@ NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate)
     data.LongitudeSide = data.Longitude < 0 ? "EAST" : "WEST";
     data.Latitude = Packed(entry.latDeg, entry.latMin, entry.south);
     data.LatitudeSide = data.Latitude < 0 ? "SOUTH" : "NORTH";
-    data.HouseSystem = system;
+    data.HouseSystem = method.houses;
+    data.Theory = method.theory;
     return data;
 }
 

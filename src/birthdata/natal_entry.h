@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "chart/house_system.h"
+#include "chart/method.h"
 #include "chart/natal_data.h"
 #include "chart/options.h"
 #include "platform/clock.h"
@@ -80,6 +80,6 @@ inline constexpr int kHomeZoneOption = 18;
 
 // The birth data of an entry that passed the checks; iDate is the system's date order. Numbers are read with
 // the leading-number reading, whole ones rounded half to even.
-NatalData ParseNatalData(const NatalEntry& entry, HouseSystem system, int iDate);
+NatalData ParseNatalData(const NatalEntry& entry, const Method& method, int iDate);
 
 }  // namespace tolvanis

@@ -12,7 +12,7 @@ TEST(NatalChart, AnyBirthThatPassesTheChecksIsComputed) {
     int computed = 0;
     const auto check = [&](const NatalEntry& entry, const HouseSystemInfo& info) {
         if (!CheckEntry(entry, info.system).empty()) return;
-        const auto positions = ComputePositions(ParseNatalData(entry, info.system, 1));
+        const auto positions = ComputePositions(ParseNatalData(entry, {info.system}, 1));
         ASSERT_TRUE(positions) << entry.year << ' ' << entry.latDeg << ' ' << info.name
                                << positions.message();
         for (int point = 1; point <= kChartPointCount; ++point) {

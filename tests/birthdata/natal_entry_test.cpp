@@ -93,7 +93,7 @@ TEST(NatalEntry, PolarLatitudesNeedMeridianOrMorinus) {
 TEST(NatalEntry, ParsedIntoPackedValues) {
     NatalEntry entry = kGood;
     entry.east = entry.south = entry.pm = true;
-    const NatalData data = ParseNatalData(entry, HouseSystem::Koch, 2);
+    const NatalData data = ParseNatalData(entry, {HouseSystem::Koch}, 2);
     EXPECT_EQ(data.DateText, "1949/9/22");
     EXPECT_EQ(data.ClockTime, 9.05);
     EXPECT_EQ(data.AmPm, "P.M.");

@@ -261,12 +261,13 @@ void Desktop::Compute() {
     const Hourglass hourglass;
     births_->CloseTimeZones();
     state_.buffer.ClearDataBuffer();
-    const ComputeOutcome outcome =
-        ComputeChart(natalInput().Entry(), state_.method, state_.order.iDate, state_.options, state_.chart,
-                     state_.buffer, services_.messages);
+    const ComputeOutcome outcome = ComputeChart(natalInput().Entry(), state_.method, state_.order.iDate,
+                                                state_.options, services_.messages);
     if (outcome.toCorrect) return ShowInputFault(*outcome.toCorrect);
-    if (!outcome.computed) return;
+    if (!outcome.chart) return;
+    state_.chart = *outcome.chart;
     state_.chartComputed = true;
+    WriteChart(state_.buffer, state_.chart, state_.options);
     births_->Hide();
     main_->ShowChartItems();
     ShowDataBuffer();
