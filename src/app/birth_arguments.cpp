@@ -132,8 +132,8 @@ void ReadPlacedBirth(const BirthArguments& births, const CommandData& data, Birt
     if (!book) return receiver.Refuse("--at", book.message());
     if (!births.birth) {
         NatalEntry now;
-        const auto placed = PlacePresentMoment(*book, *births.at, births.zone,
-                                               OnClockOfZone(data.time.clock(), 0.0), data.options, now);
+        const auto placed =
+            PlacePresentMoment(*book, *births.at, births.zone, OnClockOfZone(data.time.clock(), 0.0), now);
         if (!placed) return receiver.Refuse("--at", placed.message());
         return receiver.Take({now, "--now", *placed});
     }

@@ -18,13 +18,14 @@ struct PlacedBirth {
 };
 
 // Fills place and zone of an entry that holds date and time. A fault lists all candidates: places, or the
-// readings where a time came twice or did not exist; `zone` settles the time.
+// readings where a time came twice or did not exist, or says that the zone of the place is not known; `zone`
+// settles the time.
 Result<PlacedBirth> PlaceBirth(const ZoneBook& book, const std::string& at, std::optional<double> zone,
                                NatalEntry& entry);
 
 // The entry of the present moment there; `universal` is the present moment in Universal Time.
 Result<PlacedBirth> PlacePresentMoment(const ZoneBook& book, const std::string& at,
                                        std::optional<double> zone, const LocalTime& universal,
-                                       const Options& options, NatalEntry& entry);
+                                       NatalEntry& entry);
 
 }  // namespace tolvanis

@@ -11,7 +11,6 @@ namespace tolvanis {
 namespace {
 
 constexpr double kMostKm = 60.0;
-constexpr double kOneSecond = 1.0 / 3600.0;
 
 std::optional<double> Degrees(const std::string& degrees, const std::string& minutes, int most,
                               bool negative) {
@@ -20,11 +19,6 @@ std::optional<double> Degrees(const std::string& degrees, const std::string& min
     if (!whole || !sixtieths) return std::nullopt;
     const double value = *whole + *sixtieths / 60.0;
     return negative ? -value : value;
-}
-
-std::string DateText(const ClockMoment& clock) {
-    std::string date = FormatDate(clock.date);
-    return date.starts_with('0') ? date.substr(1) : date;
 }
 
 std::string ZoneWords(const EntryReadings& found, const ZoneReading& reading) {
@@ -38,32 +32,36 @@ std::string Doubt(const ZoneReading& reading) {
     return sure ? std::string() : ". " + GradeText(reading);
 }
 
-ZoneAdvice OneReading(const EntryReadings& found, const ZoneReading& reading) {
-    return {"On " + DateText(reading.clock) + " " + std::string(KindText(reading.kind)) +
-                " was in force in " + found.place.name + ": " + ZoneWords(found, reading) + Doubt(reading),
-            ZoneHoursText(found.HoursOf(reading))};
-}
-
-ZoneAdvice TwoReadings(const EntryReadings& found) {
-    std::string text = "On " + DateText(found.clock) + " " + ClockText(found.clock) + " came twice in " +
-                       found.place.name + ": ";
+std::string OneAfterTheOther(const EntryReadings& found) {
+    std::string text;
     for (const ZoneReading& reading : found.answer.readings) {
-        if (&reading != &found.answer.readings.front()) text += ", then ";
+        if (!text.empty()) text += ", then ";
         text += ZoneWords(found, reading) + " (" + std::string(KindText(reading.kind)) + ")";
     }
-    return {text + Doubt(found.answer.readings.front()), {}};
+    return text;
 }
 
-ZoneAdvice NoReading(const EntryReadings& found) {
-    const auto& around = found.answer.around;
-    if (around.size() < 2) return {};
-    const bool sameDay = around.front().clock.date == around.back().clock.date;
-    return {"On " + DateText(found.clock) + " " + ClockText(found.clock) + " did not exist in " +
-                found.place.name + ": clocks went from " + ClockText(around.front().clock) + " (" +
-                ZoneWords(found, around.front()) + ") to " +
-                (sameDay ? "" : DateText(around.back().clock) + " ") + ClockText(around.back().clock) + " (" +
-                ZoneWords(found, around.back()) + ")" + Doubt(around.front()),
-            {}};
+std::string Jump(const EntryReadings& found) {
+    const ZoneReading& last = found.answer.around.front();
+    const ZoneReading& first = found.answer.around.back();
+    const bool sameDay = last.clock.date == first.clock.date;
+    return "clocks went from " + ClockText(last.clock) + " (" + ZoneWords(found, last) + ") to " +
+           (sameDay ? ClockText(first.clock) : MomentText(first.clock)) + " (" + ZoneWords(found, first) +
+           ")";
+}
+
+std::string ZonesText(const EntryReadings& found) {
+    switch (found.outcome()) {
+        case ZoneOutcome::One:
+            return ZoneWords(found, found.answer.readings.front());
+        case ZoneOutcome::Twice:
+            return OneAfterTheOther(found);
+        case ZoneOutcome::Never:
+            return Jump(found);
+        case ZoneOutcome::Unknown:
+            break;
+    }
+    return {};
 }
 
 }  // namespace
@@ -88,10 +86,20 @@ std::optional<ClockMoment> ClockOfEntry(const NatalEntry& entry) {
 }
 
 EntryZone EntryZoneOf(int offset, double degreesEast) {
-    const double hours = -offset / 3600.0;
+    const double hours = HoursOfOffset(offset);
     if (hours < -13.0 || (degreesEast < 0.0 && hours < -2.0)) return {hours + 24.0, -1};
     if (hours > 12.0) return {hours - 24.0, 1};
-    return {hours == 0.0 ? 0.0 : hours, 0};
+    return {hours, 0};
+}
+
+ZoneOutcome EntryReadings::outcome() const {
+    if (answer.readings.size() == 1) return ZoneOutcome::One;
+    if (!answer.readings.empty()) return ZoneOutcome::Twice;
+    return answer.around.empty() ? ZoneOutcome::Unknown : ZoneOutcome::Never;
+}
+
+const std::vector<ZoneReading>& EntryReadings::Candidates() const {
+    return answer.readings.empty() ? answer.around : answer.readings;
 }
 
 double EntryReadings::HoursOf(const ZoneReading& reading) const {
@@ -100,11 +108,15 @@ double EntryReadings::HoursOf(const ZoneReading& reading) const {
 
 const ZoneReading* EntryReadings::WithZone(double hours) const {
     const auto& readings = answer.readings;
-    const auto fits = [&](const ZoneReading& reading) {
-        return std::abs(HoursOf(reading) - hours) < kOneSecond;
-    };
+    const auto fits = [&](const ZoneReading& reading) { return IsSameZone(HoursOf(reading), hours); };
     const auto found = std::ranges::find_if(readings, fits);
     return found != readings.end() ? &*found : nullptr;
+}
+
+EntryReadings ReadingsAt(const ZoneBook& book, AtlasPlace place, const ClockMoment& clock) {
+    place.place = place.AsEntered();
+    ZoneAnswer answer = LookUpZone(book.history, place.place, clock);
+    return {std::move(place), clock, std::move(answer)};
 }
 
 std::optional<EntryReadings> ReadingsOfEntry(const ZoneBook& book, const NatalEntry& entry) {
@@ -114,35 +126,45 @@ std::optional<EntryReadings> ReadingsOfEntry(const ZoneBook& book, const NatalEn
     if (!clock || !east || !north) return std::nullopt;
     const auto nearest = book.atlas.Nearest(*north, *east, kMostKm);
     if (!nearest) return std::nullopt;
-    EntryReadings found{book.atlas.At(*nearest), *clock, {}};
-    found.place.place.degreesNorth = *north;
-    found.place.place.degreesEast = *east;
-    found.answer = LookUpZone(book.history, found.place.place, *clock);
+    AtlasPlace place = book.atlas.At(*nearest);
+    place.place.degreesNorth = *north;
+    place.place.degreesEast = *east;
+    EntryReadings found = ReadingsAt(book, place, *clock);
+    if (found.outcome() == ZoneOutcome::Unknown) return found;
     // Beyond the date line an entry holds the date of another day.
-    const auto& readings = found.answer.readings.empty() ? found.answer.around : found.answer.readings;
-    if (readings.empty()) return found;
-    const int days = EntryZoneOf(readings.front().offset, *east).days;
+    const int days = EntryZoneOf(found.Candidates().front().offset, *east).days;
     if (days == 0) return found;
-    const ZoneAnswer shifted = LookUpZone(book.history, found.place.place, DaysLater(*clock, -days));
+    EntryReadings shifted = ReadingsAt(book, place, DaysLater(*clock, -days));
     const auto isShifted = [&](const ZoneReading& reading) {
         return EntryZoneOf(reading.offset, *east).days == days;
     };
-    if (std::ranges::all_of(shifted.readings, isShifted)) {
-        found.clock = DaysLater(*clock, -days);
-        found.answer = shifted;
+    return std::ranges::all_of(shifted.answer.readings, isShifted) ? shifted : found;
+}
+
+std::string WhatHappened(const EntryReadings& found, const std::string& place) {
+    switch (found.outcome()) {
+        case ZoneOutcome::One:
+            return DateText(found.clock) + " " + std::string(KindText(found.answer.readings.front().kind)) +
+                   " was in force in " + place;
+        case ZoneOutcome::Twice:
+            return MomentText(found.clock) + " came twice in " + place;
+        case ZoneOutcome::Never:
+            return MomentText(found.clock) + " did not exist in " + place;
+        case ZoneOutcome::Unknown:
+            break;
     }
-    return found;
+    return "the zone history knows nothing of the zone " + found.place.place.zone;
 }
 
 ZoneAdvice AdviseZone(const ZoneBook& book, const NatalEntry& entry) {
     const auto found = ReadingsOfEntry(book, entry);
-    if (!found) return {};
-    const auto& readings = found->answer.readings;
-    if (readings.empty()) return NoReading(*found);
-    if (readings.size() > 1) return TwoReadings(*found);
+    if (!found || found->outcome() == ZoneOutcome::Unknown) return {};
+    const bool isOne = found->outcome() == ZoneOutcome::One;
     const auto typed = EntireNumber(entry.timeZone);
-    if (typed && found->WithZone(*typed) != nullptr) return {};
-    return OneReading(*found, readings.front());
+    if (isOne && typed && found->WithZone(*typed) != nullptr) return {};
+    const ZoneReading& first = found->Candidates().front();
+    return {"On " + WhatHappened(*found, found->place.name) + ": " + ZonesText(*found) + Doubt(first),
+            isOne ? ZoneHoursText(found->HoursOf(first)) : std::string()};
 }
 
 std::string ReadingText(const ZoneReading& reading) {
@@ -152,11 +174,9 @@ std::string ReadingText(const ZoneReading& reading) {
 }
 
 std::string GradeText(const ZoneReading& reading) {
-    std::string text = reading.reason;
-    if (!text.empty() && text.front() >= 'a' && text.front() <= 'z') text.front() -= 32;
     constexpr std::string_view kGrades[] = {"Sure: ", "Reference city: ", "Not certain: ", "Disputed: ", ""};
-    return std::string(kGrades[static_cast<std::size_t>(reading.grade)]) +
-           (reading.grade == ZoneGrade::Local ? text : reading.reason);
+    std::string text = std::string(kGrades[static_cast<std::size_t>(reading.grade)]) + reading.reason;
+    return text.replace(0, 1, UpperCase(text.substr(0, 1)));
 }
 
 }  // namespace tolvanis

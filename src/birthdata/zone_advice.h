@@ -31,20 +31,38 @@ struct EntryZone {
 };
 EntryZone EntryZoneOf(int offset, double degreesEast);
 
-// What is in force where and when an entry says: the place nearest to its coordinates within 60 km, taken at
-// the coordinates themselves, and the readings there. Nothing while the entry is not complete, or in the
-// middle of the sea.
+// What the zone history has of a clock time.
+enum class ZoneOutcome {
+    One,      // one zone was in force
+    Twice,    // the clocks were put back over it
+    Never,    // they jumped over it
+    Unknown,  // the zone history does not have the zone of the place
+};
+
+// What was in force at a place when its clocks showed a time.
 struct EntryReadings {
-    AtlasPlace place;
-    ClockMoment clock;  // of the entry
+    AtlasPlace place;  // at its coordinates as an entry has them
+    ClockMoment clock;
     ZoneAnswer answer;
+
+    ZoneOutcome outcome() const;
+    // The readings, or those around a time that never was.
+    const std::vector<ZoneReading>& Candidates() const;
 
     // The hours that the entry's boxes take for one of the readings.
     double HoursOf(const ZoneReading& reading) const;
     // The reading that has these hours, to the second.
     const ZoneReading* WithZone(double hours) const;
 };
+EntryReadings ReadingsAt(const ZoneBook& book, AtlasPlace place, const ClockMoment& clock);
+
+// The readings where and when an entry says: at the place nearest to its coordinates within 60 km, taken at
+// the coordinates themselves. Nothing while the entry is not complete, or in the middle of the sea.
 std::optional<EntryReadings> ReadingsOfEntry(const ZoneBook& book, const NatalEntry& entry);
+
+// What the clocks of a place, called by this name, did: "5 Apr 1951 2:30 A.M. did not exist in Atlanta".
+// Without a full stop.
+std::string WhatHappened(const EntryReadings& found, const std::string& place);
 
 // One line for below the boxes; an empty text when the zone typed is the one in force, or nothing is known.
 struct ZoneAdvice {

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kKmOfReferenceCity = 15.0;
 constexpr double kSecondsPerDegree = 240.0;
+constexpr double kSecondsPerHour = 3600.0;
 
 std::int64_t LocalSeconds(const ClockMoment& moment) {
     const CalendarDate& date = moment.date;
@@ -119,9 +120,10 @@ ClockMoment Later(const ClockMoment& moment, int seconds) {
     return ClockOf(LocalSeconds(moment) + seconds);
 }
 
-int OffsetAtUniversal(const ZoneHistory& history, const ZonePlace& place, const ClockMoment& universal) {
+std::optional<int> OffsetAtUniversal(const ZoneHistory& history, const ZonePlace& place,
+                                     const ClockMoment& universal) {
     const std::vector<ZonePeriod>& periods = history.ClocksOf(place.zone);
-    if (periods.empty()) return 0;
+    if (periods.empty()) return std::nullopt;
     const auto next = std::ranges::upper_bound(periods, LocalSeconds(universal), {}, &ZonePeriod::start);
     return OffsetOf(next == periods.begin() ? periods.front() : *std::prev(next), place);
 }
@@ -168,6 +170,18 @@ std::string_view GradeCode(ZoneGrade grade) {
     return kGrades[static_cast<std::size_t>(grade)];
 }
 
+double HoursOfOffset(int offset) {
+    return -offset / kSecondsPerHour;
+}
+
+int OffsetOfHours(double hoursWest) {
+    return static_cast<int>(std::lround(hoursWest * -kSecondsPerHour));
+}
+
+bool IsSameZone(double hoursWest, double otherHoursWest) {
+    return std::abs(hoursWest - otherHoursWest) < 1.0 / kSecondsPerHour;
+}
+
 std::string ZoneHoursText(double hoursWest) {
     constexpr double kPerHour = 10000.0;  // four decimals tell seconds apart
     const double hours = std::round(hoursWest * kPerHour) / kPerHour;
@@ -179,6 +193,15 @@ std::string ClockText(const ClockMoment& moment) {
     std::string text = std::to_string((hour + 11) % 12 + 1) + ":" + TwoDigits(moment.seconds / 60 % 60);
     if (moment.seconds % 60 != 0) text += ":" + TwoDigits(moment.seconds % 60);
     return text + (hour < 12 ? " A.M." : " P.M.");
+}
+
+std::string DateText(const ClockMoment& moment) {
+    const std::string date = FormatDate(moment.date);
+    return date.starts_with('0') ? date.substr(1) : date;
+}
+
+std::string MomentText(const ClockMoment& moment) {
+    return DateText(moment) + " " + ClockText(moment);
 }
 
 double DistanceKm(double north1, double east1, double north2, double east2) {

@@ -59,8 +59,9 @@ struct ZoneAnswer {
 // has local mean time the place's own longitude counts, 4 minutes a degree. Nothing for an unknown zone.
 ZoneAnswer LookUpZone(const ZoneHistory& history, const ZonePlace& place, const ClockMoment& moment);
 
-// The offset in force at a moment of Universal Time.
-int OffsetAtUniversal(const ZoneHistory& history, const ZonePlace& place, const ClockMoment& universal);
+// The offset in force at a moment of Universal Time; nothing for an unknown zone.
+std::optional<int> OffsetAtUniversal(const ZoneHistory& history, const ZonePlace& place,
+                                     const ClockMoment& universal);
 
 // "daylight saving", "local mean time" ...
 std::string_view KindText(ZoneKind kind);
@@ -68,11 +69,20 @@ std::string_view KindText(ZoneKind kind);
 std::string_view KindCode(ZoneKind kind);
 std::string_view GradeCode(ZoneGrade grade);
 
+// A zone as seconds, positive east, and as hours, positive west.
+double HoursOfOffset(int offset);
+int OffsetOfHours(double hoursWest);
+// Whether zones in hours are the same to the second.
+bool IsSameZone(double hoursWest, double otherHoursWest);
+
 // Hours of a zone in the shortest text that gives the second.
 std::string ZoneHoursText(double hoursWest);
 
 // "4:05 A.M.", with the seconds where there are some.
 std::string ClockText(const ClockMoment& moment);
+// The date in a sentence: "5 Jan 1951"; and with the clock time behind it.
+std::string DateText(const ClockMoment& moment);
+std::string MomentText(const ClockMoment& moment);
 
 // Kilometres between two places.
 double DistanceKm(double north1, double east1, double north2, double east2);

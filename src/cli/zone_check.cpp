@@ -28,13 +28,14 @@ class ZoneChecker : public EntryWriter {
         }
         const auto found = ReadingsOfEntry(book_, entry);
         if (!found) return WriteLine(source + ": " + entry.name + ": no place within 60 km is known");
-        const double typed = LeadingNumber(entry.timeZone);
-        if (found->WithZone(typed) != nullptr) return;
+        const std::string place = found->place.FullName();
+        if (found->outcome() == ZoneOutcome::Unknown)
+            return WriteLine(source + ": " + entry.name + ": " + WhatHappened(*found, place));
+        if (found->WithZone(LeadingNumber(entry.timeZone)) != nullptr) return;
         std::string line = source + ": " + entry.name + ": zone " + entry.timeZone;
-        const bool exists = !found->answer.readings.empty();
-        line += exists ? "; in force at " : "; this time did not exist at ";
-        line += found->place.FullName();
-        for (const ZoneReading& reading : exists ? found->answer.readings : found->answer.around) {
+        line += found->outcome() == ZoneOutcome::Never ? "; this time did not exist at " : "; in force at ";
+        line += place;
+        for (const ZoneReading& reading : found->Candidates()) {
             line += "; zone " + ZoneHoursText(found->HoursOf(reading)) + ", " + ReadingText(reading) +
                     ": Ascendant " + Difference(chart->positions.Ascendant, entry, found->HoursOf(reading)) +
                     ". " + GradeText(reading);
@@ -55,8 +56,7 @@ class ZoneChecker : public EntryWriter {
         other.timeZone = NumberText(hours);
         const auto chart = MakeChart(other, kAnyLatitude, 1, options_);
         if (!chart) return "not computed";
-        double way = Norm360(chart->positions.Ascendant - ascendant);
-        if (way > 180.0) way -= 360.0;
+        const double way = SignedArc(ascendant, chart->positions.Ascendant);
         const auto minutes = static_cast<int>(std::lround(std::abs(way) * 60.0));
         return (way < 0.0 ? "-" : "+") + std::to_string(minutes / 60) + "d " + TwoDigits(minutes % 60) + "m";
     }

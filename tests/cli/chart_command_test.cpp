@@ -105,6 +105,26 @@ TEST(ChartCommand, ZonesOfANamesFileAreChecked) {
     EXPECT_EQ(agreed.output + agreed.errors, "");
 }
 
+// A place whose zone the zone history does not have is no place where a time came twice or never.
+TEST(ChartCommand, AnUnknownZoneIsSaidToBeUnknown) {
+    const ScratchDirectory directory;
+    std::filesystem::copy(DELIVERED_DATA_DIR "/OPTIONS.OPT", directory.path());
+    directory.Write("ZONES.DAT", "V 2026-01-01\nZ A/B 1 - CET\n# end\n");
+    directory.Write("ATLAS.DAT", "Z A/Gone\nC US\tUnited States\nR GA\tGeorgia\nTown\t0\t0\t9\t0\n# end\n");
+    const std::string born = "Ann,22 Sep 1949,9.05,A", rest = ",0,000.00,00.00";
+    const std::string names = directory.Write("z.fil", born + rest + "\r\n").string();
+    const std::string unknown = ": the zone history knows nothing of the zone A/Gone\n";
+    const Outcome checked = RunWith({"--check-zones", "--names", names}, directory.path());
+    EXPECT_EQ(checked.status, kAllComputed) << "what is not known does not differ";
+    EXPECT_EQ(checked.output, names + ":1: Ann" + unknown);
+    for (const std::string_view when : {"--birth=Ann,22 Sep 1949,9.05,A", "--now"}) {
+        const Outcome placed = RunWith({when, "--at", "Town"}, directory.path());
+        EXPECT_EQ(placed.status, kSomethingRefused) << when;
+        EXPECT_EQ(placed.errors, "--at" + unknown);
+        EXPECT_EQ(RunWith({when, "--at", "Town", "--zone", "0"}, directory.path()).status, kAllComputed);
+    }
+}
+
 // What a window would show its user goes unseen here, and is refused.
 TEST(ChartCommand, FieldsThatCanBeMisreadAreRefused) {
     const ScratchDirectory directory;

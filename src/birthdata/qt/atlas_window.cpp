@@ -197,24 +197,22 @@ void AtlasWindow::ShowReadings() {
     } else if (!clock) {
         lblAnswer_->setText(QStringLiteral("Enter the date and the time of the birth."));
     } else {
-        AtlasPlace place = book_.atlas.At(item->data(0, Qt::UserRole).toULongLong());
-        place.place = place.AsEntered();
-        found_ = EntryReadings{place, *clock, LookUpZone(book_.history, place.place, *clock)};
+        found_ = ReadingsAt(book_, book_.atlas.At(item->data(0, Qt::UserRole).toULongLong()), *clock);
         lblAnswer_->setText(ToQt(Advice(*found_)));
-        const bool none = found_->answer.readings.empty();
-        const auto& shown = none ? found_->answer.around : found_->answer.readings;
-        if (!shown.empty()) lblGrade_->setText(ToQt(GradeText(shown.front()) + "."));
-        if (shown.size() > 1) {
-            for (std::size_t i = 0; i < std::size(optReadings_); ++i) ShowReading(i, shown[i], none);
+        const auto& candidates = found_->Candidates();
+        if (!candidates.empty()) lblGrade_->setText(ToQt(GradeText(candidates.front()) + "."));
+        if (candidates.size() > 1) {
+            for (std::size_t i = 0; i < std::size(optReadings_); ++i) ShowReading(i, candidates[i]);
         }
     }
     UpdateOK();
 }
 
-void AtlasWindow::ShowReading(std::size_t index, const ZoneReading& reading, bool withClock) {
+void AtlasWindow::ShowReading(std::size_t index, const ZoneReading& reading) {
     const std::string zone = ZoneHoursText(found_->HoursOf(reading));
-    const std::string text = "Zone " + zone + ": " + ReadingText(reading) +
-                             (withClock ? ", the clock at " + ClockText(reading.clock) : "");
+    const std::string text =
+        "Zone " + zone + ": " + ReadingText(reading) +
+        (found_->outcome() == ZoneOutcome::Never ? ", the clock at " + ClockText(reading.clock) : "");
     optReadings_[index]->setText(ToQt(text));
     optReadings_[index]->setAccessibleName(ToQt(text));
     optReadings_[index]->show();
@@ -222,29 +220,25 @@ void AtlasWindow::ShowReading(std::size_t index, const ZoneReading& reading, boo
 
 // What the look-up says, in plain words.
 std::string AtlasWindow::Advice(const EntryReadings& found) const {
-    const auto& readings = found.answer.readings;
-    const std::string when = FormatDate(found.clock.date) + " " + ClockText(found.clock);
-    if (readings.empty()) return when + " did not exist in " + found.place.name + ". Which is meant?";
-    if (readings.size() > 1) return when + " came twice in " + found.place.name + ". Which is meant?";
-    const ZoneReading& reading = readings.front();
+    const std::string& place = found.place.name;
+    if (found.outcome() == ZoneOutcome::Unknown) return place + ": " + WhatHappened(found, place) + ".";
+    if (found.outcome() != ZoneOutcome::One) return WhatHappened(found, place) + ". Which is meant?";
+    const ZoneReading& reading = found.answer.readings.front();
     const EntryZone zone = EntryZoneOf(reading.offset, found.place.place.degreesEast);
-    std::string text = when + ", " + found.place.name + ": " + ReadingText(reading) + ", zone " +
+    std::string text = MomentText(found.clock) + ", " + place + ": " + ReadingText(reading) + ", zone " +
                        ZoneHoursText(zone.hours) + ".";
     if (zone.days != 0) {
         text += " The place keeps the date of the other side of the date line: enter " +
-                FormatDate(DaysLater(found.clock, zone.days).date) + " in the natal input.";
+                DateText(DaysLater(found.clock, zone.days)) + " in the natal input.";
     }
     return text;
 }
 
 const ZoneReading* AtlasWindow::Chosen() const {
     if (!found_) return nullptr;
-    const auto& readings = found_->answer.readings;
-    if (readings.size() == 1) return &readings.front();
+    if (found_->outcome() == ZoneOutcome::One) return &found_->answer.readings.front();
     const int choice = choices_->checkedId();
-    const auto& shown = readings.empty() ? found_->answer.around : readings;
-    const auto index = static_cast<std::size_t>(choice);
-    return choice >= 0 && index < shown.size() ? &shown[index] : nullptr;
+    return choice >= 0 ? &found_->Candidates()[static_cast<std::size_t>(choice)] : nullptr;
 }
 
 void AtlasWindow::UpdateOK() {

@@ -32,7 +32,7 @@ class AtlasWindow : public QDialog {
     QWidget* MakeBirthRow(const NatalEntry& birth);
     QWidget* MakeReadings();
     void ShowReadings();
-    void ShowReading(std::size_t index, const ZoneReading& reading, bool withClock);
+    void ShowReading(std::size_t index, const ZoneReading& reading);
     void UpdateOK();
     const ZoneReading* Chosen() const;
     NatalEntry Birth() const;

@@ -109,13 +109,39 @@ TEST(AtlasProgramTest, AsksWhichOfTwoAndLeavesNothingWhenCancelled) {
     EXPECT_TRUE(first.text().startsWith(QStringLiteral("Zone 4"))) << first.text().toStdString();
     second.click();
     EXPECT_TRUE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    Press(window, "cmdOK");
+    EXPECT_EQ(ReadLines(directory / "TSRTEMP.TXT")->at(4), "5");
+    std::filesystem::remove(directory / "TSRTEMP.TXT");
+    window.show();
     Type(window, "txtMonth", "4");
     Type(window, "txtDay", "1");
     Type(window, "txtBirthHour", "2");
-    EXPECT_TRUE(Find<QLabel>(window, "lblAnswer").text().contains(QStringLiteral("did not exist")));
+    EXPECT_EQ(Find<QLabel>(window, "lblAnswer").text(),
+              QStringLiteral("1 Apr 2001 2:30 A.M. did not exist in Atlanta. Which is meant?"));
+    EXPECT_EQ(second.text(), QStringLiteral("Zone 4: daylight saving (EDT), the clock at 3:00 A.M."));
     EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
     Press(window, "cmdCancel");
     EXPECT_FALSE(std::filesystem::exists(directory / "TSRTEMP.TXT"));
+}
+
+TEST(AtlasProgramTest, AsksNothingOfAPlaceWhoseZoneIsUnknown) {
+    const ScratchDirectory directory;
+    directory.Write("ZONES.DAT", "Z A/B 1 - CET\n# end\n");
+    directory.Write("ATLAS.DAT", "Z A/Gone\nC US\tUnited States\nR GA\tGeorgia\nTown\t0\t0\t9\t0\n# end\n");
+    const Result<ZoneBook> book = ZoneBook::Open(DataFiles(directory.path()));
+    ASSERT_TRUE(book) << book.message();
+    RecordedMessages messages;
+    AtlasWindow window(*book, BirthAt("2001", "10", "28", "1"), directory / "TSRTEMP.TXT", messages);
+    window.show();
+    Type(window, "txtSearch", "town");
+    EXPECT_EQ(Find<QLabel>(window, "lblAnswer").text(),
+              QStringLiteral("Town: the zone history knows nothing of the zone A/Gone."));
+    EXPECT_FALSE(Find<QRadioButton>(window, "optReading1").isVisible());
+    EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    NatalEntry entry = BirthAt("2001", "10", "28", "1");
+    entry.longDeg = entry.longMin = entry.latDeg = entry.latMin = "0";
+    ASSERT_TRUE(ReadingsOfEntry(*book, entry));
+    EXPECT_EQ(AdviseZone(*book, entry).text, "");
 }
 
 TEST(AtlasProgramTest, IsSetUpOnceAndFollowsTheProgram) {
