@@ -1,18 +1,12 @@
 #include "birthdata/atlas_exchange.h"
 
 #include "text/fields.h"
-#include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
 
 constexpr std::string NatalEntry::*kBoxes[] = {&NatalEntry::year, &NatalEntry::month, &NatalEntry::day,
                                                &NatalEntry::birthHour, &NatalEntry::birthMinute};
-
-std::string CoordinateText(const Coordinate& coordinate, std::string_view letters) {
-    const int minutes = RoundToInt16(LeadingNumber(coordinate.minutes));
-    return coordinate.degrees + letters[coordinate.negative ? 1 : 0] + TwoDigits(minutes);
-}
 
 }  // namespace
 
@@ -34,8 +28,8 @@ NatalEntry BirthOfEnvironment(std::string_view value) {
 
 std::string ExchangeText(const AtlasPlace& place, int offset) {
     const double hours = EntryZoneOf(offset, place.place.degreesEast).hours;
-    return place.FullName() + "\r\n" + CoordinateText(place.Latitude(), "NS") + "\r\n" +
-           CoordinateText(place.Longitude(), "WE") + "\r\n\r\n" + ZoneHoursText(hours) + "\r\n";
+    return place.FullName() + "\r\n" + CoordinateText(place.Latitude(), kLatitudeForm) + "\r\n" +
+           CoordinateText(place.Longitude(), kLongitudeForm) + "\r\n\r\n" + ZoneHoursText(hours) + "\r\n";
 }
 
 }  // namespace tolvanis

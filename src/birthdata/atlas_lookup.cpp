@@ -11,6 +11,7 @@ namespace {
 
 // Far more than any coordinate needs; what a damaged file holds must not fill the screen.
 constexpr std::size_t kLongestCoordinate = 40;
+constexpr std::size_t kExchangeLines = 5;
 
 // Directories come from the user and from the atlas, with either separator at their ends or none.
 Path FileIn(const std::string& directory, std::string_view name) {
@@ -26,28 +27,20 @@ std::optional<std::vector<std::string>> FirstLines(const Path& path, std::size_t
     return lines;
 }
 
-std::optional<Coordinate> Split(std::string_view text, char positiveLetter, char negativeLetter) {
-    const std::size_t positive = text.find(positiveLetter);
-    const std::size_t negative = text.find(negativeLetter);
-    const bool isNegative = positive == std::string_view::npos;
-    if (isNegative == (negative == std::string_view::npos)) return std::nullopt;
-    const std::size_t letter = isNegative ? negative : positive;
-    return CoordinateOf(text.substr(0, letter), text.substr(letter + 1), isNegative);
+std::optional<Coordinate> ReadCoordinate(std::string_view text, const CoordinateForm& form) {
+    const auto parts = SplitCoordinate(text, form);
+    if (!parts) return std::nullopt;
+    return CoordinateOf(parts->degrees, parts->minutes, parts->negative);
 }
 
-// Whether a text is degrees up to `most`, one of two letters, and minutes.
-bool IsCoordinate(std::string_view text, std::string_view letters, int most) {
-    text = TrimBlanks(text);
-    const std::size_t letter = text.find_first_of(letters);
-    if (letter == std::string_view::npos) return false;
+// Whether a text is degrees, the letter, and minutes, with or without decimals and blanks.
+bool IsCoordinate(std::string_view text, const CoordinateForm& form) {
+    const auto parts = SplitCoordinate(text, form);
     const auto isNumber = [](std::string_view part) {
         return EntireNumber(part) &&
                TrimBlanks(part).find_first_not_of("0123456789.") == std::string_view::npos;
     };
-    const std::string_view degrees = text.substr(0, letter);
-    const std::string_view minutes = text.substr(letter + 1);
-    return isNumber(degrees) && isNumber(minutes) && LeadingNumber(degrees) <= most &&
-           LeadingNumber(minutes) < 60;
+    return parts && isNumber(parts->degrees) && isNumber(parts->minutes) && IsWithin(*parts, form);
 }
 
 std::string LineFault(int number, const std::string& line, std::string_view what) {
@@ -55,21 +48,23 @@ std::string LineFault(int number, const std::string& line, std::string_view what
            std::string(FirstCharacters(line, kLongestCoordinate)) + "\") is no " + std::string(what);
 }
 
-std::string CoordinateText(const std::string& line) {
+std::string Shortened(const std::string& line) {
     return std::string(FirstCharacters(TrimBlanks(line), kLongestCoordinate));
 }
 
-}  // namespace
-
-std::string AtlasLinesFault(std::span<const std::string> lines) {
-    if (!IsCoordinate(lines[1], "NS", 90)) return LineFault(2, lines[1], "latitude");
-    if (!IsCoordinate(lines[2], "WE", 180)) return LineFault(3, lines[2], "longitude");
+// What is wrong with the five lines of an exchange file, as "line 2 ...", or an empty text.
+std::string ExchangeFault(const std::vector<std::string>& lines) {
+    if (!IsCoordinate(lines[1], kLatitudeForm)) return LineFault(2, lines[1], "latitude");
+    if (!IsCoordinate(lines[2], kLongitudeForm)) return LineFault(3, lines[2], "longitude");
     if (!EntireNumber(lines[4])) return LineFault(5, lines[4], "time zone in hours");
     return {};
 }
 
+}  // namespace
+
 Place PlaceOfAtlas(const AtlasResult& result) {
-    return {Split(result.longitude, 'W', 'E'), Split(result.latitude, 'N', 'S'), NumberText(result.timeZone)};
+    return {ReadCoordinate(result.longitude, kLongitudeForm), ReadCoordinate(result.latitude, kLatitudeForm),
+            NumberText(result.timeZone)};
 }
 
 std::optional<Place> AtlasLookup::LookUp(std::string& atlasDir) {
@@ -84,10 +79,16 @@ std::optional<Place> AtlasLookup::LookUp(std::string& atlasDir) {
     return place;
 }
 
+bool AtlasLookup::IsOwn(const std::string& atlasDir) const {
+    std::error_code error;
+    return atlasDir == ownDirectory_ ||
+           std::filesystem::equivalent(FindPath(PathFromText(atlasDir)), ownDirectory_, error);
+}
+
 bool AtlasLookup::RunAtlas(std::string& atlasDir) {
     while (true) {
-        const ProgramRun run =
-            atlasDir.empty() ? ProgramRun::NotStarted : run_(FileIn(atlasDir, kAtlasProgram));
+        const ProgramRun run = atlasDir.empty() ? ProgramRun::NotStarted
+                                                : run_({FileIn(atlasDir, kAtlasProgram), IsOwn(atlasDir)});
         if (run != ProgramRun::NotStarted) return run == ProgramRun::Ended;
         std::string answer =
             messages_.AskText("Where do I find ATLAS.EXE?",
@@ -107,20 +108,17 @@ std::optional<AtlasResult> AtlasLookup::ReadResult(const std::string& atlasDir) 
         return std::nullopt;
     }
     const std::string& workingDirectory = path->front();
-    const auto lines = FirstLines(FileIn(workingDirectory, kAtlasExchangeFile), 5);
-    std::error_code error;
-    const bool isOwn = atlasDir == ownDirectory_ ||
-                       std::filesystem::equivalent(FindPath(PathFromText(atlasDir)), ownDirectory_, error);
-    if (!lines && isOwn) return std::nullopt;  // cancelled
+    const auto lines = FirstLines(FileIn(workingDirectory, kAtlasExchangeFile), kExchangeLines);
+    if (!lines && IsOwn(atlasDir)) return std::nullopt;  // cancelled
     if (!lines) {
         warn("Cannot find the file called TSRTEMP.TXT in the " + workingDirectory + " directory.");
         return std::nullopt;
     }
-    if (const std::string fault = AtlasLinesFault(*lines); !fault.empty()) {
+    if (const std::string fault = ExchangeFault(*lines); !fault.empty()) {
         warn("The file TSRTEMP.TXT in the " + workingDirectory + " directory cannot be used: " + fault + ".");
         return std::nullopt;
     }
-    return AtlasResult{CoordinateText((*lines)[2]), CoordinateText((*lines)[1]),
+    return AtlasResult{Shortened((*lines)[2]), Shortened((*lines)[1]),
                        static_cast<float>(LeadingNumber((*lines)[4]))};
 }
 

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <optional>
-#include <span>
 #include <string>
 
 #include "birthdata/place.h"
@@ -13,8 +12,13 @@
 
 namespace tolvanis {
 
+struct AtlasProgram {
+    Path file;
+    bool isOwn = false;  // the delivered one
+};
+
 // Starts a program and waits until it has ended, with the user interface alive.
-using RunProgram = std::function<ProgramRun(const Path& program)>;
+using RunProgram = std::function<ProgramRun(const AtlasProgram& program)>;
 
 // What the atlas has left of one place.
 struct AtlasResult {
@@ -26,10 +30,6 @@ struct AtlasResult {
 // The place of a result. A coordinate that does not hold exactly one of its two letters is not known.
 Place PlaceOfAtlas(const AtlasResult& result);
 
-// What is wrong with the lines of an exchange file, as "line 2 ...", or an empty text. Latitude and longitude
-// are degrees, their letter and minutes within their ranges, the zone is a number.
-std::string AtlasLinesFault(std::span<const std::string> lines);
-
 class AtlasLookup {
   public:
     // In `ownDirectory`, that of the delivered atlas, a missing result means that its user has cancelled, and
@@ -39,10 +39,12 @@ class AtlasLookup {
 
     // Runs ATLAS.EXE of the atlas directory, asks for the directory when that cannot be started (`atlasDir`
     // then takes the answer, with a separator at its end), waits, reads what the atlas has left and shows it
-    // to the user. The place when the user accepts it. While one lookup runs, a second one does nothing.
+    // to the user. The place when the user accepts it; lines that are no latitude, longitude and zone are
+    // told and refused. While one lookup runs, a second one does nothing.
     std::optional<Place> LookUp(std::string& atlasDir);
 
   private:
+    bool IsOwn(const std::string& atlasDir) const;
     bool RunAtlas(std::string& atlasDir);
     std::optional<AtlasResult> ReadResult(const std::string& atlasDir);
     bool IsAccepted(const AtlasResult& result);

@@ -26,16 +26,14 @@ Coordinate ReadCoordinate(std::string_view text, std::size_t digits, char negati
     return CoordinateOf(text.substr(0, digits), minutes, negative);
 }
 
-// Whether a text is digits for up to `most` degrees, one of the letters, and two digits for minutes.
-bool IsCoordinate(std::string_view text, std::string_view letters, int most) {
-    const std::size_t letter = text.find_first_of(letters);
-    if (letter == std::string_view::npos || text.size() != letter + 3) return false;
-    const std::string_view degrees = text.substr(0, letter), minutes = text.substr(letter + 1);
+// Whether a text is digits for degrees, the letter, and two digits for minutes.
+bool IsCoordinate(std::string_view text, const CoordinateForm& form) {
+    const auto parts = SplitCoordinate(text, form);
     const auto isDigits = [](std::string_view part) {
-        return part.find_first_not_of("0123456789") == std::string_view::npos;
+        return !part.empty() && part.find_first_not_of("0123456789") == std::string_view::npos;
     };
-    return letter > 0 && isDigits(degrees) && isDigits(minutes) && WholeNumberIn(degrees, 0, most) &&
-           WholeNumberIn(minutes, 0, 59);
+    return parts && isDigits(parts->degrees) && isDigits(parts->minutes) && parts->minutes.size() == 2 &&
+           IsWithin(*parts, form);
 }
 
 // How a user may name a place.
@@ -100,9 +98,9 @@ Result<CityRecord> ParseCityRecord(std::string_view line) {
 std::string CityRecordFault(const CityRecord& record) {
     const std::string& longitude = record.longitude;
     const bool knownLength = longitude.size() == kShortLongitude || longitude.size() == kShortLongitude + 1;
-    if (!knownLength || !IsCoordinate(longitude, "WE", 180))
+    if (!knownLength || !IsCoordinate(longitude, kLongitudeForm))
         return "\"" + longitude + "\" is no longitude of the form 084W23";
-    if (record.latitude.size() != kLatitudeLength || !IsCoordinate(record.latitude, "NS", 90))
+    if (record.latitude.size() != kLatitudeLength || !IsCoordinate(record.latitude, kLatitudeForm))
         return "\"" + record.latitude + "\" is no latitude of the form 33N45";
     if (!EntireNumber(record.timeZone)) return "\"" + record.timeZone + "\" is no time zone in hours";
     return {};

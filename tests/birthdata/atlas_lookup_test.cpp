@@ -14,9 +14,11 @@ struct AtlasTest : ::testing::Test {
     std::string atlasDir = directory.path().string() + "\\";
     std::vector<Path> started;
     ProgramRun outcome = ProgramRun::Ended;
-    RunProgram run = [this](const Path& program) {
-        started.push_back(program);
-        return std::filesystem::exists(program) ? outcome : ProgramRun::NotStarted;
+    bool isOwn = false;  // the last one started
+    RunProgram run = [this](const AtlasProgram& program) {
+        started.push_back(program.file);
+        isOwn = program.isOwn;
+        return std::filesystem::exists(program.file) ? outcome : ProgramRun::NotStarted;
     };
 
     void SetUp() override {
@@ -116,6 +118,8 @@ TEST_F(AtlasTest, RefusesAnUnreadableLineAndNamesIt) {
                  {"\x01\n122W20\n\n8\n", "line 2"},
                  {"91N00\n122W20\n\n8\n", "line 2"},
                  {"47N60\n122W20\n\n8\n", "line 2"},
+                 {"90N01\n122W20\n\n8\n", "line 2"},
+                 {"90N00\n180W00.1\n\n8\n", "line 3"},
                  {"47N36\n12W2E0\n\n8\n", "line 3"},
                  {"47N36\n122W20\n\neight\n", "line 5"}};
     for (const auto& test : cases) {
@@ -130,8 +134,15 @@ TEST_F(AtlasTest, RefusesAnUnreadableLineAndNamesIt) {
 }
 
 TEST_F(AtlasTest, SaysNothingWhereTheOwnAtlasWasCancelled) {
-    EXPECT_FALSE(AtlasLookup(run, messages, atlasDir).LookUp(atlasDir));
-    EXPECT_TRUE(messages.told.empty());
+    const std::string own = directory.path().string() + "/";
+    for (const std::string& named : {own, atlasDir, own + "./"}) {
+        std::string settings = named;
+        EXPECT_FALSE(AtlasLookup(run, messages, own).LookUp(settings));
+        EXPECT_TRUE(isOwn) << named;
+        EXPECT_TRUE(messages.told.empty()) << named;
+    }
+    EXPECT_FALSE(AtlasLookup(run, messages).LookUp(atlasDir));
+    EXPECT_FALSE(isOwn) << "there is no own one";
 }
 
 }  // namespace

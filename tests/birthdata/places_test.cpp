@@ -31,6 +31,26 @@ TEST(CitiesFileTest, ReadsCoordinatesByTheirLength) {
     }
 }
 
+TEST(CitiesFileTest, NamesACoordinateThatLiesNowhere) {
+    const struct {
+        const char *longitude, *latitude, *fault;
+    } cases[] = {
+        {"180W00", "90N00", ""},
+        {"179E59", "89S59", ""},
+        {"00W00", "00N00", ""},
+        {"180W01", "90N00", "\"180W01\" is no longitude of the form 084W23"},
+        {"180E59", "00N00", "\"180E59\" is no longitude of the form 084W23"},
+        {"180W00", "90S01", "\"90S01\" is no latitude of the form 33N45"},
+        {"179W60", "90N00", "\"179W60\" is no longitude of the form 084W23"},
+        {"+9W+5", "33N45", "\"+9W+5\" is no longitude of the form 084W23"},
+        {"84W23", "3E+5", "\"3E+5\" is no latitude of the form 33N45"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(CityRecordFault({"", "", test.longitude, test.latitude, "5"}), test.fault)
+            << test.longitude << ' ' << test.latitude;
+    }
+}
+
 TEST(CitiesFileTest, KeepsTheRecordsInFrontOfTheFirstFault) {
     const ScratchDirectory directory;
     const RecordList list = ReadCitiesFile(directory.Write(

@@ -41,10 +41,8 @@ BirthDesk::BirthDesk(ProgramState& state, Messages& messages, FileDialogs& dialo
       dialogs_(dialogs),
       input_(std::make_unique<InputD>(state.options, messages, clock)),
       atlas_(
-          [this](const Path& program) {
-              std::error_code error;
-              const bool own = std::filesystem::equivalent(program.parent_path(), state_.ownAtlas, error);
-              return RunAndWait(program, own ? AtExit::EndIt : AtExit::LeaveIt,
+          [this](const AtlasProgram& program) {
+              return RunAndWait(program.file, program.isOwn ? AtExit::EndIt : AtExit::LeaveIt,
                                 AtlasEnvironment(input_->Entry(), state_.files.directory()));
           },
           messages, state.ownAtlas) {

@@ -24,11 +24,8 @@ constexpr std::size_t kMostShown = 200;
 constexpr const char* kDigits = "0123456789";
 
 QString CoordinatesText(const AtlasPlace& place) {
-    const auto text = [](const Coordinate& coordinate, const char* letters) {
-        return ToQt(coordinate.degrees) + QChar::fromLatin1(letters[coordinate.negative ? 1 : 0]) +
-               ToQt(coordinate.minutes).rightJustified(2, QLatin1Char('0'));
-    };
-    return text(place.Longitude(), "WE") + QLatin1Char(' ') + text(place.Latitude(), "NS");
+    return ToQt(CoordinateText(place.Longitude(), kLongitudeForm) + " " +
+                CoordinateText(place.Latitude(), kLatitudeForm));
 }
 
 QLabel* MakeLabel(const char* name, const char* accessibleName, int lines) {

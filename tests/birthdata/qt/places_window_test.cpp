@@ -89,7 +89,7 @@ TEST(AtlasWindowTest, RunsARealProgram) {
         RecordedMessages messages;
         messages.answers = {Answer::Yes, Answer::Yes};
         messages.texts = {""};
-        AtlasLookup lookup([](const Path& program) { return RunAndWait(program); }, messages);
+        AtlasLookup lookup([](const AtlasProgram& program) { return RunAndWait(program.file); }, messages);
         int ticks = 0;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
