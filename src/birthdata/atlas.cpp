@@ -15,7 +15,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::string_view kEndLine = "# end";
 constexpr int kCellsRound = 360;  // cells of one degree
 constexpr int kCells = kCellsRound * 180;
 constexpr double kKmPerDegree = 111.2;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "birthdata/record_list.h"
 #include "chart/angles.h"
 #include "text/columns.h"
 #include "text/dates.h"
@@ -67,8 +68,7 @@ Result<NameRecord> ParseNameRecord(std::string_view line) {
     std::vector<std::string> fields = SplitFields(line);
     if (fields.front().empty()) return NameRecord{};
     if (fields.size() != kFieldCount) {
-        return Fault{"the record has " + std::to_string(fields.size()) +
-                     (fields.size() == 1 ? " field" : " fields") + " instead of 7" +
+        return Fault{"the record has " + WrongFieldCount(fields.size(), kFieldCount) +
                      (fields.size() > kFieldCount ? " (a name cannot hold a comma)" : "")};
     }
     return NameRecord{fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]};
@@ -103,13 +103,13 @@ Result<NatalEntry> EntryFromRecord(const NameRecord& record) {
     entry.birthMinute = clock.sixtieths;
     entry.pm = !EqualIgnoringCase(record.halfDay, "A");
     entry.timeZone = NumberText(numbers->timeZone);
-    const PackedParts east = SplitPacked(numbers->longitude);
-    entry.longDeg = east.whole;
-    entry.longMin = east.sixtieths;
+    const PackedParts longitude = SplitPacked(numbers->longitude);
+    entry.longDeg = longitude.whole;
+    entry.longMin = longitude.sixtieths;
     entry.east = numbers->longitude < 0;
-    const PackedParts north = SplitPacked(numbers->latitude);
-    entry.latDeg = north.whole;
-    entry.latMin = north.sixtieths;
+    const PackedParts latitude = SplitPacked(numbers->latitude);
+    entry.latDeg = latitude.whole;
+    entry.latMin = latitude.sixtieths;
     entry.south = numbers->latitude < 0;
     return entry;
 }

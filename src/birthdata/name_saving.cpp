@@ -151,8 +151,7 @@ std::optional<NameRecord> RecordToSave(const NatalEntry& entry, Messages& messag
     NameRecord record = RecordFromEntry(entry);
     record.name = TrimBlanks(LineText(Printable(record.name)));
     if (!ReadsBack(record, entry)) {
-        const InputFault fault{EntryField::Name, "the entry does not read back", false};
-        messages.Tell("Warning!", std::string(fault.Message()), MessageIcon::Information);
+        messages.Tell("Warning!", std::string(kInputErrorText), MessageIcon::Information);
         return std::nullopt;
     }
     return record;

@@ -11,7 +11,9 @@ namespace tolvanis {
 
 inline constexpr std::string_view kDefaultNamesFile = "NAMES.FIL";
 
-// The readable records of a names file, in file order.
+// The records of a names file in front of the first one that cannot be read, in file order. The list ends
+// there for every window and every save: a damaged line is to be seen and mended, not passed over, and a new
+// record goes in front of it. (The commands tell of each record that they refuse, and read on.)
 RecordList ReadNamesFile(const Path& path);
 // The same of such a file's content.
 RecordList NamesOfText(std::string_view content);

@@ -10,7 +10,6 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::string_view kInputErrorText = "Error in natal input data section. Please correct.";
 constexpr std::string_view kPolarLatitudeText =
     "Your latitude is too high. Lower to 66 degrees, 00 minutes or below OR change house systems.";
 

@@ -60,6 +60,9 @@ HourRule ApplyHourRule(std::string_view text);
 // The zone box after a click on East (minus its absolute value) or West (its absolute value).
 std::string ZoneForSide(std::string_view timeZone, bool east);
 
+// What the window shows of an entry that cannot be computed or saved.
+inline constexpr std::string_view kInputErrorText = "Error in natal input data section. Please correct.";
+
 struct InputFault {
     EntryField field;    // the first box concerned
     std::string detail;  // what is wrong, for a report: "birth month 13 is above 12"

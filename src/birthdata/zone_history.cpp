@@ -13,7 +13,6 @@ namespace tolvanis {
 namespace {
 
 constexpr int kLastYear = 2100;
-constexpr std::string_view kEndLine = "# end";
 
 constexpr std::array<std::string_view, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                        "Thursday", "Friday", "Saturday"};
@@ -269,12 +268,6 @@ const ReferenceCity* ZoneHistory::ReferenceOf(std::string_view zone) const {
     auto city = references_.find(zone);
     if (city == references_.end()) city = references_.find(Resolved(zone));
     return city != references_.end() ? &city->second : nullptr;
-}
-
-std::vector<std::string> ZoneHistory::ZoneNames() const {
-    std::vector<std::string> names;
-    for (const auto& [name, eras] : zones_) names.push_back(name);
-    return names;
 }
 
 }  // namespace tolvanis

@@ -18,6 +18,9 @@ namespace tolvanis {
 
 inline constexpr std::string_view kZoneHistoryFile = "ZONES.DAT";
 
+// The last line of this file and of the atlas; one that is cut short does not have it.
+inline constexpr std::string_view kEndLine = "# end";
+
 // Moments are counted in seconds from the start of 1970, whose Julian day number this is.
 inline constexpr int kJulianDayOf1970 = 2440588;
 inline constexpr int kSecondsPerDay = 86400;
@@ -94,7 +97,6 @@ class ZoneHistory {
     const ReferenceCity* ReferenceOf(std::string_view zone) const;
 
     const std::vector<ZoneCase>& cases() const { return cases_; }
-    std::vector<std::string> ZoneNames() const;
 
   private:
     friend class ZoneFileReader;

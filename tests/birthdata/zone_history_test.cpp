@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "birthdata/zone_lookup.h"
@@ -50,7 +51,8 @@ TEST(ZoneHistory, HasThePeriodsOfTheCompiledDataInEveryZoneTo2100) {
         EXPECT_EQ(FingerprintOf(periods), fields[3]) << fields[0];
     }
     EXPECT_EQ(zones, 471);
-    EXPECT_EQ(history->ZoneNames().size(), 471U);
+    const auto lines = *ReadLines(Path(DELIVERED_DATA_DIR) / kZoneHistoryFile);
+    EXPECT_EQ(std::ranges::count_if(lines, [](const auto& line) { return line.starts_with("Z "); }), zones);
     EXPECT_EQ(&history->PeriodsOf("Asia/Calcutta"), &history->PeriodsOf("Asia/Kolkata"));
 }
 

@@ -122,7 +122,7 @@ TEST(ZoneLookup, EntriesStayWithinTheirZones) {
     EXPECT_EQ(EntryZoneOf(13 * 3600, -171.75).days, -1);
     EXPECT_EQ(EntryZoneOf(13 * 3600, 174.0).hours, -13.0);
     EXPECT_EQ(EntryZoneOf(3600, -3.7).hours, -1.0) << "Madrid";
-    EXPECT_EQ(ZoneHoursText(-1172 / 3600.0), "-0.3256");
+    EXPECT_EQ(ZoneHoursText(HoursOfOffset(1172)), "-0.3256");
     EXPECT_EQ(ZoneHoursText(-0.0), "0");
 }
 

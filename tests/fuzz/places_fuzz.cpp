@@ -3,17 +3,21 @@
 #include "birthdata/atlas.h"
 #include "birthdata/zone_lookup.h"
 #include "fuzz_support.h"
+#include "text/fields.h"
 
 namespace tolvanis {
 namespace {
 
-void LookUpEverywhere(const ZoneHistory& history) {
-    for (const std::string& zone : history.ZoneNames()) {
-        const ZonePlace place{zone, "US", "4", 52.5, 13.4};
+// In every zone that the input names.
+void LookUpEverywhere(const ZoneHistory& history, std::string_view input) {
+    for (const std::string& line : SplitAt(input, '\n')) {
+        const std::vector<std::string> words = SplitAt(line, ' ');
+        if (words.size() < 2 || words[0] != "Z") continue;
+        const ZonePlace place{words[1], "US", "4", 52.5, 13.4};
         for (const int year : {1800, 1945, 1980, 2026, 2199}) {
             const ClockMoment moment{{year, 5, 24}, 7200};
             for (const ZoneReading& reading : LookUpZone(history, place, moment).readings) {
-                Require(!ZoneHoursText(-reading.offset / 3600.0).empty(), "an offset has a text");
+                Require(!ZoneHoursText(HoursOfOffset(reading.offset)).empty(), "an offset has a text");
             }
             OffsetAtUniversal(history, place, moment);
         }
@@ -35,7 +39,7 @@ void FindEverything(const Atlas& atlas) {
 
 void Fuzz(std::string_view input) {
     const MemoryFile file(input);
-    if (const Result<ZoneHistory> history = ZoneHistory::Read(file.path())) LookUpEverywhere(*history);
+    if (const Result<ZoneHistory> history = ZoneHistory::Read(file.path())) LookUpEverywhere(*history, input);
     if (const Result<Atlas> atlas = Atlas::Read(file.path())) FindEverything(*atlas);
 }
 
