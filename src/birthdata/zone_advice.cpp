@@ -1,9 +1,7 @@
 #include "birthdata/zone_advice.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "chart/angles.h"
 #include "text/columns.h"
 #include "text/numbers.h"
 

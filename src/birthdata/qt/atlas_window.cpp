@@ -14,8 +14,6 @@
 #include "platform/qt/placement.h"
 #include "platform/qt/push_button.h"
 #include "platform/qt/text.h"
-#include "text/columns.h"
-#include "text/numbers.h"
 
 namespace tolvanis {
 namespace {
@@ -39,18 +37,56 @@ QLabel* MakeLabel(const char* name, const char* accessibleName, int lines) {
     return label;
 }
 
+QHBoxLayout& RowOf(QWidget& parent) {
+    auto* layout = new QHBoxLayout(&parent);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return *layout;
+}
+
+EntryBox* AddNumberBox(QHBoxLayout& layout, const char* name, const char* label, int width) {
+    auto* box = new EntryBox(QLatin1String(kDigits), width);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(QLatin1String(label));
+    auto* shown = new QLabel(QLatin1String(label));
+    shown->setBuddy(box);
+    layout.addWidget(shown);
+    layout.addWidget(box);
+    return box;
+}
+
 }  // namespace
 
 AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exchangeFile, Messages& messages)
     : book_(book), exchangeFile_(std::move(exchangeFile)), messages_(messages) {
     setObjectName(QStringLiteral("Atlas"));
     setWindowTitle(QStringLiteral("Atlas"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(MakeSearchRow());
+    layout->addWidget(MakePlaceList(), 1);
+    layout->addWidget(MakeBirthRow());
+    layout->addWidget(MakeReadings());
+    layout->addLayout(MakeButtonRow());
+    ResizeToFit(*this, {96 * fontMetrics().averageCharWidth(), 34 * fontMetrics().lineSpacing()});
+    SetBirth(birth);
+    ConnectControls();
+    ShowReadings();
+    txtSearch_->setFocus();
+}
+
+QLayout* AtlasWindow::MakeSearchRow() {
     txtSearch_ = new EntryBox;
     txtSearch_->setObjectName(QStringLiteral("txtSearch"));
     txtSearch_->setAccessibleName(QStringLiteral("Place"));
     txtSearch_->setPlaceholderText(QStringLiteral("City, or city, region, country"));
     auto* caption = new QLabel(QStringLiteral("&Place"));
     caption->setBuddy(txtSearch_);
+    auto* row = new QHBoxLayout;
+    row->addWidget(caption);
+    row->addWidget(txtSearch_, 1);
+    return row;
+}
+
+QWidget* AtlasWindow::MakePlaceList() {
     lstPlaces_ = new QTreeWidget;
     lstPlaces_->setObjectName(QStringLiteral("lstPlaces"));
     lstPlaces_->setAccessibleName(QStringLiteral("Places found"));
@@ -60,73 +96,73 @@ AtlasWindow::AtlasWindow(const ZoneBook& book, const NatalEntry& birth, Path exc
                                  QStringLiteral("Coordinates")});
     const int letter = fontMetrics().averageCharWidth();
     for (int column = 0; column < 3; ++column) lstPlaces_->setColumnWidth(column, 24 * letter);
-    cmdOK_ = MakePushButton("cmdOK", QStringLiteral("OK"));
-    cmdCancel_ = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
-
-    auto* search = new QHBoxLayout;
-    search->addWidget(caption);
-    search->addWidget(txtSearch_, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOK_);
-    buttons->addWidget(cmdCancel_);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(search);
-    layout->addWidget(lstPlaces_, 1);
-    layout->addWidget(MakeBirthRow(birth));
-    layout->addWidget(MakeReadings());
-    layout->addLayout(buttons);
-    ResizeToFit(*this, {96 * letter, 34 * fontMetrics().lineSpacing()});
-
-    connect(txtSearch_, &QLineEdit::textChanged, this, &AtlasWindow::txtSearch_Change);
-    connect(lstPlaces_, &QTreeWidget::currentItemChanged, this, &AtlasWindow::ShowReadings);
-    connect(cmdOK_, &QPushButton::clicked, this, &AtlasWindow::cmdOK_Click);
-    connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
-    ShowReadings();
-    txtSearch_->setFocus();
+    return lstPlaces_;
 }
 
-QWidget* AtlasWindow::MakeBirthRow(const NatalEntry& birth) {
+QLayout* AtlasWindow::MakeButtonRow() {
+    cmdOK_ = MakePushButton("cmdOK", QStringLiteral("OK"));
+    cmdCancel_ = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(cmdOK_);
+    row->addWidget(cmdCancel_);
+    return row;
+}
+
+// Date and time, which stand below one another where the window is narrow.
+QWidget* AtlasWindow::MakeBirthRow() {
     auto* rows = new QWidget;
     auto* halves = new EvenRows;
     rows->setLayout(halves);
-    QHBoxLayout* layout = nullptr;
-    const auto begin = [&] {
-        auto* half = new QWidget;
-        layout = new QHBoxLayout(half);
-        layout->setContentsMargins(0, 0, 0, 0);
-        halves->addWidget(half);
-    };
-    const auto add = [&](const char* name, const char* label, int width, const std::string& text) {
-        auto* box = new EntryBox(QLatin1String(kDigits), width);
-        box->setObjectName(QLatin1String(name));
-        box->setAccessibleName(QLatin1String(label));
-        box->Fill(ToQt(text));
-        auto* shown = new QLabel(QLatin1String(label));
-        shown->setBuddy(box);
-        layout->addWidget(shown);
-        layout->addWidget(box);
-        connect(box, &QLineEdit::textChanged, this, &AtlasWindow::ShowReadings);
-        return box;
-    };
-    begin();
-    txtMonth_ = add("txtMonth", "Month", 2, birth.month);
-    txtDay_ = add("txtDay", "Day", 2, birth.day);
-    txtYear_ = add("txtYear", "Year", 4, birth.year);
-    layout->addStretch();
-    begin();
-    txtBirthHour_ = add("txtBirthHour", "Hour", 2, birth.birthHour);
-    txtBirthMinute_ = add("txtBirthMinute", "Minute", 2, birth.birthMinute);
+    halves->addWidget(MakeDate());
+    halves->addWidget(MakeTime());
+    return rows;
+}
+
+QWidget* AtlasWindow::MakeDate() {
+    auto* half = new QWidget;
+    auto& layout = RowOf(*half);
+    txtMonth_ = AddNumberBox(layout, "txtMonth", "Month", 2);
+    txtDay_ = AddNumberBox(layout, "txtDay", "Day", 2);
+    txtYear_ = AddNumberBox(layout, "txtYear", "Year", 4);
+    layout.addStretch();
+    return half;
+}
+
+QWidget* AtlasWindow::MakeTime() {
+    auto* half = new QWidget;
+    auto& layout = RowOf(*half);
+    txtBirthHour_ = AddNumberBox(layout, "txtBirthHour", "Hour", 2);
+    txtBirthMinute_ = AddNumberBox(layout, "txtBirthMinute", "Minute", 2);
     optAM_ = new QRadioButton(QStringLiteral("AM"));
     optAM_->setObjectName(QStringLiteral("optAM"));
     optPM_ = new QRadioButton(QStringLiteral("PM"));
     optPM_->setObjectName(QStringLiteral("optPM"));
+    layout.addWidget(optAM_);
+    layout.addWidget(optPM_);
+    layout.addStretch();
+    return half;
+}
+
+void AtlasWindow::SetBirth(const NatalEntry& birth) {
+    txtMonth_->Fill(ToQt(birth.month));
+    txtDay_->Fill(ToQt(birth.day));
+    txtYear_->Fill(ToQt(birth.year));
+    txtBirthHour_->Fill(ToQt(birth.birthHour));
+    txtBirthMinute_->Fill(ToQt(birth.birthMinute));
     (birth.pm ? optPM_ : optAM_)->setChecked(true);
-    layout->addWidget(optAM_);
-    layout->addWidget(optPM_);
-    layout->addStretch();
+}
+
+void AtlasWindow::ConnectControls() {
+    connect(txtSearch_, &QLineEdit::textChanged, this, &AtlasWindow::txtSearch_Change);
+    connect(lstPlaces_, &QTreeWidget::currentItemChanged, this, &AtlasWindow::ShowReadings);
+    for (const EntryBox* box : {txtMonth_, txtDay_, txtYear_, txtBirthHour_, txtBirthMinute_}) {
+        connect(box, &QLineEdit::textChanged, this, &AtlasWindow::ShowReadings);
+    }
     connect(optPM_, &QRadioButton::toggled, this, &AtlasWindow::ShowReadings);
-    return rows;
+    connect(choices_, &QButtonGroup::idToggled, this, &AtlasWindow::UpdateOK);
+    connect(cmdOK_, &QPushButton::clicked, this, &AtlasWindow::cmdOK_Click);
+    connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QWidget* AtlasWindow::MakeReadings() {
@@ -147,7 +183,6 @@ QWidget* AtlasWindow::MakeReadings() {
     }
     lblGrade_ = MakeLabel("lblGrade", "How sure the time zone is", 3);
     layout->addWidget(lblGrade_);
-    connect(choices_, &QButtonGroup::idToggled, this, &AtlasWindow::UpdateOK);
     return box;
 }
 

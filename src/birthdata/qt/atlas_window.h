@@ -29,8 +29,15 @@ class AtlasWindow : public QDialog {
     void cmdOK_Click();
 
   private:
-    QWidget* MakeBirthRow(const NatalEntry& birth);
+    QLayout* MakeSearchRow();
+    QWidget* MakePlaceList();
+    QWidget* MakeBirthRow();
+    QWidget* MakeDate();
+    QWidget* MakeTime();
     QWidget* MakeReadings();
+    QLayout* MakeButtonRow();
+    void ConnectControls();
+    void SetBirth(const NatalEntry& birth);
     void ShowReadings();
     void ShowReading(std::size_t index, const ZoneReading& reading);
     void UpdateOK();

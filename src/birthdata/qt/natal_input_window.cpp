@@ -20,12 +20,18 @@ constexpr const char* kDigits = "0123456789";
 constexpr int kAdviceDelay = 120;  // milliseconds after the last key
 constexpr const char* kZoneCharacters = "0123456789.-";
 
-EntryBox* AddBox(QGridLayout& grid, int row, int column, const char* name, const char* label,
-                 const char* accepted, int width) {
-    auto* box = new EntryBox(QLatin1String(accepted), width);
-    box->setObjectName(QLatin1String(name));
-    box->setAccessibleName(QLatin1String(label));
-    auto* caption = new QLabel(QLatin1String(label));
+struct BoxTraits {
+    const char* name;
+    const char* label;
+    const char* accepted;  // characters
+    int width;             // in characters
+};
+
+EntryBox* AddBox(QGridLayout& grid, int row, int column, const BoxTraits& traits) {
+    auto* box = new EntryBox(QLatin1String(traits.accepted), traits.width);
+    box->setObjectName(QLatin1String(traits.name));
+    box->setAccessibleName(QLatin1String(traits.label));
+    auto* caption = new QLabel(QLatin1String(traits.label));
     caption->setBuddy(box);
     grid.addWidget(caption, row, column, Qt::AlignRight | Qt::AlignVCenter);
     grid.addWidget(box, row, column + 1, Qt::AlignLeft | Qt::AlignVCenter);
@@ -87,23 +93,23 @@ QWidget* InputD::MakeEntryFrame() {
     Label1_ = MakeButton("Label1", "TZ Help", &InputD::Label1_Click);
     Label2_ = MakeButton("Label2", "ACS Atlas", &InputD::Label2_Click);
 
-    txtName_ = AddBox(*grid, 0, 0, "txtName", "Name", "", 0);
+    txtName_ = AddBox(*grid, 0, 0, {"txtName", "Name", "", 0});
     grid->addWidget(txtName_, 0, 1, 1, 5);
-    txtMonth_ = AddBox(*grid, 1, 0, "txtMonth", "Birth Month", kDigits, 2);
-    txtDay_ = AddBox(*grid, 1, 2, "txtDay", "Birth Day", kDigits, 2);
-    txtYear_ = AddBox(*grid, 1, 4, "txtYear", "Birth Year", kDigits, 4);
-    txtBirthHour_ = AddBox(*grid, 2, 0, "txtBirthHour", "Birth Hour", kDigits, 2);
-    txtBirthMinute_ = AddBox(*grid, 2, 2, "txtBirthMinute", "Birth Minute", kDigits, 2);
+    txtMonth_ = AddBox(*grid, 1, 0, {"txtMonth", "Birth Month", kDigits, 2});
+    txtDay_ = AddBox(*grid, 1, 2, {"txtDay", "Birth Day", kDigits, 2});
+    txtYear_ = AddBox(*grid, 1, 4, {"txtYear", "Birth Year", kDigits, 4});
+    txtBirthHour_ = AddBox(*grid, 2, 0, {"txtBirthHour", "Birth Hour", kDigits, 2});
+    txtBirthMinute_ = AddBox(*grid, 2, 2, {"txtBirthMinute", "Birth Minute", kDigits, 2});
     std::tie(optAM_, optPM_) = AddPair(*grid, 2, "Am/Pm", "AM", "PM");
-    txtTZ_ = AddBox(*grid, 3, 0, "txtTZ", "Time Zone . . .", kZoneCharacters, 6);
+    txtTZ_ = AddBox(*grid, 3, 0, {"txtTZ", "Time Zone . . .", kZoneCharacters, 6});
     // The wide box must not push the columns apart: the window has to fit on small screens.
     grid->addWidget(txtTZ_, 3, 1, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(Label1_, 3, 3, 1, 3, Qt::AlignLeft);
-    txtLongDeg_ = AddBox(*grid, 4, 0, "txtLongDeg", "Long Degrees", kDigits, 3);
-    txtLongMin_ = AddBox(*grid, 4, 2, "txtLongMin", "Long Minutes", kDigits, 2);
+    txtLongDeg_ = AddBox(*grid, 4, 0, {"txtLongDeg", "Long Degrees", kDigits, 3});
+    txtLongMin_ = AddBox(*grid, 4, 2, {"txtLongMin", "Long Minutes", kDigits, 2});
     std::tie(optEast_, optWest_) = AddPair(*grid, 4, "Ea/We", "East", "West");
-    txtLatDeg_ = AddBox(*grid, 5, 0, "txtLatDeg", "Lat Degrees", kDigits, 3);
-    txtLatMin_ = AddBox(*grid, 5, 2, "txtLatMin", "Lat Minutes", kDigits, 2);
+    txtLatDeg_ = AddBox(*grid, 5, 0, {"txtLatDeg", "Lat Degrees", kDigits, 3});
+    txtLatMin_ = AddBox(*grid, 5, 2, {"txtLatMin", "Lat Minutes", kDigits, 2});
     std::tie(optNorth_, optSouth_) = AddPair(*grid, 5, "No/So", "North", "South");
     grid->setColumnStretch(5, 1);
     return frame;

@@ -157,9 +157,16 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
       problemLabel_(new QLabel(this)),
       find_(new QLineEdit(this)),
       list_(new RecordListView(this)) {
-    list_->setObjectName(QLatin1String(wording.list));
-    list_->setAccessibleName(QStringLiteral("List of %1").arg(QLatin1String(wording.many)));
-    fileLabel_->setObjectName(QLatin1String(wording.label));
+    NameControls();
+    SetUpFind();
+    LayOut();
+    setFocusProxy(list_);
+}
+
+void RecordListPane::NameControls() {
+    list_->setObjectName(QLatin1String(wording_.list));
+    list_->setAccessibleName(QStringLiteral("List of %1").arg(QLatin1String(wording_.many)));
+    fileLabel_->setObjectName(QLatin1String(wording_.label));
     countLabel_->setObjectName(QStringLiteral("lblCount"));
     problemLabel_->setObjectName(QStringLiteral("lblProblem"));
     countLabel_->setTextFormat(Qt::PlainText);
@@ -167,23 +174,27 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     problemLabel_->setWordWrap(true);
     problemLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     problemLabel_->hide();
-
     find_->setObjectName(QStringLiteral("txtFind"));
     find_->setAccessibleName(QStringLiteral("Find"));
+}
+
+void RecordListPane::SetUpFind() {
     find_->setToolTip(QStringLiteral(
         "Part of a name, accents and capitals aside. Down and Up go through what fits, Enter picks. "
         "(Ctrl+F)"));
     find_->setClearButtonEnabled(true);
     find_->installEventFilter(this);
     connect(find_, &QLineEdit::textChanged, this, &RecordListPane::FindTyped);
-    auto* findLabel = new QLabel(QStringLiteral("&Find"), this);
-    findLabel->setBuddy(find_);
     const auto focusFind = [this] {
         find_->setFocus(Qt::ShortcutFocusReason);
         find_->selectAll();
     };
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, focusFind);
+}
 
+void RecordListPane::LayOut() {
+    auto* findLabel = new QLabel(QStringLiteral("&Find"), this);
+    findLabel->setBuddy(find_);
     auto* head = new QHBoxLayout;
     head->addWidget(fileLabel_, 1);
     head->addWidget(countLabel_);
@@ -196,7 +207,6 @@ RecordListPane::RecordListPane(const Wording& wording, QWidget* parent)
     column->addLayout(findRow);
     column->addWidget(list_, 1);
     column->addWidget(problemLabel_);
-    setFocusProxy(list_);
 }
 
 void RecordListPane::ShowReading(const std::string& file) {

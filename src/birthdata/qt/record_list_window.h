@@ -110,6 +110,9 @@ class RecordListPane : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void NameControls();
+    void SetUpFind();
+    void LayOut();
     void FindTyped();
     void GoToMatch(int step);
     void ShowCount();
