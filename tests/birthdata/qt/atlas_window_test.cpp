@@ -107,8 +107,10 @@ TEST(AtlasProgramTest, AsksWhichOfTwoAndLeavesNothingWhenCancelled) {
         << "none is chosen for the user";
     EXPECT_FALSE(Find<QPushButton>(window, "cmdOK").isEnabled());
     EXPECT_TRUE(first.text().startsWith(QStringLiteral("Zone 4"))) << first.text().toStdString();
-    second.click();
-    EXPECT_TRUE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    for (QRadioButton* reading : {&first, &second}) {
+        reading->click();
+        EXPECT_TRUE(Find<QPushButton>(window, "cmdOK").isEnabled());
+    }
     Press(window, "cmdOK");
     EXPECT_EQ(ReadLines(directory / "TSRTEMP.TXT")->at(4), "5");
     std::filesystem::remove(directory / "TSRTEMP.TXT");
