@@ -47,7 +47,7 @@ void Printed(benchmark::State& state, Print print) {
     for (auto _ : state) {
         const NatalData natal = Birth(i++);
         const auto positions = ComputePositions(natal);
-        const CurrentChart chart{natal, *positions, FindAspects(*positions, options)};
+        const NatalChart chart{natal, *positions, FindAspects(*positions, options)};
         benchmark::DoNotOptimize(print(chart, options));
     }
     state.SetItemsProcessed(state.iterations());
@@ -59,7 +59,7 @@ void ListingAndGrid(benchmark::State& state) {
 BENCHMARK(ListingAndGrid);
 
 void Json(benchmark::State& state) {
-    Printed(state, [](const CurrentChart& chart, const Options&) { return ChartAsJson(chart); });
+    Printed(state, [](const NatalChart& chart, const Options&) { return ChartAsJson(chart); });
 }
 BENCHMARK(Json);
 

@@ -9,7 +9,7 @@ constexpr int kNotKeptOption = 165;
 
 }  // namespace
 
-void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& options) {
+void WriteChart(DataBuffer& buffer, const NatalChart& chart, const Options& options) {
     buffer.StartListing();
     WriteNatalListing(buffer, chart.natal, chart.positions);
     WriteAspectGrid(buffer, chart.positions, chart.aspects, options);
@@ -17,7 +17,7 @@ void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& op
 
 ComputeOutcome ComputeChart(const NatalEntry& entry, const Method& method, int iDate, const Options& options,
                             Messages& messages) {
-    const Result<CurrentChart, ChartFaults> made = MakeChart(entry, method, iDate, options);
+    const Result<NatalChart, ChartFaults> made = MakeChart(entry, method, iDate, options);
     if (made) return {*made, {}};
     const ChartFaults& faults = made.fault();
     for (const InputFault& fault : faults.entry) {

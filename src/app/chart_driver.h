@@ -10,10 +10,10 @@
 namespace tolvanis {
 
 // Starts a listing in the buffer and writes the birth, cusps, points and aspect grid of a chart.
-void WriteChart(DataBuffer& buffer, const CurrentChart& chart, const Options& options);
+void WriteChart(DataBuffer& buffer, const NatalChart& chart, const Options& options);
 
 struct ComputeOutcome {
-    std::optional<CurrentChart> chart;
+    std::optional<NatalChart> chart;
     std::optional<EntryField> toCorrect;  // without a chart: where the user corrects the entry first
 };
 

@@ -26,7 +26,7 @@ struct ProgramState {
     Method method;         // the ticked items
     std::string ownAtlas;  // the directory of the delivered atlas, or empty
     NamesState names;
-    CurrentChart chart;
+    NatalChart chart;
     bool chartComputed = false;
     DataBuffer buffer;
     ReportBuffer report;

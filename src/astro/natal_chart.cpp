@@ -73,14 +73,14 @@ std::vector<std::string> ChartFaults::Details() const {
     return details;
 }
 
-Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,
-                                            const Options& options) {
+Result<NatalChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,
+                                          const Options& options) {
     std::vector<InputFault> faults = CheckEntry(entry, method.houses);
     if (!faults.empty()) return ChartFaults{std::move(faults), {}};
     const NatalData natal = ParseNatalData(entry, method, iDate);
     const Result<ChartPositions> positions = ComputePositions(natal);
     if (!positions) return ChartFaults{{}, positions.message()};
-    return CurrentChart{natal, *positions, FindAspects(*positions, options)};
+    return NatalChart{natal, *positions, FindAspects(*positions, options)};
 }
 
 }  // namespace tolvanis

@@ -18,8 +18,8 @@ namespace tolvanis {
 // be computed; no value of a returned chart is infinite or not a number.
 Result<ChartPositions> ComputePositions(const NatalData& natal);
 
-// A chart that the program works with.
-struct CurrentChart {
+// The whole chart of a birth.
+struct NatalChart {
     NatalData natal;
     ChartPositions positions;
     FoundAspects aspects;
@@ -36,7 +36,7 @@ struct ChartFaults {
 
 // The chart of an entry: checked, read, computed, its aspects searched under the orbs of the options. iDate
 // is the system's date order.
-Result<CurrentChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,
-                                            const Options& options);
+Result<NatalChart, ChartFaults> MakeChart(const NatalEntry& entry, const Method& method, int iDate,
+                                          const Options& options);
 
 }  // namespace tolvanis

@@ -28,7 +28,7 @@ class ChartPrinter : public EntryWriter {
     }
 
   private:
-    void Print(const CurrentChart& chart, const NamedBirth& birth) {
+    void Print(const NatalChart& chart, const NamedBirth& birth) {
         switch (format_) {
             case OutputFormat::Text:
                 return Write(ChartAsText(chart, data_.options));
@@ -41,7 +41,7 @@ class ChartPrinter : public EntryWriter {
         }
     }
 
-    void PrintReport(const CurrentChart& chart, const NamedBirth& birth) {
+    void PrintReport(const NatalChart& chart, const NamedBirth& birth) {
         const Result<std::string> report = ChartAsReport(chart, data_.options, data_.files);
         if (report) return Write(*report);
         Refuse(birth.source, report.message());

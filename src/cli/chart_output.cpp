@@ -174,14 +174,14 @@ void WritePlaced(JsonWriter& json, const PlacedBirth& placed) {
 
 }  // namespace
 
-std::string ChartAsText(const CurrentChart& chart, const Options& options) {
+std::string ChartAsText(const NatalChart& chart, const Options& options) {
     DataBuffer buffer;
     WriteChart(buffer, chart, options);
     buffer.AppendBlankLine();  // as every showing in the window does
     return buffer.ListingText("\n");
 }
 
-std::string ChartAsAscii(const CurrentChart& chart) {
+std::string ChartAsAscii(const NatalChart& chart) {
     DataBuffer buffer;
     buffer.StartListing();
     buffer.AppendBlankLine();
@@ -190,7 +190,7 @@ std::string ChartAsAscii(const CurrentChart& chart) {
     return buffer.ListingText("\n");
 }
 
-Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files) {
+Result<std::string> ChartAsReport(const NatalChart& chart, const Options& options, const DataFiles& files) {
     ReportBuffer report;
     const std::vector<std::string> personalBlock = ReadPersonalBlock(files.Own(kPersonalBlockName));
     BuildNatalReport(report, {chart, options, files, personalBlock});
@@ -205,7 +205,7 @@ Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& opti
     return text;
 }
 
-std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed) {
+std::string ChartAsJson(const NatalChart& chart, const PlacedBirth* placed) {
     JsonWriter json;
     json.Open('{');
     WriteBirth(json, chart.natal);

@@ -10,17 +10,17 @@
 namespace tolvanis {
 
 // The listing and the aspect grid as the Data window shows them, with the host's line ends.
-std::string ChartAsText(const CurrentChart& chart, const Options& options);
+std::string ChartAsText(const NatalChart& chart, const Options& options);
 
 // The ASCII chart as the Data window shows it, with the host's line ends.
-std::string ChartAsAscii(const CurrentChart& chart);
+std::string ChartAsAscii(const NatalChart& chart);
 
 // The natal report in pages as the viewer saves it, with the host's line ends, made of the texts and the
 // personal block of the application directory. A fault when it is longer than a report can be.
-Result<std::string> ChartAsReport(const CurrentChart& chart, const Options& options, const DataFiles& files);
+Result<std::string> ChartAsReport(const NatalChart& chart, const Options& options, const DataFiles& files);
 
 // One JSON object and a line end: the members that docs/file-formats.md names, numbers at full precision,
 // angles in degrees; with `placed` also what the atlas and the zone history know of the birth.
-std::string ChartAsJson(const CurrentChart& chart, const PlacedBirth* placed = nullptr);
+std::string ChartAsJson(const NatalChart& chart, const PlacedBirth* placed = nullptr);
 
 }  // namespace tolvanis

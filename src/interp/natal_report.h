@@ -13,7 +13,7 @@ namespace tolvanis {
 
 // What a report is built from.
 struct ReportSource {
-    const CurrentChart& chart;
+    const NatalChart& chart;
     const Options& options;
     const DataFiles& texts;                      // where the interpretations are looked up
     std::span<const std::string> personalBlock;  // closes the title page

@@ -42,7 +42,7 @@ const WheelData& DeliveredWheelData() {
     return *data;
 }
 
-void Draw(const CurrentChart& chart, const Options& options) {
+void Draw(const NatalChart& chart, const Options& options) {
     const WheelSnapshot snapshot = MakeWheelSnapshot(chart.natal, chart.positions);
     BlindSurface surface;
     for (const ChartType type : {ChartType::American, ChartType::European, ChartType::ZodiacRing}) {

@@ -51,7 +51,7 @@ class NatalReport : public testing::Test {
 
     ScratchDirectory directory_;
     DataFiles texts_ = DataFiles(directory_.path());
-    CurrentChart chart_;
+    NatalChart chart_;
     Options options_;
     std::vector<std::string> personal_;
     ReportBuffer report_;
