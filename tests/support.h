@@ -85,8 +85,8 @@ class RecordedMessages : public Messages {
     void Tell(const std::string& title, const std::string& text, MessageIcon icon) override {
         told.emplace_back(title, text, icon);
     }
-    Answer AskYesNo(const std::string& title, const std::string& text) override {
-        return Take(answers, title, text, Answer::Cancel);
+    bool AskYesNo(const std::string& title, const std::string& text) override {
+        return Take(answers, title, text, Answer::No) == Answer::Yes;
     }
     Answer AskYesNoCancel(const std::string& title, const std::string& text) override {
         return Take(answers, title, text, Answer::Cancel);

@@ -51,7 +51,7 @@ Result<void> FillFrom(const Path& source, const Path& target) {
 DirectoryHints HintsOfProcess(std::optional<std::string> fromCommandLine) {
     DirectoryHints hints;
     hints.fromCommandLine = std::move(fromCommandLine);
-    hints.fromEnvironment = Environment("TOLVANIS_DIR");
+    hints.fromEnvironment = Environment(kDirectoryVariable);
     std::error_code error;
     hints.programDirectory = fs::read_symlink("/proc/self/exe", error).parent_path();
     const auto home = Environment("HOME");

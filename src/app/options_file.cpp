@@ -1,8 +1,8 @@
 #include "app/options_file.h"
 
-#include "platform/file_replacing.h"
-
 #include <algorithm>
+
+#include "platform/file_replacing.h"
 
 namespace tolvanis {
 namespace {
@@ -28,16 +28,16 @@ Result<int> ReadOptions(const DataFiles& files, Options& options) {
     return ReadNumberLines(files.Own(kOptionsFileName), options.table());
 }
 
-Result<Path> RestoreOptions(const DataFiles& files) {
+Result<RestoredOptions> RestoreOptions(const DataFiles& files) {
     const Result<std::string> content = ReadBytes(files.Find(kOptionsMasterName));
     if (!content) return content.fault();
     const Path file = files.Own(kOptionsFileName);
     Options present;
     // Options are kept; what holds none does not take the place of options that have been kept.
     const Path backup = LoadOptions(files, present) ? BackupPath(file) : Path(file).replace_extension("BAD");
-    if (const Result<void> replaced = ReplaceAndKeep(file, backup, *content); !replaced)
-        return replaced.fault();
-    return backup;
+    const Result<bool> kept = ReplaceAndKeep(file, backup, *content);
+    if (!kept) return kept.fault();
+    return *kept ? RestoredOptions{backup} : RestoredOptions{};
 }
 
 Result<int> LoadOptions(const DataFiles& files, Options& options) {

@@ -1,6 +1,8 @@
 #pragma once
 // The options file.
 
+#include <optional>
+
 #include "chart/options.h"
 #include "platform/data_files.h"
 
@@ -18,8 +20,12 @@ Result<int> ReadOptions(const DataFiles& files, Options& options);
 // most lines hold no number.
 Result<int> LoadOptions(const DataFiles& files, Options& options);
 
+struct RestoredOptions {
+    std::optional<Path> keptAs;  // the file with the former options; none where there were none, or the same
+};
+
 // Puts the master copy, the delivered options, in the place of the options file, whose content is kept under
-// BackupPath, or with the ending BAD where it holds no options. Gives that name.
-Result<Path> RestoreOptions(const DataFiles& files);
+// BackupPath, or with the ending BAD where it holds no options.
+Result<RestoredOptions> RestoreOptions(const DataFiles& files);
 
 }  // namespace tolvanis

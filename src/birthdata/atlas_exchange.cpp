@@ -14,7 +14,7 @@ Environment AtlasEnvironment(const NatalEntry& entry, const Path& appDirectory) 
     std::string birth;
     for (const auto box : kBoxes) birth += entry.*box + " ";
     birth += entry.pm ? 'P' : 'A';
-    return {{kAtlasBirthVariable, birth}, {kAtlasDataVariable, appDirectory.string()}};
+    return {{kAtlasBirthVariable, birth}, {std::string(kDirectoryVariable), appDirectory.string()}};
 }
 
 NatalEntry BirthOfEnvironment(std::string_view value) {

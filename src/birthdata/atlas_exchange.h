@@ -18,7 +18,6 @@ inline constexpr std::string_view kAtlasExchangeFile = "TSRTEMP.TXT";
 
 // The variable that holds date and time: 1949-09-22 9:05 A.M. as "1949 9 22 9 5 A".
 inline constexpr const char* kAtlasBirthVariable = "TOLVANIS_BIRTH";
-inline constexpr const char* kAtlasDataVariable = "TOLVANIS_DIR";
 
 using Environment = std::vector<std::pair<std::string, std::string>>;
 

@@ -126,7 +126,7 @@ bool AtlasLookup::IsAccepted(const AtlasResult& result) {
     const std::string text = "Accept following data? \r\n\r\nLongitude = " + result.longitude +
                              "\r\nLatitude  = " + result.latitude +
                              "\r\nTime zone = " + ClassicNumberText(result.timeZone);
-    return messages_.AskYesNo("Accept or Reject data", text) == Answer::Yes;
+    return messages_.AskYesNo("Accept or Reject data", text);
 }
 
 }  // namespace tolvanis

@@ -39,9 +39,9 @@ class ReplaceQuestions {
             asked.used = true;
             return asked.replaces;
         }
-        const Answer answer = messages_.AskYesNo(record.name + " already exists", ReplaceQuestion(record));
-        asked_.push_back({record, answer == Answer::Yes, true});
-        return asked_.back().replaces;
+        const bool replaces = messages_.AskYesNo(record.name + " already exists", ReplaceQuestion(record));
+        asked_.push_back({record, replaces, true});
+        return replaces;
     }
 
   private:

@@ -1,5 +1,7 @@
 #include "chart/theory.h"
 
+#include "text/columns.h"
+
 namespace tolvanis {
 namespace {
 
@@ -13,8 +15,8 @@ std::string_view TheoryCode(Theory theory) {
 }
 
 std::optional<Theory> TheoryOfCode(std::string_view code) {
-    if (code == kClassicCode) return Theory::Classic;
-    if (code == kModernCode) return Theory::Modern;
+    if (EqualIgnoringCase(code, kClassicCode)) return Theory::Classic;
+    if (EqualIgnoringCase(code, kModernCode)) return Theory::Modern;
     return std::nullopt;
 }
 

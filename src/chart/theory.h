@@ -8,7 +8,7 @@ namespace tolvanis {
 
 enum class Theory { Classic, Modern };
 
-// "classic", "modern".
+// "classic", "modern"; letter case does not matter.
 std::string_view TheoryCode(Theory theory);
 std::optional<Theory> TheoryOfCode(std::string_view code);
 

@@ -7,6 +7,9 @@
 
 namespace tolvanis {
 
+// The environment variable that names the application directory.
+inline constexpr const char* kDirectoryVariable = "TOLVANIS_DIR";
+
 // The application directory, with the data delivered with the program behind it. Made once at start; whoever
 // needs a file asks here.
 class DataFiles {

@@ -19,7 +19,7 @@ bool EndsIn(std::string_view name, std::string_view extension) {
 std::vector<std::string> ExtensionsOf(const std::string& pattern) {
     std::vector<std::string> extensions;
     std::istringstream parts(pattern);
-    for (std::string part; parts >> part;) extensions.push_back(part.substr(part.rfind('.')));
+    for (std::string part; parts >> part;) extensions.push_back(Path(part).extension().string());
     return extensions;
 }
 

@@ -387,17 +387,17 @@ Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::strin
     return true;
 }
 
-Result<void> ReplaceAndKeep(const Path& path, const Path& backup, std::string_view content) {
+Result<bool> ReplaceAndKeep(const Path& path, const Path& backup, std::string_view content) {
     constexpr int kMostChanges = 20;
     for (int attempt = 0; attempt < kMostChanges; ++attempt) {
         std::error_code error;
         const bool exists = fs::exists(FindPath(path), error);
         const Result<std::string> present = exists ? ReadBytes(path) : std::string();
         if (!present) return present.fault();
-        if (exists && *present == content) return {};
+        if (exists && *present == content) return false;
         const Result<bool> replaced = ReplaceIfUnchanged(path, backup, *present, content);
         if (!replaced) return replaced.fault();
-        if (*replaced) return {};
+        if (*replaced) return exists;
     }
     return CannotWrite(path, "another program keeps changing it");
 }

@@ -29,8 +29,9 @@ Result<void> ReplaceFile(const Path& path, const std::function<bool(const Sink&)
 Result<bool> ReplaceIfUnchanged(const Path& path, const Path& backup, std::string_view expected,
                                 std::string_view content);
 
-// Replaces the file and keeps its content, whatever it is, as ReplaceIfUnchanged does.
-Result<void> ReplaceAndKeep(const Path& path, const Path& backup, std::string_view content);
+// Replaces the file and keeps its content, whatever it is, as ReplaceIfUnchanged does. False when there was
+// nothing to keep: no file yet, or one that holds the new content already.
+Result<bool> ReplaceAndKeep(const Path& path, const Path& backup, std::string_view content);
 
 // The name under which a file's previous content is kept: with its extension, or its last three characters
 // where it has none, replaced by "OLD". Where that would be the file itself, or a name of three characters

@@ -1,5 +1,6 @@
 #include "text/dates.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 

@@ -1,5 +1,7 @@
 #include "text/fields.h"
 
+#include <algorithm>
+
 #include "text/columns.h"
 
 namespace tolvanis {

@@ -83,10 +83,10 @@ bool Desktop::StartOptions() {
                                 MessageIcon::Stop);
         return false;
     }
-    const Answer answer = services_.messages.AskYesNo(
+    const bool restores = services_.messages.AskYesNo(
         "Error!", fault + " The program needs it. Restore it from " + master.string() + "?");
-    if (answer != Answer::Yes) return false;
-    if (const Result<Path> restored = RestoreOptions(state_.files); !restored) {
+    if (!restores) return false;
+    if (const Result<RestoredOptions> restored = RestoreOptions(state_.files); !restored) {
         services_.messages.Tell("Error!", restored.message(), MessageIcon::Stop);
         return false;
     }
@@ -357,15 +357,15 @@ void Desktop::EditorClosed(EditorUse use) {
 void Desktop::RestoreDefaultOptions(EditorWindow& editor) {
     const bool asks = editor.HasUnsavedChanges();
     if (asks && services_.messages.AskYesNoCancel("Warning!", kUnsavedLostText) != Answer::Yes) return;
-    const Result<Path> restored = RestoreOptions(state_.files);
+    const Result<RestoredOptions> restored = RestoreOptions(state_.files);
     if (!restored) {
         services_.messages.Tell("Warning!", kRestoreFailedText, MessageIcon::Information);
         return;
     }
     editor.Load();
-    services_.messages.Tell("Information",
-                            "The default settings are restored. The former ones are kept as " +
-                                restored->filename().string() + ".",
+    const std::string kept =
+        restored->keptAs ? " The former ones are kept as " + restored->keptAs->filename().string() + "." : "";
+    services_.messages.Tell("Information", "The default settings are restored." + kept,
                             MessageIcon::Information);
 }
 

@@ -56,6 +56,19 @@ void AddItem(QListWidget& list, QStyle::StandardPixmap icon, const std::string& 
     item->setToolTip(ToQt(name).toHtmlEscaped());
 }
 
+template <typename Widget>
+Widget* Named(Widget* widget, const char* object, const char* accessible) {
+    widget->setObjectName(QLatin1String(object));
+    widget->setAccessibleName(QLatin1String(accessible));
+    return widget;
+}
+
+QLabel* LabelOf(const char* caption, QWidget* buddy) {
+    auto* label = new QLabel(QLatin1String(caption));
+    label->setBuddy(buddy);
+    return label;
+}
+
 }  // namespace
 
 SelectFIle::SelectFIle(const Path& applicationDirectory, const std::string& pattern,
@@ -70,57 +83,43 @@ SelectFIle::SelectFIle(const Path& applicationDirectory, const std::string& patt
 }
 
 void SelectFIle::Build() {
-    drvList_ = new QComboBox;
+    drvList_ = Named(new QComboBox, "drvList", "Drives");
     drvList_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    dirList_ = MakeList();
-    filList_ = MakeList();
+    dirList_ = Named(MakeList(), "dirList", "Directories");
+    filList_ = Named(MakeList(), "filList", "Files");
     lblPath_ = new ElidedLabel;
     QPushButton* select = MakePushButton("cmdSelect", QStringLiteral("Select"));
     QPushButton* cancel = MakePushButton("cmdCancel", QStringLiteral("Cancel"));
-    const auto name = [](QWidget* widget, const char* object, const char* accessible) {
-        widget->setObjectName(QLatin1String(object));
-        widget->setAccessibleName(QLatin1String(accessible));
-    };
-    name(drvList_, "drvList", "Drives");
-    name(dirList_, "dirList", "Directories");
-    name(filList_, "filList", "Files");
-
-    auto* grid = new QGridLayout(this);
-    const auto label = [&](const char* caption, QWidget* buddy, int column) {
-        auto* text = new QLabel(QLatin1String(caption));
-        text->setBuddy(buddy);
-        grid->addWidget(text, 0, column);
-    };
-    label("&Files", filList_, 0);
-    label("&Directories", dirList_, 1);
-    grid->addWidget(filList_, 1, 0, 3, 1);
-    grid->addWidget(dirList_, 1, 1);
-    auto* drives = new QLabel(QStringLiteral("D&rives"));
-    drives->setBuddy(drvList_);
-    grid->addWidget(drives, 2, 1);
-    grid->addWidget(drvList_, 3, 1);
-    grid->addWidget(lblPath_, 4, 0, 1, 2);
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(select);
-    row->addWidget(cancel);
-    grid->addLayout(row, 5, 0, 1, 2);
     select->setDefault(true);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    grid->setRowStretch(1, 1);
-    setTabOrder(filList_, dirList_);
-    setTabOrder(dirList_, drvList_);
-    setTabOrder(drvList_, select);
-    setTabOrder(select, cancel);
-    const int letter = fontMetrics().averageCharWidth();
-    ResizeToFit(*this, {letter * 84, fontMetrics().lineSpacing() * 24});
-
+    LayOut(*select, *cancel);
+    QWidget* const order[] = {filList_, dirList_, drvList_, select, cancel};
+    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
     connect(select, &QPushButton::clicked, this, &SelectFIle::cmdSelect_Click);
     connect(cancel, &QPushButton::clicked, this, &SelectFIle::cmdCancel_Click);
     connect(filList_, &QListWidget::itemDoubleClicked, this, &SelectFIle::cmdSelect_Click);
     connect(dirList_, &QListWidget::itemDoubleClicked, this, &SelectFIle::dirList_Change);
     connect(drvList_, &QComboBox::activated, this, &SelectFIle::drvList_Change);
+}
+
+// The files in the left column, directories and drives in the right one, the path and the buttons below.
+void SelectFIle::LayOut(QPushButton& select, QPushButton& cancel) {
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(&select);
+    buttons->addWidget(&cancel);
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(LabelOf("&Files", filList_), 0, 0);
+    grid->addWidget(filList_, 1, 0, 3, 1);
+    grid->addWidget(LabelOf("&Directories", dirList_), 0, 1);
+    grid->addWidget(dirList_, 1, 1);
+    grid->addWidget(LabelOf("D&rives", drvList_), 2, 1);
+    grid->addWidget(drvList_, 3, 1);
+    grid->addWidget(lblPath_, 4, 0, 1, 2);
+    grid->addLayout(buttons, 5, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    ResizeToFit(*this, {fontMetrics().averageCharWidth() * 84, fontMetrics().lineSpacing() * 24});
 }
 
 void SelectFIle::FillDrives() {

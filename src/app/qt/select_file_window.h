@@ -9,6 +9,7 @@
 class QComboBox;
 class QListWidget;
 class QListWidgetItem;
+class QPushButton;
 
 namespace tolvanis {
 
@@ -34,6 +35,7 @@ class SelectFIle : public QDialog {
 
   private:
     void Build();
+    void LayOut(QPushButton& select, QPushButton& cancel);
     void FillDrives();
     void ShowDirectory(const Path& directory);
     void FillDirectories();

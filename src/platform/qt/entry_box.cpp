@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <algorithm>
+#include <utility>
 
 namespace tolvanis {
 namespace {

@@ -42,27 +42,22 @@ int Show(const std::string& title, const std::string& text, MessageIcon icon,
     return box.exec();
 }
 
-Answer AnswerOf(int button, Answer closed) {
-    if (button == QMessageBox::Yes) return Answer::Yes;
-    return button == QMessageBox::No ? Answer::No : closed;
-}
-
 }  // namespace
 
 void MessageBoxes::Tell(const std::string& title, const std::string& text, MessageIcon icon) {
     Show(title, text, icon, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-Answer MessageBoxes::AskYesNo(const std::string& title, const std::string& text) {
-    const int button =
-        Show(title, text, MessageIcon::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-    return AnswerOf(button, Answer::No);
+bool MessageBoxes::AskYesNo(const std::string& title, const std::string& text) {
+    return Show(title, text, MessageIcon::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+           QMessageBox::Yes;
 }
 
 Answer MessageBoxes::AskYesNoCancel(const std::string& title, const std::string& text) {
     const int button = Show(title, text, MessageIcon::Question,
                             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
-    return AnswerOf(button, Answer::Cancel);
+    if (button == QMessageBox::Yes) return Answer::Yes;
+    return button == QMessageBox::No ? Answer::No : Answer::Cancel;
 }
 
 std::string MessageBoxes::AskText(const std::string& title, const std::string& prompt) {

@@ -811,6 +811,11 @@ TEST_F(DesktopWindow, RestoredOptionsAreShownAndAFailedRestoreChangesNothing) {
     EXPECT_TRUE(content.toPlainText().startsWith(QStringLiteral("3.5 restored\n")));
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.OPT"), "3.5 restored\r\n" + master);
     EXPECT_FALSE(content.document()->isModified()) << "quitting has nothing to ask";
+    EXPECT_NE(messages_.TakeTold().at(0).find("kept as OPTIONS.OLD"), std::string::npos);
+    Press(*editor, "cmdRestoreDefault");
+    EXPECT_EQ(messages_.TakeTold(),
+              std::vector<std::string>{"Information: The default settings are restored."});
+    EXPECT_EQ(FileContent(directory_ / "OPTIONS.OLD"), before);
 }
 
 TEST(FileChooser, HasTwoEqualColumnsInWhichLongNamesAreRead) {
