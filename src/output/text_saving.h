@@ -16,9 +16,10 @@ struct TextToSave {
     std::function<std::string()> content;  // the whole file
 };
 
-// Writes into the file chosen last, whichever window chose it, and asks for one where none has been chosen.
-// That there is nothing to write, or that the file cannot be written, is told; a cancelled question leaves
-// everything as it is.
+// Writes into the file chosen last, whichever window chose it, and asks for one where none has been chosen or
+// the last one could not be written. Where the file holds a text with which the new one does not begin (the
+// report of another person, say), Save asks before it overwrites that. That there is nothing to write, or
+// that the file cannot be written, is told; a cancelled question leaves everything as it is.
 class TextSaving {
   public:
     TextSaving(std::string& SaveFileName, Messages& messages, FileDialogs& dialogs)
@@ -29,7 +30,8 @@ class TextSaving {
 
   private:
     bool HasText(const TextToSave& text);
-    void Write(const TextToSave& text);
+    Answer MayOverwrite(std::string_view content);
+    void Write(const std::string& content);
 
     std::string& SaveFileName_;
     Messages& messages_;

@@ -212,12 +212,32 @@ TEST_F(InterpDeskTest, ReportIsSavedInPagesUnderReports) {
     const std::string saved = FileContent(Saved("REPORTS/Ann.TXT"));
     EXPECT_EQ(std::count(saved.begin(), saved.end(), '\f'), 5);
     EXPECT_NE(saved.find("Page 2\r\n\f\r\n\r\n\r\n\r\ntext"), std::string::npos);
-    ChooseInData("mnuSave");
-    EXPECT_NE(FileContent(Saved("REPORTS/Ann.TXT")).find("HOUSE CUSPS"), std::string::npos)
-        << "the file chosen last serves both windows";
     dialogs_.answer = Saved("none/Ann.TXT").string();
     Press(report(), "cmdSaveAs");
     EXPECT_THAT(messages_.TakeTold(), ElementsAre(testing::HasSubstr("none/Ann.TXT: No such file")));
+    EXPECT_EQ(state_.SaveFileName, "") << "the next Save asks for a file again";
+}
+
+// The file chosen last serves both windows; what it holds of the other one goes only when the user says so.
+TEST_F(InterpDeskTest, AListingReplacesAReportOnlyWhenTheUserSaysSo) {
+    OpenReport();
+    dialogs_.answer = Saved("REPORTS/Ann.TXT").string();
+    Press(report(), "cmdSaveAs");
+    const std::string report = FileContent(Saved("REPORTS/Ann.TXT"));
+    dialogs_.answer = Saved("Ann.DOC").string();
+    for (const Answer answer : {Answer::Cancel, Answer::No}) {
+        messages_.answers = {answer};
+        ChooseInData("mnuSave");
+        EXPECT_EQ(FileContent(Saved("REPORTS/Ann.TXT")), report);
+        EXPECT_EQ(std::filesystem::exists(Saved("Ann.DOC")), answer == Answer::No) << "under another name";
+    }
+    ChooseInData("mnuSave");
+    EXPECT_TRUE(messages_.answers.empty()) << "the same listing asks nothing";
+    state_.SaveFileName = Saved("REPORTS/Ann.TXT").string();
+    messages_.answers = {Answer::Yes};
+    ChooseInData("mnuSave");
+    EXPECT_NE(FileContent(Saved("REPORTS/Ann.TXT")).find("HOUSE CUSPS"), std::string::npos);
+    EXPECT_EQ(messages_.asked.size(), 3U);
 }
 
 TEST_F(InterpDeskTest, AReportsDirectoryThatCannotBeMadeIsTold) {
