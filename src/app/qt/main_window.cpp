@@ -1,7 +1,7 @@
 #include "app/qt/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -50,6 +50,7 @@ TOLVANIS::TOLVANIS() : items_(MainMenu()) {
     setMenuBar(new MainMenuBar);
     menuBar()->setNativeMenuBar(false);
     for (const MenuItem& item : items_) AddItem(item);
+    qApp->installEventFilter(this);
     for (const MenuItem& item : items_) {
         if (item.needsChart) ItemOf(item.control)->setVisible(false);
     }
@@ -117,6 +118,30 @@ void TOLVANIS::FocusMenu() {
     BringForward(*this);
     menuBar()->setFocus();
     if (menuBar()->hasFocus()) static_cast<MainMenuBar*>(menuBar())->MarkFirstItem();
+}
+
+bool TOLVANIS::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const bool isAltLetter =
+        key.modifiers() == Qt::AltModifier && key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z;
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (!isAltLetter || widget == nullptr || widget->window() == this) return false;
+    if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
+        return false;
+    OpenMenuOf(QChar(key.key()));
+    return true;  // also where no menu has the letter: a text box would take it for a letter to type
+}
+
+void TOLVANIS::OpenMenuOf(QChar letter) {
+    for (QAction* action : menuBar()->actions()) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(action->text());
+        if (mnemonic != QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter.unicode()))) continue;
+        if (!action->isVisible() || !action->isEnabled()) return;
+        if (action->menu() == nullptr) return action->trigger();
+        BringForward(*this);
+        return menuBar()->setActiveAction(action);
+    }
 }
 
 void TOLVANIS::closeEvent(QCloseEvent* event) {

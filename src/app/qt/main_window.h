@@ -9,6 +9,8 @@
 
 namespace tolvanis {
 
+// The Alt key with the underlined letter of a menu opens that menu from every window of the program that has
+// no use of its own for the letter.
 class TOLVANIS : public QMainWindow {
     Q_OBJECT
 
@@ -38,8 +40,11 @@ class TOLVANIS : public QMainWindow {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    // Sees the keys of the whole program.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void OpenMenuOf(QChar letter);
     void AddItem(const MenuItem& item);
     void ConnectItem(const MenuItem& item, QAction* action);
 

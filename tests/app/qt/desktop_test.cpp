@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -19,13 +22,10 @@
 #include "app/qt/print_file_window.h"
 #include "app/qt/select_file_window.h"
 #include "app/qt/title_window.h"
+#include "interp/qt/report_window.h"
 #include "platform/qt/listing_font.h"
 #include "platform/qt/placement.h"
 #include "support/desktop_fixture.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QListWidget>
 
 namespace tolvanis {
 namespace {
@@ -611,6 +611,24 @@ TEST_F(DesktopWindow, OptionsChooseHousesAtStart) {
         ASSERT_TRUE(Open());
         EXPECT_TRUE(desktop_->mainWindow().ItemOf(item)->isChecked()) << value;
     }
+}
+
+TEST_F(DesktopWindow, AltAndALetterOpensTheMenuFromEveryWindow) {
+    auto& name = Find<QLineEdit>(input(), "txtName");
+    const QString before = name.text();
+    name.selectAll();
+    for (const Qt::Key letter : {Qt::Key_Q, Qt::Key_H}) QTest::keyClick(&name, letter, Qt::AltModifier);
+    EXPECT_EQ(name.text(), before) << "nothing is typed";
+    const QMenu* help = desktop_->mainWindow().ItemOf("mnuHelp")->menu();
+    EXPECT_TRUE(help->isVisible());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(help->isVisible());
+    TypeBirth();
+    PressOK();
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    QTest::keyClick(&Find<QPlainTextEdit>(*editor, "txtContent"), Qt::Key_R, Qt::AltModifier);
+    EXPECT_NE(TopWindow<Report>(), nullptr) << "an item of the menu bar itself";
 }
 
 TEST_F(DesktopWindow, AClosedNatalInputCanBeOpenedAgain) {
