@@ -11,10 +11,7 @@ Result<CommandData> OpenCommandData(const std::optional<std::string>& appDirecto
     CommandData data{*files, {}, time, {}};
     const Result<int> lines = LoadOptions(*files, data.options);
     if (!lines) return lines.fault();
-    if (*lines < kOptionCount) {
-        data.note = files->Own(kOptionsFileName).string() + " ends after " + std::to_string(*lines) + " of " +
-                    std::to_string(kOptionCount) + " lines; the options behind count as 0";
-    }
+    data.note = OptionsNote(*files, *lines);
     return data;
 }
 

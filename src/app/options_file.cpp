@@ -28,6 +28,12 @@ Result<int> ReadOptions(const DataFiles& files, Options& options) {
     return ReadNumberLines(files.Own(kOptionsFileName), options.table());
 }
 
+std::string OptionsNote(const DataFiles& files, int lines) {
+    if (lines >= kOptionCount) return {};
+    return files.Own(kOptionsFileName).string() + " ends after " + std::to_string(lines) + " of " +
+           std::to_string(kOptionCount) + " lines; the options behind count as 0";
+}
+
 Result<RestoredOptions> RestoreOptions(const DataFiles& files) {
     const Result<std::string> content = ReadBytes(files.Find(kOptionsMasterName));
     if (!content) return content.fault();

@@ -2,6 +2,7 @@
 // The options file.
 
 #include <optional>
+#include <string>
 
 #include "chart/options.h"
 #include "platform/data_files.h"
@@ -19,6 +20,10 @@ Result<int> ReadOptions(const DataFiles& files, Options& options);
 // The same, with a fault also for a file of other content: one that reads as nothing but zeros, or in which
 // most lines hold no number.
 Result<int> LoadOptions(const DataFiles& files, Options& options);
+
+// What the user should know of options of which so many lines were read: that the file ends early, or
+// nothing.
+std::string OptionsNote(const DataFiles& files, int lines);
 
 struct RestoredOptions {
     std::optional<Path> keptAs;  // the file with the former options; none where there were none, or the same

@@ -29,8 +29,10 @@ constexpr const char* kUnsavedLostText =
     "The changes in this window are not saved and will be lost. Restore the default settings?";
 constexpr const char* kNoOptionsText =
     " The options of before stay in force, but the program does not start with this file. Restore Default "
-    "Settings puts the delivered options in its "
-    "place; the former ones are kept as OPTIONS.OLD.";
+    "Settings puts the delivered options in its place; the former ones are kept as OPTIONS.OLD.";
+constexpr const char* kShortOptionsText =
+    ". An empty line ends the options.\r\n\r\nRestore Default Settings in the options "
+    "editor puts the delivered options in their place and keeps yours as OPTIONS.OLD.";
 constexpr const char* kSettingsUnreadText =
     " The program starts with its default settings and leaves the file as it is.";
 constexpr const char* kRestoreFailedText = "Error in operation. Cannot do what is requested.";
@@ -63,6 +65,12 @@ bool Desktop::Start() {
     return true;
 }
 
+void Desktop::TellShortOptions(int lines) {
+    const std::string note = OptionsNote(state_.files, lines);
+    if (note.empty()) return;
+    services_.messages.Tell("Warning!", note + kShortOptionsText, MessageIcon::Warning);
+}
+
 void Desktop::StartSettings() {
     const Result<Settings> read = ReadSettings(state_.files.directory());
     keepsSettings_ = static_cast<bool>(read);
@@ -73,7 +81,7 @@ void Desktop::StartSettings() {
 
 bool Desktop::StartOptions() {
     const Result<int> read = LoadOptions(state_.files, state_.options);
-    if (read) return true;
+    if (read) return TellShortOptions(*read), true;
     const std::string fault = read.message();
     const Path master = state_.files.Find(kOptionsMasterName);
     if (!IsReadableFile(master)) {
@@ -343,6 +351,7 @@ void Desktop::EditorSaved(EditorUse use) {
     Options edited = state_.options;
     if (const Result<int> read = LoadOptions(state_.files, edited); read) {
         state_.options = edited;
+        TellShortOptions(*read);
     } else {
         services_.messages.Tell("Warning!", read.message() + kNoOptionsText, MessageIcon::Warning);
     }

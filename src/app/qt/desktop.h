@@ -73,6 +73,7 @@ class Desktop : public QObject {
     using Command = std::function<void()>;
 
     bool StartOptions();
+    void TellShortOptions(int lines);
     void StartSettings();
     void ShowTitle();
     void MeasureScreen();

@@ -499,6 +499,19 @@ TEST_F(DesktopWindow, OptionsThatHoldNoneAreToldAndCostNoBackup) {
     EXPECT_EQ(FileContent(directory_ / "OPTIONS.BAD"), "no options\r\n");
 }
 
+TEST_F(DesktopWindow, OptionsThatEndEarlyAreToldWhenSavedAndAtStart) {
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    auto& content = Find<QPlainTextEdit>(*editor, "txtContent");
+    content.moveCursor(QTextCursor::Start);
+    content.moveCursor(QTextCursor::EndOfLine);
+    content.insertPlainText(QStringLiteral("\n"));
+    Press(*editor, "btnSave");
+    EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.OPT ends after 1 of 196 lines"), std::string::npos);
+    ASSERT_TRUE(Open());
+    EXPECT_NE(messages_.TakeTold().at(0).find("OPTIONS.OPT ends after 1 of 196 lines"), std::string::npos);
+}
+
 TEST_F(DesktopWindow, SettingsThatCannotBeReadAreToldAndLeftAsTheyAre) {
     const std::string endless = "DataTop= 30\r\nDataFile=" + std::string(3 << 20, 'x');
     directory_.Write("Tolvanis.ini", endless);
