@@ -114,8 +114,13 @@ void FollowMove(const Path& applicationDirectory, Settings& settings) {
     const std::string texts = ClosedWithSeparator(settings.InterpsDir);
     for (std::string* file : {&settings.DataFile, &settings.GeoDataFile}) {
         const bool wasWithTexts = DirectoryPart(*file) == texts;
-        const bool moved = FollowMove(applicationDirectory, *file);
-        if (moved && wasWithTexts) settings.InterpsDir = applicationDirectory.string();
+        const std::string away = *file;
+        if (!FollowMove(applicationDirectory, *file)) continue;
+        if (wasWithTexts) {
+            settings.InterpsDir = applicationDirectory.string();
+        } else {
+            settings.standIns.push_back({away, *file});
+        }
     }
     FollowMove(applicationDirectory, settings.AtlasDir);
     FollowMove(applicationDirectory, settings.InterpsDir);
@@ -160,8 +165,11 @@ std::string SettingsText(const Settings& settings) {
     };
     text.append(kHeading).append(kLineEnd);
     for (const Key& key : kKeys) {
-        const std::string value =
+        std::string value =
             std::visit([&](auto member) { return TextOf(SettingOf(settings, member)); }, key.member);
+        for (const Settings::StandIn& standIn : settings.standIns) {
+            if (value == standIn.used) value = standIn.away;
+        }
         if (!value.empty()) line(key.name, value);
     }
     for (const char* unused : {"wh_var1", "wh_var2", "wh_var3", "wh_var4", "wh_var5", "wh_var6"}) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "output/data_view.h"
 #include "platform/files.h"
@@ -26,6 +27,14 @@ struct Settings {
     std::string AtlasDir;           // directory of the atlas program; empty when there is none
     std::string InterpsDir;         // directory of the interpretation texts, with its separator at the end
 
+    // A list that is away (a stick that is not plugged in), and the one that stands in for it in this run.
+    struct StandIn {
+        std::string away;
+        std::string used;
+        friend bool operator==(const StandIn&, const StandIn&) = default;
+    };
+    std::vector<StandIn> standIns;
+
     friend bool operator==(const Settings&, const Settings&) = default;
 };
 
@@ -37,7 +46,8 @@ void ApplySettingsLine(std::string_view line, Settings& settings);
 // The defaults overlaid by the settings file of the directory; a missing file gives the defaults, one that
 // is there and cannot be read to its end a fault. InterpsDir gets a separator (JoinPathText) when it ends in
 // neither "/" nor "\". Files that are no longer where the settings say, but in the directory, are taken from
-// there, as are the atlas and the texts: a portable copy may have been moved.
+// there, as are the atlas and the texts: a portable copy may have been moved. One that lay elsewhere than the
+// texts has not been moved with them: its path is kept in the file.
 Result<Settings> ReadSettings(const Path& applicationDirectory);
 
 // The file's text, lines ending in CR LF; a setting that is an empty text has none.

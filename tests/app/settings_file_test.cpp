@@ -128,6 +128,7 @@ TEST(SettingsFile, FilesOfAMovedDirectoryAreFound) {
         "DataFile=/old/place/ANN.FIL\r\nGeoDataFile=C:\\OLD\\GA_MA.LL\r\n"
         "AtlasDir=/old/place/ATLAS/\r\nInterpsDir=/old/place/\r\n");
     EXPECT_EQ(moved.DataFile, here + "Ann.fil");
+    EXPECT_NE(SettingsText(moved).find("DataFile=" + here + "Ann.fil\r\n"), std::string::npos);
     EXPECT_EQ(moved.GeoDataFile, here + "GA_MA.LL");
     EXPECT_EQ(moved.AtlasDir, here + "ATLAS");
     EXPECT_EQ(moved.InterpsDir, here);
@@ -137,6 +138,10 @@ TEST(SettingsFile, FilesOfAMovedDirectoryAreFound) {
     EXPECT_EQ(stays.GeoDataFile, "/old/OTHER.LL");
     EXPECT_EQ(stays.InterpsDir, "C:\\TEXTS\\");
     EXPECT_NE(SettingsText(stays).find("InterpsDir=C:\\TEXTS\\\r\n"), std::string::npos);
+    const Settings away = read("DataFile=/a/stick/NAMES.FIL\r\nInterpsDir=" + here + "\r\n");
+    EXPECT_EQ(away.DataFile, here + "NAMES.FIL");
+    EXPECT_NE(SettingsText(away).find("\r\nDataFile=/a/stick/NAMES.FIL\r\n"), std::string::npos)
+        << "the next run looks for it again";
 }
 
 }  // namespace
