@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/options_file.h"
 #include "birthdata/cities_file.h"
 #include "birthdata/name_record.h"
 #include "text/columns.h"
@@ -77,13 +78,13 @@ void TakeRecord(const NameRecord& record, const std::string& source, BirthReceiv
 void ReadBirthsOfNamesFile(const BirthArguments& births, BirthReceiver& receiver) {
     const std::string& file = *births.namesFile;
     const std::string wanted = ToUtf8(births.name.value_or(std::string()));
-    LineReader reader{PathFromText(file)};
+    LineReader reader(PathFromText(file), kAnySize);
     bool found = false;
     for (std::string line; receiver.WantsMore() && !found && reader.Next(line);) {
         const std::string source = file + ":" + std::to_string(reader.LineNumber());
         const Result<NameRecord> record = ParseNameRecord(line);
         if (record && record->name.empty()) break;  // ends the list
-        if (births.name && (!record || record->name != wanted)) continue;
+        if (births.name && (record ? record->name : FirstField(line)) != wanted) continue;
         if (record) {
             TakeRecord(*record, source, receiver);
         } else {
@@ -98,13 +99,16 @@ void ReadBirthsOfNamesFile(const BirthArguments& births, BirthReceiver& receiver
     }
 }
 
-// The place that was asked for. A file given by its mere name is looked up in the application directory too.
+// The file of a place; one given by its mere name is looked up in the application directory too.
+Path CitiesFile(const PlaceRequest& place, const DataFiles& files) {
+    const Path asGiven = PathFromText(place.file);
+    const bool isGiven = asGiven.has_parent_path() || IsNameTaken(FindPath(asGiven));
+    return isGiven ? asGiven : files.Own(place.file);
+}
+
 Result<std::optional<Place>> RequestedPlace(const BirthArguments& births, const DataFiles& files) {
     if (!births.place) return std::optional<Place>();
-    const Path asGiven = PathFromText(births.place->file);
-    const bool isGiven = asGiven.has_parent_path() || IsNameTaken(FindPath(asGiven));
-    const Path file = isGiven ? asGiven : files.Own(births.place->file);
-    const Result<CityRecord> city = FindCity(file, ToUtf8(births.place->city));
+    const Result<CityRecord> city = FindCity(CitiesFile(*births.place, files), ToUtf8(births.place->city));
     if (!city) return Fault{births.place->file + ": " + city.message()};
     if (const std::string fault = CityRecordFault(*city); !fault.empty())
         return Fault{births.place->file + ": " + city->ListText() + ": " + fault};
@@ -166,6 +170,12 @@ bool ArgumentReader::Next() {
     return true;
 }
 
+Result<void> ArgumentReader::CheckOnce() {
+    if (Contains(seen_, name_)) return Fault{std::string(name_) + " is given twice"};
+    seen_.push_back(name_);
+    return {};
+}
+
 Result<std::string> ArgumentReader::Value() {
     std::string_view value = argument_.substr(std::min(name_.size() + 1, argument_.size()));
     if (name_.size() == argument_.size() && !rest_.empty()) {
@@ -204,6 +214,20 @@ Result<void> CheckBirthArguments(const BirthArguments& births) {
     if (births.at && births.namesFile) return Fault{"--at goes with --birth or --now only"};
     if (births.at && births.place) return Fault{"only one of --at and --place can be given"};
     if (births.zone && !births.at) return Fault{"--zone needs --at"};
+    return {};
+}
+
+Result<void> CheckOutput(const BirthArguments& births, const DataFiles& files, const Path& output) {
+    std::vector<Path> inputs = {files.Own(kOptionsFileName)};
+    if (births.namesFile) inputs.push_back(PathFromText(*births.namesFile));
+    if (births.place) inputs.push_back(CitiesFile(*births.place, files));
+    for (const Path& input : inputs) {
+        std::error_code error;
+        const Path found = FindPath(input);
+        if (std::filesystem::is_regular_file(found, error) &&
+            std::filesystem::equivalent(found, output, error))
+            return Fault{"the output would replace " + found.string() + ", which is read"};
+    }
     return {};
 }
 

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/command_data.h"
 #include "app/placed_birth.h"
@@ -42,6 +43,8 @@ class ArgumentReader {
     explicit ArgumentReader(std::span<const std::string_view> arguments) : rest_(arguments) {}
 
     bool Next();
+    // A fault when the present argument has been there before.
+    Result<void> CheckOnce();
     std::string_view name() const { return name_; }
     // The value of the present argument; a fault when there is none.
     Result<std::string> Value();
@@ -53,6 +56,7 @@ class ArgumentReader {
     std::span<const std::string_view> rest_;
     std::string_view argument_;
     std::string_view name_;
+    std::vector<std::string_view> seen_;
 };
 
 // Takes the reader's present argument when it is one of these. Returns whether it was; a fault says what is
@@ -64,6 +68,9 @@ Method MethodOf(const BirthArguments& births, const Options& options);
 
 // A fault when the arguments do not go together.
 Result<void> CheckBirthArguments(const BirthArguments& births);
+
+// A fault when `output` is a file that the command reads: the names file, the cities file or the options.
+Result<void> CheckOutput(const BirthArguments& births, const DataFiles& files, const Path& output);
 
 // A birth that the arguments name.
 struct NamedBirth {

@@ -14,6 +14,7 @@ Result<DesktopArguments> ParseDesktopArguments(std::span<const std::string_view>
     });
     if (parsed.help || parsed.version || parsed.wheel) return parsed;
     for (ArgumentReader reader(arguments); reader.Next();) {
+        if (const Result<void> once = reader.CheckOnce(); !once) return once.fault();
         if (reader.name() != "--app-dir") return reader.Unknown();
         const Result<std::string> directory = reader.Value();
         if (!directory) return directory.fault();

@@ -87,6 +87,7 @@ class SnapshotTaker : public BirthReceiver {
 Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arguments) {
     WheelArguments wheel;
     for (ArgumentReader reader(arguments); reader.Next();) {
+        if (const Result<void> once = reader.CheckOnce(); !once) return once.fault();
         if (const Result<void> taken = TakeWheelArgument(reader, wheel); !taken) return taken.fault();
     }
     if (const Result<void> together = CheckBirthArguments(wheel); !together) return together.fault();
@@ -97,6 +98,8 @@ Result<WheelArguments> ParseWheelArguments(std::span<const std::string_view> arg
 Result<WheelPicture> PrepareWheel(const WheelArguments& arguments, const HostTime& time) {
     const Result<CommandData> opened = OpenCommandData(arguments.appDirectory, time);
     if (!opened) return opened.fault();
+    const Result<void> other = CheckOutput(arguments, opened->files, PathFromText(arguments.file));
+    if (!other) return other.fault();
     const Result<WheelData> data = ReadWheelData(opened->files);
     if (!data) return data.fault();
     SnapshotTaker taker(MethodOf(arguments, opened->options), *opened);

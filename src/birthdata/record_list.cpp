@@ -20,11 +20,8 @@ RecordList RecordList::OfText(std::string_view content, const Check& check) {
 }
 
 void RecordList::Read(LineReader& reader, const Check& check) {
-    std::size_t size = 0;
     for (std::string line; reader.Next(line) && !FirstField(line).empty();) {
         std::string problem = check(line);
-        size += line.size() + 1;
-        if (size > kLargestFile) problem = "the file is too large";
         if (!problem.empty()) {
             fault_ = RecordFault{reader.LineNumber(), std::move(problem)};
             return;

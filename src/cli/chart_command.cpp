@@ -18,7 +18,7 @@ class ChartPrinter : public EntryWriter {
         : EntryWriter(output, errors),
           data_(data),
           method_(MethodOf(request, data.options)),
-          format_(request.format) {}
+          format_(request.format.value_or(OutputFormat::Text)) {}
 
     void Take(const NamedBirth& birth) override {
         if (birth.placed && !birth.placed->note.empty()) Tell(birth.source + ": " + birth.placed->note);
@@ -52,31 +52,43 @@ class ChartPrinter : public EntryWriter {
     OutputFormat format_;
 };
 
+// The directory and options of the request; a fault is told.
+std::optional<CommandData> Open(const ChartRequest& request, const HostTime& time, std::ostream& errors) {
+    const Result<CommandData> data = OpenCommandData(request.appDirectory, time);
+    if (!data) {
+        TellOn(errors, "tolvanis-chart: " + data.message());
+        return std::nullopt;
+    }
+    if (!data->note.empty()) TellOn(errors, "tolvanis-chart: " + data->note);
+    return *data;
+}
+
+ExitStatus Run(const ChartRequest& request, const CommandData& data, const Sink& output,
+               std::ostream& errors) {
+    if (request.checkZones) return CheckZones(request, data, output, errors);
+    ChartPrinter printer(request, data, output, errors);
+    ReadBirths(request, data, printer);
+    return printer.status();
+}
+
 }  // namespace
 
 ExitStatus RunChartCommand(const ChartRequest& request, const Sink& output, std::ostream& errors,
                            const HostTime& time) {
-    const Result<CommandData> data = OpenCommandData(request.appDirectory, time);
-    if (!data) {
-        TellOn(errors, "tolvanis-chart: " + data.message());
-        return kSomethingRefused;
-    }
-    if (!data->note.empty()) TellOn(errors, "tolvanis-chart: " + data->note);
-    if (request.checkZones) return CheckZones(request, *data, output, errors);
-    ChartPrinter printer(request, *data, output, errors);
-    ReadBirths(request, *data, printer);
-    return printer.status();
+    const std::optional<CommandData> data = Open(request, time, errors);
+    return data ? Run(request, *data, output, errors) : kSomethingRefused;
 }
 
 ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file, std::ostream& errors,
                                    const HostTime& time) {
-    std::error_code error;
-    const Path names = FindPath(PathFromText(request.namesFile.value_or(std::string())));
-    if (request.namesFile && std::filesystem::is_regular_file(names, error) &&
-        std::filesystem::equivalent(names, file, error)) {
-        TellOn(errors, "tolvanis-chart: --output would replace the names file " + names.string());
+    const std::optional<CommandData> data = Open(request, time, errors);
+    if (!data) return kSomethingRefused;
+    const auto fail = [&](const std::string& fault) {
+        TellOn(errors, "tolvanis-chart: " + fault);
         return kSomethingRefused;
-    }
+    };
+    if (const Result<void> other = CheckOutput(request, data->files, file); !other)
+        return fail(other.message());
     ExitStatus status = kAllComputed;
     bool any = false;
     const Result<void> written = ReplaceFile(file, [&](const Sink& sink) {
@@ -85,13 +97,11 @@ ExitStatus RunChartCommandIntoFile(const ChartRequest& request, const Path& file
             any = true;
             return whole = whole && sink(text);
         };
-        status = RunChartCommand(request, noting, errors, time);
+        status = Run(request, *data, noting, errors);
         return whole && (any || status == kAllComputed);
     });
     const bool nothingToWrite = !any && status == kSomethingRefused;  // the reasons have been told
-    if (written || nothingToWrite) return status;
-    TellOn(errors, "tolvanis-chart: " + written.message());
-    return kSomethingRefused;
+    return written || nothingToWrite ? status : fail(written.message());
 }
 
 }  // namespace tolvanis

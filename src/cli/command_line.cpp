@@ -91,10 +91,13 @@ Result<ChartRequest> ParseCommandLine(std::span<const std::string_view> argument
     request.version = Contains(arguments, "--version");
     if (request.help || request.version) return request;
     for (ArgumentReader reader(arguments); reader.Next();) {
+        if (const Result<void> once = reader.CheckOnce(); !once) return once.fault();
         if (const Result<void> taken = TakeArgument(reader, request); !taken) return taken.fault();
     }
     if (const Result<void> together = CheckBirthArguments(request); !together) return together.fault();
     if (request.checkZones && !request.namesFile) return Fault{"--check-zones needs --names"};
+    if (request.checkZones && (request.format || request.houses || request.theory))
+        return Fault{"--check-zones computes no charts: it goes without --format, --houses and --theory"};
     return request;
 }
 

@@ -13,8 +13,8 @@ namespace tolvanis {
 enum class OutputFormat { Text, Json, Ascii, Report };
 
 struct ChartRequest : BirthArguments {
-    OutputFormat format = OutputFormat::Text;
-    std::optional<std::string> output;  // else standard output
+    std::optional<OutputFormat> format;  // else Text
+    std::optional<std::string> output;   // else standard output
     bool checkZones = false;  // list the records whose zone is not the one in force, instead of charts
     bool help = false;
     bool version = false;

@@ -196,15 +196,16 @@ std::string_view ByteReader::Next() {
     return {};
 }
 
-LineReader::LineReader(const Path& path)
-    : file_(std::make_unique<ByteReader>(path)), fault_(file_->fault()) {}
+LineReader::LineReader(const Path& path, std::size_t most)
+    : file_(std::make_unique<ByteReader>(path)), left_(most), fault_(file_->fault()) {}
 
 void LineReader::ReadMore() {
     buffer_.erase(0, buffer_.size() - rest_.size());
     const std::string_view piece = file_->Next();
     buffer_ += piece;
     rest_ = buffer_;
-    fault_ = file_->fault();
+    fault_ = piece.size() > left_ ? TooLarge("it", kLargestFile) : file_->fault();
+    left_ -= std::min(left_, piece.size());
     if (piece.empty()) file_.reset();
 }
 
@@ -243,12 +244,7 @@ Fault CannotRead(const Path& path, std::string_view reason) {
 Result<std::vector<std::string>> ReadLines(const Path& path) {
     LineReader reader(path);
     std::vector<std::string> lines;
-    std::size_t size = 0;
-    for (std::string line; reader.Next(line);) {
-        size += line.size() + 1;
-        if (size > kLargestFile) return CannotRead(path, TooLarge("it", kLargestFile));
-        lines.push_back(line);
-    }
+    for (std::string line; reader.Next(line);) lines.push_back(line);
     if (reader.HasFault()) return CannotRead(path, reader.fault());
     return lines;
 }

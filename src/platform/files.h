@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <span>
@@ -47,6 +48,7 @@ bool IsReadableFile(const Path& path);
 // message and not in a full memory.
 inline constexpr std::size_t kLongestLine = std::size_t{1} << 20;
 inline constexpr std::size_t kLargestFile = std::size_t{1} << 28;
+inline constexpr std::size_t kAnySize = std::numeric_limits<std::size_t>::max();
 
 // The system's words for one of its error numbers; 0, which tells nothing, is an input or output error.
 std::string SystemReason(int error);
@@ -87,7 +89,8 @@ class ByteReader {
 // but marks does not. Gives the lines' texts (LineText).
 class LineReader {
   public:
-    explicit LineReader(const Path& path);
+    // A file of more than `most` bytes gives a fault when that many are read.
+    explicit LineReader(const Path& path, std::size_t most = kLargestFile);
     // Reads a text in memory, which outlives the reader.
     static LineReader OfText(std::string_view text) { return LineReader(InMemory{}, text); }
     LineReader(const LineReader&) = delete;
@@ -108,6 +111,7 @@ class LineReader {
     void ReadMore();
 
     std::unique_ptr<ByteReader> file_;  // until its end
+    std::size_t left_ = 0;              // that may still be read of it
     std::string buffer_;                // what has been read of it and not been taken
     std::string_view rest_;             // of the buffer or of the text
     std::string fault_;

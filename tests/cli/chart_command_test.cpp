@@ -213,11 +213,39 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
     const auto itself = ParseCommandLine(std::vector<std::string_view>{"--names", list.native()});
     std::ostringstream told;
     EXPECT_EQ(RunChartCommandIntoFile(*itself, directory / "my.fil", told, kHost), kSomethingRefused);
-    EXPECT_THAT(told.str(), HasSubstr("would replace the names file"));
+    EXPECT_THAT(told.str(), HasSubstr("my.fil, which is read"));
     EXPECT_EQ(FileContent(list), "Zoe" + kRest);
     EXPECT_EQ(run(DELIVERED_DATA_DIR "/NAMES.FIL").first, kAllComputed);
     EXPECT_EQ(FileContent(file),
               RunWith({"--names", DELIVERED_DATA_DIR "/NAMES.FIL", "--format", "json"}).output);
+}
+
+TEST(ChartCommand, NothingThatIsReadIsReplaced) {
+    const ScratchDirectory directory;
+    for (const char* name : {"OPTIONS.OPT", "EUROPE.LL", "NAMES.FIL"})
+        std::filesystem::copy(Path(DELIVERED_DATA_DIR) / name, directory.path());
+    const std::string app = directory.path().string();
+    const std::string names = app + "/NAMES.FIL", cities = app + "/EUROPE.LL:Berlin";
+    const std::pair<std::vector<std::string_view>, const char*> cases[] = {
+        {{"--now"}, "options.opt"},
+        {{"--place", cities}, "EUROPE.LL"},
+        {{"--place", "EUROPE.LL:Berlin"}, "EUROPE.LL"},
+        {{"--names", names}, "NAMES.FIL"}};
+    for (const auto& [arguments, output] : cases) {
+        auto all = arguments;
+        all.insert(all.end(), {"--app-dir", app});
+        const Path file = FindFile(directory.path(), output);
+        const std::string before = FileContent(file);
+        std::ostringstream errors;
+        EXPECT_EQ(RunChartCommandIntoFile(*ParseCommandLine(all), file, errors, kHost), kSomethingRefused);
+        EXPECT_THAT(errors.str(), HasSubstr("which is read"));
+        EXPECT_EQ(FileContent(file), before);
+    }
+    const Path picture = directory / "NAMES.svg";
+    std::filesystem::copy(names, picture);
+    const auto wheel = ParseWheelArguments(std::vector<std::string_view>{
+        "--wheel", picture.native(), "--names", picture.native(), "--name", "Frida Kahlo", "--app-dir", app});
+    EXPECT_THAT(PrepareWheel(*wheel, kHost).message(), HasSubstr("which is read"));
 }
 
 // Title page and one page of text for each birth, from the texts and the personal block of the directory
@@ -280,6 +308,9 @@ TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     EXPECT_EQ(latin.status, kAllComputed) << latin.errors;
     EXPECT_THAT(latin.output, HasSubstr("  René [2J\n"));
     EXPECT_THAT(RunWith({"--names", directory.path().native()}).errors, HasSubstr("Is a directory"));
+    const auto damaged = directory.Write("damaged.fil", "Ann,22 Sep 1949,9.05,A\r\n");
+    EXPECT_THAT(RunWith({"--names", damaged.native(), "--name", "Ann"}).errors,
+                HasSubstr("4 fields instead of 7"));
 }
 
 // A text and its numbers apart, so that the last bits of a mathematics library do not matter.
@@ -418,25 +449,30 @@ TEST(ChartCommand, WrongUsageIsExplained) {
         std::vector<std::string_view> arguments;
         std::string fault;
     };
-    const Case cases[] = {{{"--bogus"}, "unknown argument \"--bogus\""},
-                          {{"file"}, "unknown argument \"file\""},
-                          {{"--birth"}, "--birth needs a value"},
-                          {{"--output="}, "--output needs a value"},
-                          {{"--app-dir", ""}, "--app-dir needs a value"},
-                          {{"--houses", "X"}, "unknown house system \"X\""},
-                          {{"--format", "xml"}, "unknown format \"xml\""},
-                          {{"--now", "--birth", "x"}, "only one of"},
-                          {{"--now=3"}, "unknown argument \"--now=3\""},
-                          {{"--help=3"}, "unknown argument \"--help=3\""},
-                          {{"--name", "Ann"}, "--name needs --names"},
-                          {{"--place", "Rome"}, "--place needs FILE:CITY"},
-                          {{"--place", "a:"}, "--place needs FILE:CITY"},
-                          {{"--names", "f", "--place", "a:b"}, "--place goes"}};
+    const Case cases[] = {
+        {{"--bogus"}, "unknown argument \"--bogus\""},
+        {{"file"}, "unknown argument \"file\""},
+        {{"--birth"}, "--birth needs a value"},
+        {{"--output="}, "--output needs a value"},
+        {{"--app-dir", ""}, "--app-dir needs a value"},
+        {{"--houses", "X"}, "unknown house system \"X\""},
+        {{"--format", "xml"}, "unknown format \"xml\""},
+        {{"--now", "--birth", "x"}, "only one of"},
+        {{"--now=3"}, "unknown argument \"--now=3\""},
+        {{"--birth", "a", "--birth", "b"}, "--birth is given twice"},
+        {{"--houses=P", "--houses", "K"}, "--houses is given twice"},
+        {{"--names", "f", "--check-zones", "--format", "json"}, "--check-zones computes no charts"},
+        {{"--help=3"}, "unknown argument \"--help=3\""},
+        {{"--name", "Ann"}, "--name needs --names"},
+        {{"--place", "Rome"}, "--place needs FILE:CITY"},
+        {{"--place", "a:"}, "--place needs FILE:CITY"},
+        {{"--names", "f", "--place", "a:b"}, "--place goes"}};
     for (const Case& c : cases) {
         EXPECT_THAT(ParseCommandLine(c.arguments).message(), HasSubstr(c.fault));
     }
     const Case wheelCases[] = {
         {{"--wheel"}, "--wheel needs a value"},
+        {{"--wheel", "a.svg", "--wheel=b.svg"}, "--wheel is given twice"},
         {{"--wheel", "a.svg", "--type", "round"}, "unknown chart type"},
         {{"--wheel", "a.svg", "--size", "99"}, "--size needs a whole number of pixels"},
         {{"--wheel", "a.svg", "--size", "100.7"}, "--size needs a whole number"},
