@@ -1,7 +1,7 @@
 // Makes ATLAS.DAT, the atlas of data/, from GeoNames places; make_cities.mjs runs it.
 //
-// Lines: "Z zone" numbers the zones; "C code<TAB>name<TAB>other names" begins a country, "R code<TAB>name" one of
-// its regions; every other line is a place of them: name, north and east in hundredths of a minute of arc,
+// Lines: "Z zone" numbers the zones; "C code<TAB>name<TAB>other names" begins a country, "R code<TAB>name<TAB>other
+// names" one of its regions; every other line is a place of them: name, north and east in hundredths of a minute of arc,
 // population, the number of its zone where that is not the one of the place before, and its other names. The last
 // line is "# end".
 
@@ -23,7 +23,7 @@ const kTypedName = /^(?=\p{Lu})(?!\p{Lu}{2,4}$)[\p{Script=Latin}\p{M} .\-’']+$
 const kFillers = /^(Lungsod|Dakbayan|Urbs|Horad|Gorad|Gorod|Ciudad ng|City of) /;
 
 const kOtherCountryNames = {
-  US: 'USA;U.S.A.;United States of America;America', GB: 'UK;Great Britain;Britain;England;Scotland;Wales;Northern Ireland',
+  US: 'USA;U.S.A.;United States of America;America', GB: 'UK;Great Britain;Britain',
   DE: 'Deutschland', AT: 'Österreich', CH: 'Schweiz;Suisse', FR: '', ES: 'España', IT: 'Italia', NL: 'Holland;The Netherlands',
   RU: 'Russian Federation;USSR;Soviet Union', CZ: 'Czechia;Czech Republic;Czechoslovakia', MM: 'Burma', IR: 'Persia',
   LK: 'Ceylon', CI: "Côte d'Ivoire", KR: 'Korea', TR: 'Türkiye', PL: 'Polska', BR: 'Brasil', MX: 'México', BE: 'Belgique',
@@ -31,8 +31,14 @@ const kOtherCountryNames = {
   ZW: 'Rhodesia', CD: 'Zaire;Congo', TH: 'Siam', AE: 'UAE', BA: 'Bosnia', MK: 'Macedonia', SZ: 'Swaziland', CV: 'Cabo Verde',
 };
 
-// They have no line of their own in countries.tsv, since their regions stand in the cities files.
-const kAmerica = [['US', 'United States'], ['CA', 'Canada']];
+// What people write for regions whose codes are numbers.
+const kOtherRegionNames = {
+  'AU.01': 'ACT', 'AU.02': 'NSW', 'AU.03': 'NT', 'AU.04': 'QLD', 'AU.05': 'SA', 'AU.06': 'TAS', 'AU.07': 'VIC', 'AU.08': 'WA',
+};
+
+// They have no line of their own in countries.tsv: the regions of the first two stand in the cities files, the
+// last has no city there.
+const kNotInCitiesFiles = [['US', 'United States'], ['CA', 'Canada'], ['AQ', 'Antarctica']];
 
 function regionsOf(rows) {
   const names = new Map(rows.map(({ code, name }) => [code, cleanName(name, name)]));
@@ -97,7 +103,7 @@ function compareText(a, b) {
 }
 
 export function makeAtlas(directory, delivered) {
-  const countries = new Map([...readTable('countries.tsv').map(([code, , name]) => [code, name]), ...kAmerica]);
+  const countries = new Map([...readTable('countries.tsv').map(([code, , name]) => [code, name]), ...kNotInCitiesFiles]);
   // Places of some countries still carry the codes of regions that have been merged since.
   const former = readTable('former_regions.tsv').map(([country, code, name]) => ({ code: `${country}.${code}`, name }));
   const outdated = new Set(former.map(({ code }) => code.slice(0, 2)));
@@ -128,7 +134,9 @@ export function makeAtlas(directory, delivered) {
     }
     if (code !== region) {
       region = code;
-      text.lines.push(`R ${code}\t${divisionNames.get(`${country}.${place.division1}`) ?? ''}`.trimEnd());
+      const division = `${country}.${place.division1}`;
+      const names = [code, divisionNames.get(division) ?? '', kOtherRegionNames[division] ?? ''];
+      text.lines.push(`R ${names.join('\t')}`.trimEnd());
     }
     const name = cleanName(place.shownName, place.asciiName);
     text.append(place, name, otherNames(place, name, more.get(place.id) ?? []));
