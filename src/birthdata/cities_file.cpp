@@ -1,6 +1,8 @@
 #include "birthdata/cities_file.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "text/columns.h"
 #include "text/fields.h"
@@ -36,36 +38,62 @@ bool IsCoordinate(std::string_view text, const CoordinateForm& form) {
            IsWithin(*parts, form);
 }
 
-// How a user may name a place.
+// How a record fits the name of a place: not at all, by another spelling as St. Louis for Saint Louis, but
+// for its accents, or letter for letter.
+enum class Fit { None, Spelling, Letters, Accents };
+
+// A name as a user may give it, without a region and, where it has a comma, with one.
 class WantedCity {
   public:
-    explicit WantedCity(std::string_view name)
-        : name_(TrimBlanks(name)), nameKey_(SearchKey(name_)), comma_(name_.rfind(',')) {
-        if (comma_ == std::string::npos) return;
-        cityKey_ = SearchKey(name_.substr(0, comma_));
-        regionKey_ = SearchKey(name_.substr(comma_ + 1));
+    explicit WantedCity(std::string_view name) : names_{Name(TrimBlanks(name), {})} {
+        const std::size_t comma = name.rfind(',');
+        if (comma != std::string_view::npos)
+            names_.emplace_back(TrimBlanks(name.substr(0, comma)), SearchKey(name.substr(comma + 1)));
     }
 
-    bool Fits(const CityRecord& record) const {
-        const std::string city = SearchKey(record.city);
-        if (nameKey_.empty()) return false;
-        if (city == nameKey_) return true;
-        return comma_ != std::string::npos && city == cityKey_ && SearchKey(record.region) == regionKey_;
-    }
-
-    bool FitsWithAccents(const CityRecord& record) const {
-        if (EqualIgnoringCase(record.city, name_)) return true;
-        return comma_ != std::string::npos &&
-               EqualIgnoringCase(record.city, TrimBlanks(std::string_view(name_).substr(0, comma_)));
+    Fit FitOf(const CityRecord& record) const {
+        Fit best = Fit::None;
+        for (const Name& name : names_) best = std::max(best, name.FitOf(record));
+        return best;
     }
 
   private:
-    std::string name_;
-    std::string nameKey_;
-    std::size_t comma_;
-    std::string cityKey_;
-    std::string regionKey_;
+    struct Name {
+        Name(std::string_view typed, std::string ofRegion)
+            : city(typed), spellings(KeySpellings(SearchKey(typed))), region(std::move(ofRegion)) {}
+
+        Fit FitOf(const CityRecord& record) const {
+            const std::string key = SearchKey(record.city);
+            const auto spelling = std::ranges::find(spellings, key);
+            if (key.empty() || spelling == spellings.end()) return Fit::None;
+            if (!region.empty() && SearchKey(record.region) != region) return Fit::None;
+            if (spelling != spellings.begin()) return Fit::Spelling;
+            return EqualIgnoringCase(record.city, city) ? Fit::Accents : Fit::Letters;
+        }
+
+        std::string city;
+        std::vector<std::string> spellings;
+        std::string region;  // as a search key, or empty
+    };
+
+    std::vector<Name> names_;
 };
+
+// The records that fit, the best first. Accents tell those of one spelling apart.
+std::vector<CityRecord> Fitting(const RecordList& cities, const WantedCity& wanted) {
+    std::vector<std::pair<Fit, CityRecord>> fitting;
+    for (std::size_t i = 0; i < cities.size(); ++i) {
+        const Result<CityRecord> record = ParseCityRecord(cities.Line(i));
+        const Fit fit = record ? wanted.FitOf(*record) : Fit::None;
+        if (fit != Fit::None) fitting.emplace_back(fit, *record);
+    }
+    std::ranges::stable_sort(fitting, std::greater(), [](const auto& one) { return one.first; });
+    if (!fitting.empty() && fitting.front().first == Fit::Accents)
+        std::erase_if(fitting, [](const auto& one) { return one.first == Fit::Letters; });
+    std::vector<CityRecord> records;
+    for (auto& [fit, record] : fitting) records.push_back(std::move(record));
+    return records;
+}
 
 std::vector<std::string> RegionsOf(const std::vector<CityRecord>& records) {
     std::vector<std::string> regions;
@@ -133,23 +161,14 @@ std::optional<CityRecord> FindCityText(const RecordList& cities, std::string_vie
 }
 
 Result<CityRecord> FindCity(const Path& file, std::string_view name) {
-    const WantedCity wanted(name);
     const RecordList cities = ReadCitiesFile(file);
-    std::vector<CityRecord> fitting;
-    for (std::size_t i = 0; i < cities.size(); ++i) {
-        const Result<CityRecord> record = ParseCityRecord(cities.Line(i));
-        if (record && wanted.Fits(*record)) fitting.push_back(*record);
-    }
-    const auto fitsWithAccents = [&](const CityRecord& record) { return wanted.FitsWithAccents(record); };
-    if (std::any_of(fitting.begin(), fitting.end(), fitsWithAccents)) {
-        std::erase_if(fitting, std::not_fn(fitsWithAccents));
-    }
+    const std::vector<CityRecord> fitting = Fitting(cities, WantedCity(name));
     if (fitting.empty()) {
         if (cities.fault() && cities.fault()->line == 0) return Fault{cities.fault()->detail};
         if (cities.fault()) {
             return Fault{"line " + std::to_string(cities.fault()->line) + ": " + cities.fault()->detail};
         }
-        return Fault{"there is no place \"" + std::string(name) + "\""};
+        return Fault{"there is no place \"" + std::string(name) + "\"; --at finds those of the atlas"};
     }
     const std::vector<std::string> regions = RegionsOf(fitting);
     if (regions.size() > 1) return Ambiguous(name, regions);

@@ -46,9 +46,10 @@ std::string CityTextAt(const RecordList& cities, std::size_t index);
 // The first record with this list text.
 std::optional<CityRecord> FindCityText(const RecordList& cities, std::string_view text);
 
-// The record of a place named as "city" or "city,region", letter case, accents and punctuation aside; a
-// spelling that fits with its accents goes first, and of several records of one region the first is taken. A
-// fault says that there is no such place, or lists the regions that have one.
+// The record of a place named as "city" or "city,region", letter case, accents, punctuation and the spellings
+// of KeySpellings aside. A name that fits with its accents goes before one that fits without, and of several
+// records of one region the best fit, then the first, is taken. A fault says that there is no such place, or
+// lists the regions that have one, whatever their spelling.
 Result<CityRecord> FindCity(const Path& file, std::string_view name);
 
 }  // namespace tolvanis

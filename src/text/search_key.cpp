@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "text/columns.h"
 
@@ -38,6 +39,9 @@ constexpr Spelling kSpellings[] = {
     {U'Æ', "AE"}, {U'æ', "AE"}, {U'Œ', "OE"}, {U'œ', "OE"}, {U'ß', "SS"}, {U'ẞ', "SS"},
     {U'Þ', "TH"}, {U'þ', "TH"}, {U'ə', "E"},  {U'Ĳ', "IJ"}, {U'ĳ', "IJ"},
 };
+
+constexpr std::pair<std::string_view, std::string_view> kShortenedWords[] = {
+    {"SAINT", "ST"}, {"SAINTE", "STE"}, {"MOUNT", "MT"}, {"FORT", "FT"}};
 
 bool IsDropped(char32_t code) {
     const bool combiningMark = code >= 0x300 && code <= 0x36F;
@@ -111,11 +115,14 @@ std::string WithoutUmlauts(std::string key) {
 
 std::vector<std::string> KeySpellings(const std::string& key) {
     std::vector<std::string> spellings = {key};
-    for (std::string other :
-         {WithWord(key, "SAINT", "ST"), WithWord(key, "ST", "SAINT"), WithWord(key, "SAINTE", "STE"),
-          WithWord(key, "STE", "SAINTE"), WithoutUmlauts(key)}) {
+    const auto add = [&](std::string other) {
         if (std::ranges::find(spellings, other) == spellings.end()) spellings.push_back(std::move(other));
+    };
+    for (const auto& [word, shortened] : kShortenedWords) {
+        add(WithWord(key, word, shortened));
+        add(WithWord(key, shortened, word));
     }
+    add(WithoutUmlauts(key));
     return spellings;
 }
 
@@ -123,25 +130,33 @@ std::string SearchKey(std::string_view text) {
     std::string key;
     key.reserve(text.size());
     bool separated = false;
+    int letters = 0;  // since the last separator or full stop
+    const auto beginLetter = [&] {
+        if (separated && !key.empty()) key += ' ';
+        letters = separated ? 1 : letters + 1;
+        separated = false;
+    };
     while (!text.empty()) {
         // Nearly all characters are plain letters.
         const auto byte = static_cast<unsigned char>(text.front());
         if (byte < kPlainLetters.size() && kPlainLetters[byte] != 0) {
-            if (separated && !key.empty()) key += ' ';
-            separated = false;
+            beginLetter();
             key += kPlainLetters[byte];
             text.remove_prefix(1);
             continue;
         }
         char32_t code = 0;
         const std::string_view character = TakeCharacter(text, code);
+        if (code == '.') {
+            separated = separated || letters > 1;
+            letters = 0;
+        }
         if (IsDropped(code)) continue;
         if (IsSeparator(code)) {
             separated = true;
             continue;
         }
-        if (separated && !key.empty()) key += ' ';
-        separated = false;
+        beginLetter();
         AppendPlain(key, code, character);
     }
     return key;

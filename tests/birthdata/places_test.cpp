@@ -75,7 +75,9 @@ TEST(CitiesFileTest, FindsAPlaceByName) {
     const Path file = directory.Write("A.LL",
                                       "Köln,Germany,06E57,50N56,-1\nSpringfield,IL,89W39,39N48,6\n"
                                       "Springfield,MA,72W35,42N06,5\nSpringfield,MA,72W36,42N07,5\n"
-                                      "Mala,Peru,76W38,12S39,5\nMåla,Sweden,18E45,65N11,-1\n");
+                                      "Mala,Peru,76W38,12S39,5\nMåla,Sweden,18E45,65N11,-1\n"
+                                      "Saint Louis,MI,84W36,43N24,5\nSt. Louis,MO,90W12,38N38,6\n"
+                                      "St. Anne,IL,87W43,41N01,6\nSaint Anne,IL,87W44,41N02,6\n");
     struct Case {
         const char *name, *found;  // the longitude, or the fault
     };
@@ -87,8 +89,13 @@ TEST(CitiesFileTest, FindsAPlaceByName) {
         {"måla", "18E45"},
         {"mala", "76W38"},
         {"mala,sweden", "18E45"},
-        {"Spring", "there is no place \"Spring\""},
-        {"-", "there is no place \"-\""},
+        {"Saint Louis", "there are several places \"Saint Louis\"; add the region after a comma: MI, MO"},
+        {"St. Louis", "there are several places \"St. Louis\"; add the region after a comma: MO, MI"},
+        {"saint louis,mo", "90W12"},
+        {"Saint Anne", "87W44"},
+        {"Koeln", "06E57"},
+        {"Spring", "there is no place \"Spring\"; --at finds those of the atlas"},
+        {"-", "there is no place \"-\"; --at finds those of the atlas"},
     };
     for (const Case& test : cases) {
         const Result<CityRecord> city = FindCity(file, test.name);

@@ -127,6 +127,10 @@ TEST(SearchKey, DropsWhatPeopleDoNotType) {
     };
     constexpr Case kCases[] = {{"Saint-Étienne", "SAINT ETIENNE"},
                                {"St. John's", "ST JOHNS"},
+                               {"St.Gallen", "ST GALLEN"},
+                               {"U.S.A.", "USA"},
+                               {"Ж.Б.", "ЖБ"},
+                               {"Kings Mtn.N.C", "KINGS MTN NC"},
                                {"  Łódź ", "LODZ"},
                                {"Straße", "STRASSE"},
                                {"Ærøskøbing", "AEROSKOBING"},
