@@ -19,7 +19,8 @@ struct PlacedBirth {
 
 // Fills place and zone of an entry that holds date and time. A fault lists all candidates: places, or the
 // readings where a time came twice or did not exist, or says that the zone of the place is not known; `zone`
-// settles the time.
+// settles the time. One that was not in force there is taken with a note, but refused where an entry cannot
+// hold it.
 Result<PlacedBirth> PlaceBirth(const ZoneBook& book, const std::string& at, std::optional<double> zone,
                                NatalEntry& entry);
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <map>
 #include <numbers>
 #include <span>
 
@@ -20,6 +21,7 @@ constexpr int kCells = kCellsRound * 180;
 constexpr double kKmPerDegree = 111.2;
 constexpr std::size_t kMostListed = 100;
 constexpr double kKmOfOneTown = 10.0;
+constexpr std::int64_t kTimesTheOthers = 10;
 
 constexpr std::size_t kLetters = 38;  // A to Z, 0 to 9, the end of a word, all others
 constexpr std::size_t kDrawers = kLetters * kLetters;
@@ -53,6 +55,54 @@ std::vector<std::string> KeysOfNames(std::span<const std::string> names) {
         }
     }
     return keys;
+}
+
+std::string NoPlace(std::string_view text) {
+    return "there is no place \"" + std::string(text) + "\" in the atlas";
+}
+
+// Longitude and latitude that a user has typed, in whole minutes.
+struct TypedCoordinates {
+    double longitude = 0.0;
+    double latitude = 0.0;
+
+    bool AreOf(const AtlasPlace& place) const {
+        return DegreesOf(place.Longitude()) == longitude && DegreesOf(place.Latitude()) == latitude;
+    }
+};
+
+// The degrees of a coordinate such as 074W48.
+std::optional<double> TypedDegrees(std::string_view text, const CoordinateForm& form) {
+    const std::string upper = UpperCase(text);
+    const auto parts = SplitCoordinate(upper, form);
+    if (!parts) return std::nullopt;
+    const auto degrees = WholeNumberIn(std::string(parts->degrees), 0, form.mostDegrees);
+    const auto minutes = WholeNumberIn(std::string(parts->minutes), 0, 59);
+    if (!degrees || !minutes) return std::nullopt;
+    return DegreesOf(CoordinateOf(parts->degrees, parts->minutes, parts->negative));
+}
+
+// Longitude and latitude in either order, up to a comma.
+std::optional<TypedCoordinates> ReadCoordinates(std::string_view text) {
+    const std::string both(TrimBlanks(text.substr(0, text.find(','))));
+    const std::size_t blank = both.find(' ');
+    if (blank == std::string::npos) return std::nullopt;
+    const std::string one = both.substr(0, blank), other(TrimBlanks(both.substr(blank)));
+    for (const auto& [first, second] : {std::pair(one, other), std::pair(other, one)}) {
+        const auto longitude = TypedDegrees(first, kLongitudeForm);
+        const auto latitude = TypedDegrees(second, kLatitudeForm);
+        if (longitude && latitude) return TypedCoordinates{*longitude, *latitude};
+    }
+    return std::nullopt;
+}
+
+// A name and the coordinates in brackets behind it; other brackets belong to the name.
+std::pair<std::string_view, std::optional<TypedCoordinates>> SplitOffCoordinates(std::string_view text) {
+    const std::size_t open = text.rfind('('), close = text.rfind(')');
+    if (open == std::string_view::npos || close == std::string_view::npos || close < open)
+        return {text, std::nullopt};
+    const auto coordinates = ReadCoordinates(text.substr(open + 1, close - open - 1));
+    return {coordinates ? text.substr(0, open) : text, coordinates};
 }
 
 Coordinate CoordinateInMinutes(double degrees, bool negative) {
@@ -208,6 +258,11 @@ std::string AtlasPlace::FullName() const {
     return name + (region.empty() ? "" : ", " + region) + ", " + country;
 }
 
+std::string AtlasPlace::NameAndCoordinates() const {
+    return FullName() + " (" + CoordinateText(Longitude(), kLongitudeForm) + " " +
+           CoordinateText(Latitude(), kLatitudeForm) + ", population " + std::to_string(population) + ")";
+}
+
 Coordinate AtlasPlace::Longitude() const {
     return CoordinateInMinutes(place.degreesEast, place.degreesEast > 0.0);
 }
@@ -311,11 +366,10 @@ std::vector<std::size_t> Atlas::Search(std::string_view typed, std::size_t most)
     return found;
 }
 
-Result<std::size_t> Atlas::FindOne(std::string_view text) const {
-    const Wanted wanted(text, false);
-    std::vector<Hit> hits = HitsOf(wanted, true);
-    if (hits.empty())
-        return Fault{"there is no place \"" + std::string(text) + "\" in the atlas" + Elsewhere(text)};
+// The places that a name without coordinates can mean, the best first.
+std::vector<Atlas::Hit> Atlas::PlacesMeant(std::string_view text) const {
+    std::vector<Hit> hits = HitsOf(Wanted(text, false), true);
+    if (hits.empty()) return hits;
     std::ranges::sort(hits, {}, [&](const Hit& hit) {
         return std::tuple(hit.rank, -rows_[hit.place].population, hit.place);
     });
@@ -333,14 +387,48 @@ Result<std::size_t> Atlas::FindOne(std::string_view text) const {
                                      other.place.degreesNorth, other.place.degreesEast);
         return hit.place != hits.front().place && km < kKmOfOneTown + OutskirtsKm(first.population);
     });
-    if (hits.size() == 1) return std::size_t{hits.front().place};
+    return hits;
+}
+
+// The place among several of one full name that nobody means another one by.
+std::optional<FoundPlace> Atlas::Outstanding(const std::vector<Hit>& hits) const {
+    const auto peopleOf = [&](const Hit& hit) { return std::int64_t{rows_[hit.place].population}; };
+    const Hit largest = *std::ranges::max_element(hits, {}, peopleOf);
+    const std::string name = At(largest.place).FullName();
+    std::int64_t others = -peopleOf(largest);
+    for (const Hit& hit : hits) {
+        if (At(hit.place).FullName() != name) return std::nullopt;
+        others += peopleOf(hit);
+    }
+    if (peopleOf(largest) < kTimesTheOthers * std::max<std::int64_t>(others, 1)) return std::nullopt;
+    return FoundPlace{largest.place, hits.size() > 1};
+}
+
+Result<FoundPlace> Atlas::FindOne(std::string_view text) const {
+    const auto [name, coordinates] = SplitOffCoordinates(text);
+    const std::vector<Hit> hits = coordinates ? HitsOf(Wanted(name, false), true) : PlacesMeant(name);
+    if (hits.empty()) return Fault{NoPlace(text) + Elsewhere(name)};
+    if (coordinates) {
+        const auto there =
+            std::ranges::find_if(hits, [&](const Hit& hit) { return coordinates->AreOf(At(hit.place)); });
+        if (there != hits.end()) return FoundPlace{there->place, false};
+        return Fault{NoPlace(text) + "; elsewhere:" + ListOf(hits)};
+    }
+    if (hits.size() == 1) return FoundPlace{hits.front().place, false};
+    if (const auto outstanding = Outstanding(hits)) return *outstanding;
     return Fault{"there are several places \"" + std::string(text) + "\":" + ListOf(hits)};
 }
 
-std::string Atlas::ListOf(const std::vector<Hit>& hits) const {
+// The largest first; those of one full name with their coordinates.
+std::string Atlas::ListOf(std::vector<Hit> hits) const {
+    std::ranges::stable_sort(hits, {}, [&](const Hit& hit) { return -rows_[hit.place].population; });
+    std::map<std::string, int> count;
+    for (const Hit& hit : hits) ++count[At(hit.place).FullName()];
     std::string list;
     for (std::size_t i = 0; i < std::min(hits.size(), kMostListed); ++i) {
-        list += "\n  " + At(hits[i].place).FullName();
+        const AtlasPlace place = At(hits[i].place);
+        const std::string name = place.FullName();
+        list += "\n  " + (count[name] > 1 ? place.NameAndCoordinates() : name);
     }
     if (hits.size() > kMostListed) list += "\n  and " + std::to_string(hits.size() - kMostListed) + " more";
     return list;

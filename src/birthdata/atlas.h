@@ -25,11 +25,19 @@ struct AtlasPlace {
 
     // "Atlanta, Georgia, United States".
     std::string FullName() const;
+    // The full name with what tells places of the same name apart: "Florence, New Jersey, United States
+    // (74W48 40N07, population 4426)".
+    std::string NameAndCoordinates() const;
     // The coordinates as an entry takes them, to the nearest minute.
     Coordinate Longitude() const;
     Coordinate Latitude() const;
     // The place at these coordinates, where local mean time is as an entry has it.
     ZonePlace AsEntered() const;
+};
+
+struct FoundPlace {
+    std::size_t index = 0;
+    bool hasNamesakes = false;  // there are smaller places with the same full name
 };
 
 class Atlas {
@@ -45,9 +53,12 @@ class Atlas {
     // stand region and country or the beginnings of their names or codes.
     std::vector<std::size_t> Search(std::string_view typed, std::size_t most) const;
 
-    // The one place that is meant by "city", "city, region", "city, country" or "city, region, country". A
-    // fault says that there is none, or lists all there are, one a line.
-    Result<std::size_t> FindOne(std::string_view text) const;
+    // The one place that is meant by "city", "city, region", "city, country" or "city, region, country". Of
+    // several with the same full name the one with ten times the people of all others is meant, or that at
+    // the coordinates in brackets behind: "Florence, New Jersey (74W48 40N07)". A fault says that there is
+    // none, or lists all there are, one a line and the largest first, those of one full name with
+    // coordinates.
+    Result<FoundPlace> FindOne(std::string_view text) const;
 
     // The place that a birth at these coordinates most likely belongs to: the nearest one, a city counting
     // from its outskirts. Nothing farther than `mostKm`.
@@ -93,7 +104,9 @@ class Atlas {
     void SortWords() const;
     void RankPlaces(std::string_view key, bool wholeNames, std::vector<std::uint8_t>& ranks) const;
     std::vector<Hit> HitsOf(const Wanted& wanted, bool wholeNames) const;
-    std::string ListOf(const std::vector<Hit>& hits) const;
+    std::vector<Hit> PlacesMeant(std::string_view text) const;
+    std::optional<FoundPlace> Outstanding(const std::vector<Hit>& hits) const;
+    std::string ListOf(std::vector<Hit> hits) const;
     std::string Elsewhere(std::string_view text) const;
     std::uint32_t PlaceOfKey(std::size_t key) const;
     double Degrees(std::int32_t hundredths) const { return hundredths / 6000.0; }

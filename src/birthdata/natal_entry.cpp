@@ -67,7 +67,10 @@ double Value(const NatalEntry& entry, const Box& box) {
 }
 
 std::string Quoted(const NatalEntry& entry, const Box& box) {
-    return std::string(box.label) + " " + std::string(TrimBlanks(entry.*box.text));
+    constexpr std::size_t kMostShown = 20;
+    const std::string_view text = TrimBlanks(entry.*box.text);
+    return std::string(box.label) + " " + std::string(text.substr(0, kMostShown)) +
+           (text.size() > kMostShown ? "..." : "");
 }
 
 // Collects the boxes that fail into one fault.

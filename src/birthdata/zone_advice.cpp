@@ -111,6 +111,12 @@ const ZoneReading* EntryReadings::WithZone(double hours) const {
     return found != readings.end() ? &*found : nullptr;
 }
 
+bool EntryReadings::RanBeside(double hours) const {
+    return std::ranges::any_of(answer.beside, [&](int offset) {
+        return IsSameZone(EntryZoneOf(offset, place.place.degreesEast).hours, hours);
+    });
+}
+
 EntryReadings ReadingsAt(const ZoneBook& book, AtlasPlace place, const ClockMoment& clock) {
     place.place = place.AsEntered();
     ZoneAnswer answer = LookUpZone(book.history, place.place, clock);

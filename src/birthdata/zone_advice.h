@@ -53,6 +53,8 @@ struct EntryReadings {
     double HoursOf(const ZoneReading& reading) const;
     // The reading that has these hours, to the second.
     const ZoneReading* WithZone(double hours) const;
+    // Whether these are the hours of another clock that people there lived by.
+    bool RanBeside(double hours) const;
 };
 EntryReadings ReadingsAt(const ZoneBook& book, AtlasPlace place, const ClockMoment& clock);
 

@@ -9,7 +9,7 @@
 namespace tolvanis {
 namespace {
 
-constexpr std::size_t kFieldCount = 8;
+constexpr std::size_t kFieldCount = 8;  // without the clocks
 
 auto Order(const CalendarDate& date) {
     return std::tuple(date.year, date.month, date.day);
@@ -35,7 +35,8 @@ bool ZoneCase::Fits(const CalendarDate& date, std::string_view countryCode, std:
 
 Result<ZoneCase> ParseZoneCase(std::string_view line) {
     const std::vector<std::string> fields = SplitAt(line, '\t');
-    if (fields.size() != kFieldCount) return Fault{"a case has 8 fields"};
+    if (fields.size() != kFieldCount && fields.size() != kFieldCount + 1)
+        return Fault{"a case has 8 or 9 fields"};
     const auto from = ParseDate(fields[0]);
     const auto to = ParseDate(fields[1]);
     const std::vector<std::string> months = SplitAt(fields[2], '-');
@@ -52,6 +53,7 @@ Result<ZoneCase> ParseZoneCase(std::string_view line) {
     made.zones = Words(fields[5]);
     made.text = fields[6];
     made.source = fields[7];
+    if (fields.size() > kFieldCount) made.clocks = Words(fields[kFieldCount]);
     return made;
 }
 

@@ -21,12 +21,14 @@ struct ZoneCase {
     std::vector<std::string> zones;    // names; empty for all
     std::string text;                  // what was in dispute, as a sentence
     std::string source;
+    std::vector<std::string> clocks;  // zones that people there live by side by side, or empty
 
     bool Fits(const CalendarDate& date, std::string_view countryCode, std::string_view regionCode,
               std::string_view zone) const;
 };
 
-// The case of a line: from, to, months, country, regions, zones, text and source, with tabs between them.
+// The case of a line: from, to, months, country, regions, zones, text, source and, where there are some,
+// clocks, with tabs between them.
 Result<ZoneCase> ParseZoneCase(std::string_view line);
 
 }  // namespace tolvanis

@@ -9,6 +9,8 @@
 namespace tolvanis {
 namespace {
 
+using ZonePeriods = std::vector<ZonePeriod>;
+
 constexpr double kKmOfReferenceCity = 15.0;
 constexpr double kSecondsPerDegree = 240.0;
 constexpr double kSecondsPerHour = 3600.0;
@@ -41,6 +43,15 @@ int OffsetOf(const ZonePeriod& period, const ZonePlace& place) {
     return period.kind == ZoneKind::LocalMean ? LocalMeanOffset(place, period.offset) : period.offset;
 }
 
+bool HasBegun(const ZonePeriods& periods, ZonePeriods::const_iterator period, std::int64_t universal) {
+    return period == periods.begin() || universal >= period->start;
+}
+
+bool IsOver(const ZonePeriods& periods, ZonePeriods::const_iterator period, std::int64_t universal) {
+    const auto next = std::next(period);
+    return next != periods.end() && universal >= next->start;
+}
+
 class Grader {
   public:
     Grader(const ZoneHistory& history, const ZonePlace& place) : history_(history), place_(place) {
@@ -52,8 +63,7 @@ class Grader {
     }
 
     void Grade(ZoneReading& reading, std::int64_t universal) const {
-        const bool isReference = city_ != nullptr && distance_ <= kKmOfReferenceCity;
-        const ZoneCase* known = CaseOf(reading.clock.date, isReference);
+        const ZoneCase* known = CaseOf(reading.clock.date);
         if (reading.kind == ZoneKind::LocalMean) {
             Set(reading, ZoneGrade::Local,
                 "local mean time by the longitude of the place, 4 minutes a degree");
@@ -61,11 +71,26 @@ class Grader {
             Set(reading, ZoneGrade::Disputed, known->text + " (" + known->source + ")");
         } else if (universal >= 0) {
             Set(reading, ZoneGrade::Sure, "the clocks of this zone are on record since 1970");
-        } else if (isReference) {
+        } else if (IsReference()) {
             Set(reading, ZoneGrade::Reference, "the clocks of " + city_->name + " are on record");
         } else {
             Set(reading, ZoneGrade::Nearest, ByCity());
         }
+    }
+
+    // The offsets that the clocks of the zones had which the case of this moment names.
+    std::vector<int> OffsetsBeside(const ClockMoment& moment) const {
+        const ZoneCase* known = CaseOf(moment.date);
+        std::vector<int> offsets;
+        for (const std::string& zone : known != nullptr ? known->clocks : std::vector<std::string>()) {
+            const ZonePeriods& periods = history_.ClocksOf(zone);
+            for (auto period = periods.begin(); period != periods.end(); ++period) {
+                const std::int64_t universal = LocalSeconds(moment) - OffsetOf(*period, place_);
+                if (HasBegun(periods, period, universal) && !IsOver(periods, period, universal))
+                    offsets.push_back(OffsetOf(*period, place_));
+            }
+        }
+        return offsets;
     }
 
   private:
@@ -74,11 +99,13 @@ class Grader {
         reading.reason = std::move(reason);
     }
 
+    bool IsReference() const { return city_ != nullptr && distance_ <= kKmOfReferenceCity; }
+
     // The reference city differs only where the case names its zone.
-    const ZoneCase* CaseOf(const CalendarDate& date, bool isReference) const {
+    const ZoneCase* CaseOf(const CalendarDate& date) const {
         const auto& cases = history_.cases();
         const auto found = std::ranges::find_if(cases, [&](const ZoneCase& one) {
-            return !(isReference && one.zones.empty()) &&
+            return !(IsReference() && one.zones.empty()) &&
                    one.Fits(date, place_.countryCode, place_.regionCode, place_.zone);
         });
         return found != cases.end() ? &*found : nullptr;
@@ -140,10 +167,9 @@ ZoneAnswer LookUpZone(const ZoneHistory& history, const ZonePlace& place, const 
     for (; period != periods.end() && period->start <= local + 2 * kSecondsPerDay; ++period) {
         const int offset = OffsetOf(*period, place);
         const std::int64_t universal = local - offset;
-        const bool begun = period == periods.begin() || universal >= period->start;
+        const bool over = IsOver(periods, period, universal);
         const auto next = std::next(period);
-        const bool over = next != periods.end() && universal >= next->start;
-        if (begun && !over) {
+        if (HasBegun(periods, period, universal) && !over) {
             answer.readings.push_back(MakeReading(*period, offset, moment));
             grader.Grade(answer.readings.back(), universal);
         } else if (over && local - OffsetOf(*next, place) < next->start) {
@@ -155,6 +181,7 @@ ZoneAnswer LookUpZone(const ZoneHistory& history, const ZonePlace& place, const 
         }
     }
     if (!answer.readings.empty()) answer.around.clear();
+    answer.beside = grader.OffsetsBeside(moment);
     return answer;
 }
 

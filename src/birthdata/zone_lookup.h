@@ -53,6 +53,8 @@ struct ZoneReading {
 struct ZoneAnswer {
     std::vector<ZoneReading> readings;
     std::vector<ZoneReading> around;
+    // Offsets of the other clocks that people there lived by at that time, in a case that knows of them.
+    std::vector<int> beside;
 };
 
 // Dates are read as everywhere in the program: Gregorian from 15 October 1582, Julian before. Where a zone

@@ -31,7 +31,8 @@ class ZoneChecker : public EntryWriter {
         const std::string place = found->place.FullName();
         if (found->outcome() == ZoneOutcome::Unknown)
             return WriteLine(source + ": " + entry.name + ": " + WhatHappened(*found, place));
-        if (found->WithZone(LeadingNumber(entry.timeZone)) != nullptr) return;
+        const double zone = LeadingNumber(entry.timeZone);
+        if (found->WithZone(zone) != nullptr || found->RanBeside(zone)) return;
         std::string line = source + ": " + entry.name + ": zone " + entry.timeZone;
         line += found->outcome() == ZoneOutcome::Never ? "; this time did not exist at " : "; in force at ";
         line += place;

@@ -94,12 +94,16 @@ TEST(ChartCommand, ZonesOfANamesFileAreChecked) {
                                   "4, daylight saving (EDT): Ascendant -23d 34m. " + grade +
                                   "; zone 5, standard time (EST): Ascendant -11d 45m. " + grade + "\n" +
                                   names + ":5: Sea: no place within 60 km is known\n");
-    directory.Write("z.fil", "\x1b[31mX,22 Sep 1949,9.05,A,4" + at + "Y,22 Sep 1949,9.75,A,99" + at);
+    directory.Write("z.fil", "\x1b[31mX,22 Sep 1949,9.05,A,4" + at + "Y,22 Sep 1949,9.75,A,1e300" + at);
     const Outcome odd = RunWith({"--check-zones", "--names", names});
     EXPECT_EQ(odd.status, kSomethingRefused);
     EXPECT_EQ(odd.output.find('\x1b'), std::string::npos) << "nothing in a file controls a terminal";
+    EXPECT_LT(odd.errors.size(), 200U) << "no text without end";
     EXPECT_THAT(odd.errors, HasSubstr(":2: ")) << "what is no birth is not said to be in the sea";
-    directory.Write("z.fil", right);
+    const std::string xinjiang = ",-87.36,43.48\r\n";
+    directory.Write("z.fil", right + "Legal,1 Jul 1985,12.00,P,-8" + xinjiang +
+                                 "Local,1 Jul 1985,12.00,P,-6" + xinjiang +
+                                 "Legal summer,1 Jul 1987,12.00,P,-9" + xinjiang);
     const Outcome agreed = RunWith({"--check-zones", "--names", names});
     EXPECT_EQ(agreed.status, kAllComputed);
     EXPECT_EQ(agreed.output + agreed.errors, "");
@@ -167,6 +171,52 @@ TEST(ChartCommand, PlacedBirthsTellPlaceAndZone) {
                   "\"country\":\"United States\",\"longitude\":74.006,\"latitude\":40.714333333333336,"
                   "\"zoneName\":\"America/New_York\"},\"zoneKind\":\"daylight\",\"zoneGrade\":\"reference\","
                   "\"zoneRelease\":\"2026-07-21\""));
+}
+
+// What a user may have got wrong or should doubt is said, and what no entry can hold is refused.
+TEST(ChartCommand, PlacedBirthsTellWhatToDoubt) {
+    struct Case {
+        std::string_view birth, at, zone;
+        ExitStatus status;
+        const char* errors;
+    };
+    constexpr std::string_view kSummer = "X,1 Jul 2000,12,P", kTwice = "X,27 Oct 2024,2.30,A";
+    const std::string inForce =
+        " Paris, Île-de-France, France on 1 Jul 2000 12:00 P.M.; in force: zone -2 daylight saving (CEST)\n";
+    const std::string slip = "--birth: zone 1 was not in force in" + inForce;
+    const std::string beyond = "--at: zone 13 cannot be that of" + inForce;
+    const Case cases[] = {
+        {kSummer, "Paris, France", "-2", kAllComputed, ""},
+        {kSummer, "Paris, France", "1", kAllComputed, slip.c_str()},
+        {kSummer, "Paris, France", "13", kSomethingRefused, beyond.c_str()},
+        {kSummer, "Paris, France", "-24", kSomethingRefused, "--at: zone -24 cannot be that of Paris"},
+        {kSummer, "New York City", "-4", kSomethingRefused, "in force: zone 4 daylight saving (EDT)\n"},
+        {kTwice, "Rome, Italy", "-1", kAllComputed, ""},
+        {kTwice, "Rome, Italy", "5", kAllComputed,
+         "; in force: zone -2 daylight saving (CEST), then zone -1 standard time (CET)\n"},
+        {"X,31 Mar 2024,2.30,A", "Rome, Italy", "3", kAllComputed,
+         "; the time did not exist there, around it: zone -1 standard time (CET), then zone -2 "},
+        {kSummer, "Nuku'alofa", "11", kAllComputed, "the entry has 30 Jun 2000 with the zone 11\n"},
+        {kSummer, "Nuku'alofa", "-14", kAllComputed,
+         "in force: zone -13 standard time\n  Nuku'alofa keeps the date of the other side"},
+        {kSummer, "Ürümqi", "", kAllComputed,
+         "--birth: zone -6 was taken for Ürümqi, Xinjiang, China. Disputed: Xinjiang lives by two clocks"},
+        {kSummer, "Ürümqi", "-8", kAllComputed, ""},
+        {kSummer, "Ürümqi", "-7", kAllComputed, "zone -7 was not in force"},
+        {"X,1 Jul 1955,12,P", "Lyon", "", kAllComputed,
+         "Not certain: before 1970 the record is that of Paris"},
+        {kSummer, "Newport, Wales", "", kAllComputed,
+         "--birth: Newport, Wales, United Kingdom (3W00 51N35, population 306844) was taken; smaller places "
+         "have the same name\n"},
+    };
+    for (const Case& test : cases) {
+        std::vector<std::string_view> arguments = {"--birth", test.birth, "--at", test.at};
+        if (!test.zone.empty()) arguments.insert(arguments.end(), {"--zone", test.zone});
+        const Outcome outcome = RunWith(arguments);
+        EXPECT_EQ(outcome.status, test.status) << test.at << test.zone;
+        EXPECT_THAT(outcome.errors, HasSubstr(test.errors)) << test.at << test.zone;
+        EXPECT_EQ(outcome.errors.empty(), *test.errors == '\0') << outcome.errors;
+    }
 }
 
 // Now is read on the clock of the place, or of the home: west of Greenwich it is earlier, east of it later.
