@@ -5,6 +5,8 @@
 """
 
 import os
+import re
+import resource
 import subprocess
 import sys
 import tempfile
@@ -13,6 +15,7 @@ import unittest
 from pathlib import Path
 
 BIN = Path()
+MANUALS = Path(__file__).resolve().parent.parent / "packaging/man"
 VERSION = ""
 ANN = "Ann Smith,22 Sep 1949,9.05,P,4,073.59,40.45"
 
@@ -43,7 +46,10 @@ class Programs(unittest.TestCase):
                 refused = self.run_program(name, "--bogus")
                 self.assertEqual((refused.returncode, refused.stdout), (2, ""))
                 self.assertIn(f"Usage: {name}", refused.stderr)
-        for name in ("tolvanis", "tolvanis-chart"):
+                manual = (MANUALS / f"{name}.1").read_text(encoding="utf-8").replace("\\-", "-")
+                options = re.findall(r"--[a-z-]+", told.stdout)
+                self.assertEqual([option for option in options if option not in manual], [])
+        for name in ("tolvanis", "tolvanis-chart", "tolvanis-atlas"):
             self.assertEqual(self.run_program(name, "--version").stdout, f"{name} {VERSION}\n")
             with open("/dev/full", "w", encoding="ascii") as full:
                 told = self.run_program(name, "--help", stdout=full, stderr=subprocess.PIPE)
@@ -79,6 +85,17 @@ class Programs(unittest.TestCase):
         told = self.run_program("tolvanis", environment={"QT_QPA_PLATFORM": ""})
         self.assertEqual(told.returncode, 1)
         self.assertIn("there is no display", told.stderr)
+        for name in ("tolvanis", "tolvanis-atlas"):
+            told = self.run_program(name, environment={"QT_QPA_PLATFORM": "xcb", "DISPLAY": ":7777"})
+            self.assertEqual((told.returncode, told.stderr.count("\n")), (1, 1), told.stderr)
+            self.assertIn(f"{name}: the display cannot be reached", told.stderr)
+
+    def test_too_little_memory_is_told(self):
+        limit = (8 << 20, 8 << 20)
+        for name, arguments in (("tolvanis", ("--wheel", "a.svg")), ("tolvanis-chart", ())):
+            told = self.run_program(name, *arguments, "--birth", ANN, "--at", "Rome, Italy",
+                                    preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_DATA, limit))
+            self.assertEqual((told.returncode, told.stderr), (1, f"{name}: there is not enough memory\n"))
 
     def test_the_first_start_fills_the_users_directory_and_stays_open(self):
         program = self.start("tolvanis")
@@ -93,8 +110,14 @@ class Programs(unittest.TestCase):
         self.assertIsNone(program.poll())
 
     def test_the_atlas_opens(self):
+        (self.home / "TSRTEMP.TXT").write_text("of the last look-up", encoding="ascii")
         program = self.start("tolvanis-atlas")
-        time.sleep(1.0)
+        for _ in range(200):
+            if not (self.home / "TSRTEMP.TXT").exists():
+                break
+            time.sleep(0.05)
+        self.assertFalse((self.home / "TSRTEMP.TXT").exists())
+        time.sleep(0.5)
         self.assertIsNone(program.poll())
 
 

@@ -11,6 +11,7 @@
 #include "app/qt/wheel_command_run.h"
 #include "platform/clock.h"
 #include "platform/qt/message_boxes.h"
+#include "platform/qt/missing_display.h"
 #include "platform/terminal.h"
 
 using namespace tolvanis;
@@ -51,11 +52,15 @@ int main(int argc, char** argv) {
     }
     if (arguments->help) return PrintAbout("tolvanis", kDesktopUsage);
     if (arguments->version) return PrintAbout("tolvanis", "tolvanis " TOLVANIS_VERSION "\n");
-    if (arguments->wheel) return RunWheelCommand(given, {HostClock, HostDateTimeOrder()}, argv);
+    if (arguments->wheel)
+        return WithinMemory("tolvanis", [&] {
+            return RunWheelCommand(given, {HostClock, HostDateTimeOrder()}, argv);
+        });
     if (!HasDisplay()) {
         std::cerr << "tolvanis: there is no display to open windows on; tolvanis-chart works without one\n";
         return EXIT_FAILURE;
     }
+    EndPlainlyWithoutDisplay("tolvanis");
     int qtArgumentCount = 1;
     QApplication application(qtArgumentCount, argv);
     QApplication::setApplicationName(QStringLiteral("tolvanis"));

@@ -1,5 +1,4 @@
 #include <iostream>
-#include <new>
 #include <span>
 #include <vector>
 
@@ -31,10 +30,5 @@ int main(int argc, char** argv) {
     OccupyStandardStreams();
     OutliveFileSizeLimits();
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-    try {
-        return Run(arguments);
-    } catch (const std::bad_alloc&) {
-        TellOn(std::cerr, "tolvanis-chart: there is not enough memory");
-        return kSomethingRefused;
-    }
+    return WithinMemory(kProgram, [&] { return Run(arguments); });
 }

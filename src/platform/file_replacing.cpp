@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 using Writer = std::function<bool(const Sink&)>;
 
 // Names of fixed length, so that a file whose own name is as long as the file system allows is saved too.
-constexpr std::string_view kTemporaryStart = ".tolvanis-";
+constexpr std::string_view kTemporaryStart = ".tolvanis-save-";
 constexpr std::string_view kTemporaryPattern = "XXXXXX";
 constexpr int kAttempts = 100;
 
@@ -330,8 +330,11 @@ Result<void> MakeBackup(const Path& file, const Path& backup, std::string_view c
                         fs::equivalent(DirectoryOf(target.path), DirectoryOf(file), error);
     if (itself) return CannotWrite(backup, "it is a link to the file itself");
 
+    // In a directory where each user may only remove what is his own, a link to another's file would stay.
+    struct stat status {};
+    const bool own = ::stat(file.c_str(), &status) == 0 && status.st_uid == ::geteuid();
     const std::string spare = UnusedName(DirectoryOf(target.path));
-    if (::link(file.c_str(), spare.c_str()) != 0) return CopyToBackup(target.path, content);
+    if (!own || ::link(file.c_str(), spare.c_str()) != 0) return CopyToBackup(target.path, content);
     const bool kept = ::rename(spare.c_str(), target.path.c_str()) == 0;
     const int failure = errno;
     ::unlink(spare.c_str());  // left by a fault, and by rename when both are names of one file

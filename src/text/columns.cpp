@@ -1,5 +1,6 @@
 #include "text/columns.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tolvanis {
@@ -90,6 +91,18 @@ char AsciiUpper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
 }
 
+// How many bytes of valid UTF-8 at the start of a text are a control character, 0 for none: U+0000 to U+001F,
+// U+007F to U+009F, line and paragraph separators, and what turns the direction of the text behind it.
+std::size_t ControlLength(std::string_view text) {
+    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+    if (byte(0) < 0x20 || byte(0) == 0x7F) return 1;
+    if (byte(0) == 0xC2) return byte(1) < 0xA0 ? 2 : 0;
+    if (byte(0) != 0xE2) return 0;
+    const bool turnsOrEnds = byte(1) == 0x80 && byte(2) >= 0xA8 && byte(2) <= 0xAE;  // U+2028 to U+202E
+    const bool isolates = byte(1) == 0x81 && byte(2) >= 0xA6 && byte(2) <= 0xA9;     // U+2066 to U+2069
+    return turnsOrEnds || isolates ? 3 : 0;
+}
+
 }  // namespace
 
 std::size_t CharacterCount(std::string_view text) {
@@ -170,16 +183,14 @@ std::string_view WithoutByteOrderMark(std::string_view text) {
 }
 
 std::string Printable(std::string_view text) {
-    std::string printable = ToUtf8(text);
-    std::size_t kept = 0;
-    for (std::size_t at = 0; at < printable.size(); ++at) {
-        const auto byte = static_cast<unsigned char>(printable[at]);
-        // U+0080 to U+009F are two bytes.
-        const bool upper = byte == 0xC2 && static_cast<unsigned char>(printable[at + 1]) < 0xA0;
-        printable[kept++] = byte < 0x20 || byte == 0x7F || upper ? ' ' : printable[at];
-        if (upper) ++at;
+    const std::string whole = ToUtf8(text);
+    std::string printable;
+    printable.reserve(whole.size());
+    for (std::string_view rest = whole; !rest.empty();) {
+        const std::size_t length = ControlLength(rest);
+        printable += length > 0 ? ' ' : rest.front();
+        rest.remove_prefix(std::max<std::size_t>(length, 1));
     }
-    printable.resize(kept);
     return printable;
 }
 

@@ -208,8 +208,8 @@ TEST(Files, BackupsHaveNamesOfTheirOwn) {
 // What a killed program leaves goes with the next save; what a living one is writing stays.
 TEST(Files, OnlyFilesThatNobodyWritesAnyMoreAreRemoved) {
     const ScratchDirectory directory;
-    const auto left = directory.Write(".tolvanis-aaaaaa", "of a killed program");
-    const auto users = directory.Write(".tolvanis-settings", "of the user's");
+    const auto left = directory.Write(".tolvanis-save-aaaaaa", "of a killed program");
+    const auto users = directory.Write(".tolvanis-notes1", "of the user's");
     const auto path = directory / "a.txt";
     ASSERT_TRUE(ReplaceFile(path, [&](const Sink& sink) {
         EXPECT_FALSE(fs::exists(left));

@@ -59,6 +59,20 @@ TEST(Columns, BytesBecomeUtf8) {
     EXPECT_EQ(ToUtf8("a\xC3"), "aÃ") << "a sequence cut short";
 }
 
+TEST(Columns, WhatActsOnATerminalIsBlanked) {
+    const std::pair<std::string, const char*> cases[] = {
+        {"a\x1B[2Jb\x7F", "a [2Jb "},
+        {"a\tb\r", "a b "},
+        {"\xC2\x85x\xC2\xA0", " x\xC2\xA0"},
+        {"a\xE2\x80\xAE"
+         "b\xE2\x80\xA8",
+         "a b "},
+        {"\xE2\x81\xA6x\xE2\x81\xA9", " x "},
+        {"\xE2\x80\x93 \xE2\x82\xAC \xE2\x81\xB0", "\xE2\x80\x93 \xE2\x82\xAC \xE2\x81\xB0"},
+        {"caf\xE9\x1B", "caf\xC3\xA9 "}};
+    for (const auto& [given, printed] : cases) EXPECT_EQ(Printable(given), printed);
+}
+
 TEST(Dates, FormAndReading) {
     EXPECT_EQ(FormatDate({277, 1, 5}), "05 Jan 0277");
     EXPECT_EQ(FormatDate({1955, 4, 31}), "31 Apr 1955");

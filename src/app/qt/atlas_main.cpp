@@ -11,6 +11,7 @@
 #include "birthdata/atlas_exchange.h"
 #include "birthdata/qt/atlas_window.h"
 #include "platform/qt/message_boxes.h"
+#include "platform/qt/missing_display.h"
 #include "platform/terminal.h"
 
 using namespace tolvanis;
@@ -53,6 +54,7 @@ int main(int argc, char** argv) {
         std::cerr << "tolvanis-atlas: there is no display to open windows on\n";
         return EXIT_FAILURE;
     }
+    EndPlainlyWithoutDisplay("tolvanis-atlas");
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tolvanis-atlas"));
     QApplication::setApplicationVersion(QStringLiteral(TOLVANIS_VERSION));
