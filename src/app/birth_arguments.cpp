@@ -82,6 +82,8 @@ void ReadBirthsOfNamesFile(const BirthArguments& births, BirthReceiver& receiver
     bool found = false;
     for (std::string line; receiver.WantsMore() && !found && reader.Next(line);) {
         const std::string source = file + ":" + std::to_string(reader.LineNumber());
+        if (line.find('\0') != std::string::npos)
+            return receiver.Refuse(source, "the file is not a names file: it holds bytes that no text has");
         const Result<NameRecord> record = ParseNameRecord(line);
         if (record && record->name.empty()) break;  // ends the list
         if (births.name && (record ? record->name : FirstField(line)) != wanted) continue;

@@ -359,6 +359,9 @@ TEST(ChartCommand, RefusedRecordsAreNamedAndTheOthersComputed) {
     EXPECT_THAT(latin.output, HasSubstr("  René [2J\n"));
     EXPECT_THAT(RunWith({"--names", directory.path().native()}).errors, HasSubstr("Is a directory"));
     const auto damaged = directory.Write("damaged.fil", "Ann,22 Sep 1949,9.05,A\r\n");
+    const auto wide = directory.Write("wide.fil", std::string("\xFF\xFEN\0e\0\n\0w\0", 10));
+    EXPECT_EQ(RunWith({"--names", wide.native()}).errors,
+              wide.string() + ":1: the file is not a names file: it holds bytes that no text has\n");
     EXPECT_THAT(RunWith({"--names", damaged.native(), "--name", "Ann"}).errors,
                 HasSubstr("4 fields instead of 7"));
 }
