@@ -1,5 +1,6 @@
 #include "birthdata/atlas_lookup.h"
 
+#include <cmath>
 #include <vector>
 
 #include "birthdata/atlas_exchange.h"
@@ -11,6 +12,7 @@ namespace {
 
 // Far more than any coordinate needs; what a damaged file holds must not fill the screen.
 constexpr std::size_t kLongestCoordinate = 40;
+constexpr double kMostZoneHours = 24.0;
 constexpr std::size_t kExchangeLines = 5;
 
 // Directories come from the user and from the atlas, with either separator at their ends or none.
@@ -18,12 +20,12 @@ Path FileIn(const std::string& directory, std::string_view name) {
     return FindFile(PathFromText(directory), name);
 }
 
-// The first `count` lines of a file; nothing when it has fewer or cannot be read.
+// The first lines of a file, up to `count`; nothing when there is none or it cannot be read.
 std::optional<std::vector<std::string>> FirstLines(const Path& path, std::size_t count) {
     LineReader reader(path);
     std::vector<std::string> lines;
     for (std::string line; lines.size() < count && reader.Next(line);) lines.push_back(line);
-    if (reader.HasFault() || lines.size() < count) return std::nullopt;
+    if (reader.HasFault() || lines.empty()) return std::nullopt;
     return lines;
 }
 
@@ -52,11 +54,14 @@ std::string Shortened(const std::string& line) {
     return std::string(FirstCharacters(TrimBlanks(line), kLongestCoordinate));
 }
 
-// What is wrong with the five lines of an exchange file, as "line 2 ...", or an empty text.
+// What is wrong with the lines of an exchange file, as "line 2 ...", or an empty text.
 std::string ExchangeFault(const std::vector<std::string>& lines) {
+    if (lines.size() < kExchangeLines)
+        return "it has " + std::to_string(lines.size()) + " of " + std::to_string(kExchangeLines) + " lines";
     if (!IsCoordinate(lines[1], kLatitudeForm)) return LineFault(2, lines[1], "latitude");
     if (!IsCoordinate(lines[2], kLongitudeForm)) return LineFault(3, lines[2], "longitude");
-    if (!EntireNumber(lines[4])) return LineFault(5, lines[4], "time zone in hours");
+    const std::optional<double> zone = EntireNumber(lines[4]);
+    if (!zone || std::abs(*zone) > kMostZoneHours) return LineFault(5, lines[4], "time zone in hours");
     return {};
 }
 
