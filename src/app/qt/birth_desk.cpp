@@ -7,6 +7,7 @@
 #include "app/own_atlas.h"
 #include "birthdata/atlas_exchange.h"
 #include "birthdata/name_saving.h"
+#include "platform/qt/escape_key.h"
 #include "platform/qt/external_program.h"
 
 namespace tolvanis {
@@ -133,6 +134,7 @@ void BirthDesk::OpenNames() {
         OpenCities();
     });
     connect(names_, &Names::closedByUser, this, &BirthDesk::windowClosed);
+    LeadEscapeTo(*names_, [this] { BringForward(*input_); });
     listPlace_.Apply(*names_, Beside(*names_, InputPlace()));
     BringForward(*names_);
     names_->Load();
@@ -154,6 +156,7 @@ void BirthDesk::OpenCities() {
         OpenNames();
     });
     connect(cities_, &Geograph::closedByUser, this, &BirthDesk::windowClosed);
+    LeadEscapeTo(*cities_, [this] { BringForward(*input_); });
     listPlace_.Apply(*cities_, Beside(*cities_, InputPlace()));
     BringForward(*cities_);
     cities_->Load();
@@ -168,6 +171,7 @@ void BirthDesk::OpenTimeZones() {
             entry.east = east;
             input_->SetEntry(entry);
         });
+        LeadEscapeTo(*zones_, [this] { BringForward(*input_); });
         zones_->Load();
         const QWidget* list = cities_ != nullptr ? static_cast<QWidget*>(cities_) : names_;
         const bool listShown = list != nullptr && list->isVisible();

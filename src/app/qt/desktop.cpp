@@ -13,6 +13,7 @@
 #include "app/qt/print_file_window.h"
 #include "app/qt/title_window.h"
 #include "platform/qt/accessible_windows.h"
+#include "platform/qt/escape_key.h"
 #include "platform/qt/hourglass.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/text.h"
@@ -340,6 +341,7 @@ void Desktop::ShowEditor(EditorUse use, const Path& file) {
         connect(editor, &EditorWindow::closed, this, [this, use] { EditorClosed(use); });
         connect(editor, &EditorWindow::restoreRequested, this,
                 [this, opened = editor.data()] { RestoreDefaultOptions(*opened); });
+        LeadEscapeTo(*editor, [this] { FocusMainWindow(); });
         editorPlaces_[use].Apply(*editor, QRect(main_->geometry().bottomLeft(), editor->size()));
     }
     BringForward(*editor);

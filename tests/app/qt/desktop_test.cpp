@@ -751,6 +751,26 @@ TEST_F(DesktopWindow, EscapeLeadsToAMenuThatTheArrowsMoveIn) {
     }
 }
 
+TEST_F(DesktopWindow, EscapeLeadsFromListsToTheInputAndFromEditorsToTheMenu) {
+    Choose("mnuOptions");
+    auto* editor = TopWindow<EditorWindow>();
+    auto* names = TopWindow<Names>();
+    const struct {
+        QWidget* from;
+        const char* control;
+        QWidget* to;
+    } cases[] = {{editor, "txtContent", &desktop_->mainWindow()},
+                 {editor, "btnSave", &desktop_->mainWindow()},
+                 {names, "NamesOnFile", &input()},
+                 {names, "txtFind", &input()}};
+    for (const auto& test : cases) {
+        test.from->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(test.from));
+        QTest::keyClick(&Find<QWidget>(*test.from, test.control), Qt::Key_Escape);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(test.to)) << test.control;
+    }
+}
+
 TEST_F(DesktopWindow, LettersOfAnotherSizeKeepTheReadersPlace) {
     TypeBirth();
     PressOK();
