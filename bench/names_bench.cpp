@@ -17,7 +17,7 @@ namespace {
 class NoMessages : public Messages {
   public:
     void Tell(const std::string&, const std::string&, MessageIcon) override {}
-    bool AskYesNo(const std::string&, const std::string&) override { return false; }
+    bool AskYesNo(const std::string&, const std::string&, Answer) override { return false; }
     Answer AskYesNoCancel(const std::string&, const std::string&) override { return Answer::No; }
     std::string AskText(const std::string&, const std::string&) override { return {}; }
 };

@@ -85,7 +85,7 @@ class RecordedMessages : public Messages {
     void Tell(const std::string& title, const std::string& text, MessageIcon icon) override {
         told.emplace_back(title, text, icon);
     }
-    bool AskYesNo(const std::string& title, const std::string& text) override {
+    bool AskYesNo(const std::string& title, const std::string& text, Answer /*preset*/) override {
         return Take(answers, title, text, Answer::No) == Answer::Yes;
     }
     Answer AskYesNoCancel(const std::string& title, const std::string& text) override {

@@ -14,8 +14,9 @@ class Messages {
 
     // Shows a text with one OK button.
     virtual void Tell(const std::string& title, const std::string& text, MessageIcon icon) = 0;
-    // Asks with Yes and No; true for Yes, while closing the box is No.
-    virtual bool AskYesNo(const std::string& title, const std::string& text) = 0;
+    // Asks with Yes and No; true for Yes, while closing the box is No. `preset` is what Enter alone answers:
+    // No where Yes gives something up.
+    virtual bool AskYesNo(const std::string& title, const std::string& text, Answer preset = Answer::Yes) = 0;
     // Asks with Yes, No and Cancel; Cancel is the default button.
     virtual Answer AskYesNoCancel(const std::string& title, const std::string& text) = 0;
     // Asks for a line of text; empty when the user cancels.

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 
 #include "platform/files.h"
+#include "platform/qt/message_boxes.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
@@ -28,9 +29,10 @@ Path AskForFile(const SaveRequest& request) {
 bool MayOverwrite(const Path& file) {
     std::error_code error;
     if (!IsNameTaken(file) || std::filesystem::is_directory(file, error)) return true;
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Save As"),
-                    ToQt(file.string() + " already exists.\nDo you want to replace it?"),
-                    QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    QMessageBox box(
+        QMessageBox::Warning, QStringLiteral("Save As"),
+        WithBreaksInLongNames(ToQt(file.string() + " already exists.\nDo you want to replace it?")),
+        QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
