@@ -39,7 +39,8 @@ class ReplaceQuestions {
             asked.used = true;
             return asked.replaces;
         }
-        const bool replaces = messages_.AskYesNo(record.name + " already exists", ReplaceQuestion(record));
+        const bool replaces =
+            messages_.AskYesNo(record.name + " already exists", ReplaceQuestion(record), Answer::No);
         asked_.push_back({record, replaces, true});
         return replaces;
     }
@@ -128,7 +129,7 @@ class Composer {
 // Whether a reader of the record gets what the entry says.
 bool ReadsBack(const NameRecord& record, const NatalEntry& entry) {
     const Result<NameRecord> parsed = ParseNameRecord(FormatNameRecord(record));
-    if (!parsed || parsed->name.empty() || *parsed != record) return false;
+    if (!parsed || *parsed != record) return false;
     const Result<NatalEntry> read = EntryFromRecord(*parsed);
     if (!read) return false;
     using Box = std::string NatalEntry::*;
@@ -140,20 +141,26 @@ bool ReadsBack(const NameRecord& record, const NatalEntry& entry) {
                        [&](Box box) { return LeadingNumber(entry.*box) == LeadingNumber((*read).*box); });
 }
 
-// The record of an entry, or nothing after telling the user what is wrong with it.
-std::optional<NameRecord> RecordToSave(const NatalEntry& entry, Messages& messages) {
+// The record of an entry, or the box to correct after telling the user what is wrong.
+Result<NameRecord, EntryField> RecordToSave(const NatalEntry& entry, Messages& messages) {
     if (entry.name.find(',') != std::string::npos) {
         messages.Tell("Warning!",
                       "You cannot have a comma in the name. Please remove the comma and try again.",
                       MessageIcon::Stop);
-        return std::nullopt;
+        return EntryField::Name;
+    }
+    const auto refuse = [&](EntryField field) {
+        messages.Tell("Warning!", std::string(kInputErrorText), MessageIcon::Information);
+        return field;
+    };
+    for (const auto& faults : {CheckPresence(entry), CheckRanges(entry)}) {
+        if (!faults.empty()) return refuse(faults.front().field);
     }
     NameRecord record = RecordFromEntry(entry);
     record.name = TrimBlanks(LineText(Printable(record.name)));
-    if (!ReadsBack(record, entry)) {
-        messages.Tell("Warning!", std::string(kInputErrorText), MessageIcon::Information);
-        return std::nullopt;
-    }
+    if (record.name.empty()) return refuse(EntryField::Name);
+    if (!EntireNumber(record.timeZone)) return refuse(EntryField::TimeZone);
+    if (!ReadsBack(record, entry)) return refuse(EntryField::LatDeg);  // the box without bounds
     return record;
 }
 
@@ -187,11 +194,12 @@ Result<bool> TryToSave(const Path& file, const NameRecord& record, ReplaceQuesti
 
 }  // namespace
 
-bool SaveRecord(const NatalEntry& entry, const std::function<std::string()>& chooseFile, Messages& messages) {
-    const std::optional<NameRecord> record = RecordToSave(entry, messages);
-    if (!record) return false;
+SaveOutcome SaveRecord(const NatalEntry& entry, const std::function<std::string()>& chooseFile,
+                       Messages& messages) {
+    const Result<NameRecord, EntryField> record = RecordToSave(entry, messages);
+    if (!record) return {.file = {}, .toCorrect = record.fault()};
     const std::string chosen = chooseFile();
-    if (chosen.empty()) return false;
+    if (chosen.empty()) return {};
 
     const Path file = PathFromText(chosen);
     ReplaceQuestions questions(messages);
@@ -200,14 +208,14 @@ bool SaveRecord(const NatalEntry& entry, const std::function<std::string()>& cho
         const Result<bool> saved = TryToSave(file, *record, questions);
         if (!saved) {
             messages.Tell("Error!", saved.message(), MessageIcon::Stop);
-            return false;
+            return {};
         }
-        if (*saved) return true;
+        if (*saved) return {.file = file, .toCorrect = {}};
     }
     messages.Tell("Error!",
                   "Another program keeps changing the file " + file.string() + ". Nothing was saved.",
                   MessageIcon::Stop);
-    return false;
+    return {};
 }
 
 }  // namespace tolvanis

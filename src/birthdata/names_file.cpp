@@ -47,8 +47,9 @@ std::optional<std::size_t> FindName(const RecordList& names, std::string_view na
 }
 
 std::optional<ListPosition> RestoredPosition(const NamesState& state, std::size_t count) {
-    if (!state.locked || state.justSaved || count == 0) return std::nullopt;
-    const int selected = std::clamp(state.rememberedIndex, 0, static_cast<int>(count) - 1);
+    if (count == 0 || !(state.justSaved ? state.savedHere : state.locked)) return std::nullopt;
+    const int last = static_cast<int>(count) - 1;
+    const int selected = state.justSaved ? last : std::clamp(state.rememberedIndex, 0, last);
     return ListPosition{std::max(0, selected - kEntriesAboveRemembered), selected};
 }
 

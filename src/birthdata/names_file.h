@@ -32,10 +32,12 @@ struct NamesState {
     bool locked = false;      // the list reopens at the remembered entry
     int rememberedIndex = 0;  // counted from 0
     bool justSaved = false;   // a record was appended since the last pick: the position is not restored
+    bool savedHere = false;   // that record is the last of the current list
 };
 
-// Where a locked list of `count` entries reopens: the remembered entry, kept within the list, twelve below
-// the top. Nothing when the list is empty or the position is not to be restored.
+// Where a list of `count` entries reopens: at the record that was just saved in it, or, when it is locked, at
+// the remembered entry, kept within the list; twelve below the top. Nothing when the list is empty or no
+// position is to be restored.
 struct ListPosition {
     int top = 0;
     int selected = 0;

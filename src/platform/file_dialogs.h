@@ -34,6 +34,10 @@ class FileDialogs {
     // use, which is selected where it is listed. Returns the full path, or empty text when the user cancels.
     virtual std::string ChooseFile(const std::string& pattern, const std::string& currentPath) = 0;
 
+    // As ChooseFile, for a record that is going to be added to the file: a current file that does not exist
+    // yet can be chosen too, and where there is none, none is chosen beforehand.
+    virtual std::string ChooseFileToAddTo(const std::string& pattern, const std::string& currentPath) = 0;
+
     // Asks where to save, and before overwriting the file that is going to be written. Returns the full path,
     // its extension added, or empty text when the user cancels.
     virtual std::string ChooseSaveFile(const SaveRequest& request) = 0;

@@ -25,8 +25,8 @@ const std::string kBare = ",01 Jan 2000,12.30,P,-1,-002.21,-33.52";
 const std::string kOld = kBare + "\r\n";
 
 bool SaveTo(const Path& file, const std::string& name, Messages& messages) {
-    return SaveRecord(
-        Entry(name), [&] { return file.string(); }, messages);
+    return static_cast<bool>(SaveRecord(
+        Entry(name), [&] { return file.string(); }, messages));
 }
 
 bool ListShowsTheNewRecord(const Path& file) {
@@ -124,24 +124,45 @@ TEST(NameSavingTest, AsksInTheDescribedWords) {
 TEST(NameSavingTest, RefusesWhatNoReaderWouldSee) {
     const ScratchDirectory directory;
     const Path file = directory.Write("MY.FIL", "Bob" + kOld);
-    std::vector<NatalEntry> entries(4, Entry("Ann"));
-    entries[0].year = "19490";
-    entries[1].timeZone = "5-";
-    entries[2].month = "13";
-    entries[3].birthMinute = "100";
-    entries.push_back(Entry("Lee, Ann"));
-    entries.push_back(Entry("  "));
+    constexpr auto kInput = "Warning!: Error in natal input data section. Please correct.";
+    const struct {
+        std::string NatalEntry::*box;
+        const char* text;
+        EntryField field;
+    } cases[] = {{&NatalEntry::year, "19490", EntryField::Year},
+                 {&NatalEntry::year, "0000", EntryField::Year},
+                 {&NatalEntry::year, "0049", EntryField::Year},
+                 {&NatalEntry::timeZone, "5-", EntryField::TimeZone},
+                 {&NatalEntry::timeZone, "40", EntryField::TimeZone},
+                 {&NatalEntry::timeZone, "-3", EntryField::TimeZone},
+                 {&NatalEntry::month, "13", EntryField::Month},
+                 {&NatalEntry::birthMinute, "100", EntryField::BirthMinute},
+                 {&NatalEntry::birthMinute, "77", EntryField::BirthMinute},
+                 {&NatalEntry::birthMinute, "", EntryField::BirthMinute},
+                 {&NatalEntry::latMin, "", EntryField::LatMin},
+                 {&NatalEntry::latDeg, "40000", EntryField::LatDeg},
+                 {&NatalEntry::name, "  ", EntryField::Name}};
     RecordedMessages messages;
     const auto save = [&](const NatalEntry& entry, const std::string& chosen) {
         return SaveRecord(
             entry, [&] { return chosen; }, messages);
     };
-    for (const NatalEntry& entry : entries)
-        EXPECT_FALSE(save(entry, file.string())) << entry.name << entry.year;
-    EXPECT_EQ(messages.told.size(), entries.size());
-    EXPECT_FALSE(save(Entry("Ann"), "")) << "cancelled";
-    EXPECT_EQ(messages.told.size(), entries.size());
+    for (const auto& test : cases) {
+        NatalEntry entry = Entry("Ann");
+        entry.*test.box = test.text;
+        const SaveOutcome outcome = save(entry, file.string());
+        EXPECT_FALSE(outcome) << test.text;
+        EXPECT_EQ(outcome.toCorrect, test.field) << test.text;
+        EXPECT_EQ(messages.TakeTold(), std::vector<std::string>{kInput}) << test.text;
+    }
+    EXPECT_EQ(save(Entry("Lee, Ann"), file.string()).toCorrect, EntryField::Name);
+    EXPECT_EQ(messages.TakeTold().size(), 1U);
+    EXPECT_FALSE(save(Entry("Ann"), "").toCorrect) << "cancelled";
+    EXPECT_EQ(messages.told.size(), 0U);
     EXPECT_EQ(FileContent(file), "Bob" + kOld);
+    NatalEntry polar = Entry("Ann");
+    polar.latDeg = "78";
+    EXPECT_TRUE(save(polar, file.string())) << "some house systems are computed there";
 }
 
 TEST(NameSavingTest, WritesNothingOverABinaryFileOrADirectory) {

@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QWidget>
 #include <deque>
 #include <string>
@@ -28,6 +29,9 @@ class RecordedDialogs : public FileDialogs {
     std::string ChooseFile(const std::string& pattern, const std::string& current) override {
         choices.push_back(pattern + ", beginning with " + current);
         return answer;
+    }
+    std::string ChooseFileToAddTo(const std::string& pattern, const std::string& current) override {
+        return ChooseFile(pattern, current);
     }
     std::string ChooseSaveFile(const SaveRequest& request) override {
         saveRequests.push_back(request);
@@ -55,6 +59,12 @@ inline void ClickRow(QListView& list, int row, bool twice = false) {
 
 inline void Press(QWidget& window, const char* button) {
     QTest::mouseClick(&Find<QPushButton>(window, button), Qt::LeftButton);
+}
+
+// What a tool tip shows its reader.
+inline std::string ShownTip(const QString& tip) {
+    if (!Qt::mightBeRichText(tip)) return tip.toStdString();
+    return QTextDocumentFragment::fromHtml(tip).toPlainText().toStdString();
 }
 
 // Types characters of any alphabet; "\b" is the Backspace key.

@@ -27,6 +27,11 @@ void Close(QPointer<Window>& window) {
     window.clear();
 }
 
+bool IsSameFile(const Path& a, const Path& b) {
+    std::error_code error;
+    return std::filesystem::equivalent(FindPath(a), FindPath(b), error) && !error;
+}
+
 // Where a window of this size begins at the bottom of the screen.
 int LowestTop(const QSize& size) {
     const QRect lowest(QPoint(0, std::numeric_limits<std::int16_t>::max()), size);
@@ -181,11 +186,16 @@ void BirthDesk::OpenTimeZones() {
 }
 
 void BirthDesk::SaveEntry() {
-    const auto chooseFile = [this] { return dialogs_.ChooseFile("*.FIL", state_.settings.DataFile); };
-    if (!SaveRecord(input_->Entry(), chooseFile, messages_)) return;
+    const auto chooseFile = [this] { return dialogs_.ChooseFileToAddTo("*.FIL", state_.settings.DataFile); };
+    const SaveOutcome saved = SaveRecord(input_->Entry(), chooseFile, messages_);
+    if (saved.toCorrect) input_->FocusField(*saved.toCorrect);
+    if (!saved) return;
     state_.names.justSaved = true;
+    state_.names.savedHere = IsSameFile(*saved.file, PathFromText(state_.settings.DataFile));
     CloseCities();
     OpenNames();
+    // Enter in the list computes the saved record, or nobody else's.
+    if (!state_.names.savedHere) BringForward(*input_);
 }
 
 void BirthDesk::LookUpInAtlas() {

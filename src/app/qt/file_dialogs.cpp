@@ -8,7 +8,14 @@
 namespace tolvanis {
 
 std::string DesktopFileDialogs::ChooseFile(const std::string& pattern, const std::string& currentPath) {
-    SelectFIle chooser(directory_, pattern, currentPath, QApplication::activeWindow());
+    SelectFIle chooser(directory_, pattern, currentPath, FileUse::Read, QApplication::activeWindow());
+    chooser.exec();
+    return chooser.result();
+}
+
+std::string DesktopFileDialogs::ChooseFileToAddTo(const std::string& pattern,
+                                                  const std::string& currentPath) {
+    SelectFIle chooser(directory_, pattern, currentPath, FileUse::AddTo, QApplication::activeWindow());
     chooser.exec();
     return chooser.result();
 }

@@ -11,6 +11,7 @@ class DesktopFileDialogs : public FileDialogs {
     explicit DesktopFileDialogs(const Path& applicationDirectory) : directory_(applicationDirectory) {}
 
     std::string ChooseFile(const std::string& pattern, const std::string& currentPath) override;
+    std::string ChooseFileToAddTo(const std::string& pattern, const std::string& currentPath) override;
     std::string ChooseSaveFile(const SaveRequest& request) override;
 
   private:

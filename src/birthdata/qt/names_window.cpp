@@ -41,7 +41,7 @@ void Names::Show(RecordList names) {
     pane_->Show(
         names_.size(), [this](std::size_t row) { return NameAt(names_, row); }, ProblemText(names_.fault()));
     if (const auto position = RestoredPosition(state_, names_.size())) {
-        state_.rememberedIndex = position->selected;
+        if (!state_.justSaved) state_.rememberedIndex = position->selected;
         pane_->list().SetPosition(position->top, position->selected);
     }
     if (names_.fault()) TellNamesFault(*names_.fault(), messages_);

@@ -159,7 +159,7 @@ void InputD::UpdateAdvice() {
     const ZoneAdvice advice = adviser_(Entry());
     // A zone stays beside its number where the line breaks.
     lblAdvice_->setText(ToQt(advice.text).replace(QStringLiteral("zone "), QStringLiteral("zone\u00a0")));
-    lblAdvice_->setToolTip(ToQt(advice.text));
+    lblAdvice_->setToolTip(TipText(ToQt(advice.text)));
     lblAdvice_->setAccessibleDescription(ToQt(advice.text));
     advisedZone_ = advice.zone;
     cmdTakeZone_->setVisible(!advice.zone.empty());

@@ -99,7 +99,7 @@ bool RecordListView::viewportEvent(QEvent* event) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const QString text = indexAt(help->pos()).data().toString();
         const bool cut = fontMetrics().horizontalAdvance(text) > viewport()->width() - 2 * frameWidth();
-        QToolTip::showText(help->globalPos(), cut ? text.toHtmlEscaped() : QString(), this);
+        QToolTip::showText(help->globalPos(), cut ? TipText(text) : QString(), this);
         return true;
     }
     return QListView::viewportEvent(event);
@@ -211,7 +211,7 @@ void RecordListPane::LayOut() {
 
 void RecordListPane::ShowReading(const std::string& file) {
     fileLabel_->setText(ToQt(UpperCase(FileNamePart(file))));
-    fileLabel_->setToolTip(ToQt(file).toHtmlEscaped());
+    fileLabel_->setToolTip(TipText(ToQt(file)));
     list_->SetRecords(0, {});
     problemLabel_->hide();
     reading_ = true;
@@ -222,7 +222,7 @@ void RecordListPane::ShowReading(const std::string& file) {
 void RecordListPane::Show(std::size_t count, RecordListModel::TextAt textAt, const std::string& problem) {
     list_->SetRecords(count, std::move(textAt));
     problemLabel_->setText(ToQt(problem));
-    problemLabel_->setToolTip(ToQt(problem).toHtmlEscaped());
+    problemLabel_->setToolTip(TipText(ToQt(problem)));
     problemLabel_->setVisible(!problem.empty());
     reading_ = false;
     FindTyped();

@@ -10,4 +10,11 @@ inline QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// A tool tip that shows the text as it is, wrapped where it is long. (A tip without a tag would show the
+// escapes of an escaped text, and take "<b>" in another one for a tag.)
+inline QString TipText(const QString& text) {
+    if (text.isEmpty()) return {};
+    return QStringLiteral("<div style=\"white-space:pre-wrap\">%1</div>").arg(text.toHtmlEscaped());
+}
+
 }  // namespace tolvanis

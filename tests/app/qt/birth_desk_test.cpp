@@ -59,14 +59,38 @@ TEST_F(BirthDeskWindow, ASavedEntryIsAtTheEndOfTheListAndInTheBackupNot) {
     EXPECT_EQ(FileContent(directory_ / "NAMES.OLD"), before);
     EXPECT_EQ(dialogs_.choices.at(0), "*.FIL, beginning with " + state_.settings.DataFile);
     auto& list = Find<QListView>(*desk().names(), "NamesOnFile");
-    EXPECT_EQ(list.model()->index(list.model()->rowCount() - 1, 0).data().toString().toStdString(),
-              "Ann Smith");
+    EXPECT_EQ(list.currentIndex().row(), list.model()->rowCount() - 1);
+    EXPECT_EQ(list.currentIndex().data().toString().toStdString(), "Ann Smith");
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex())));
 
     messages_.answers = {Answer::Yes};
     Press(input(), "cmdSave");
     EXPECT_EQ(messages_.asked.size(), 1U);
     EXPECT_EQ(NamesText(), before + "Ann Smith,22 Sep 1949,9.05,P,4,073.59,40.45\r\n")
         << "replaced, not doubled";
+}
+
+TEST_F(BirthDeskWindow, ARecordSavedInAnotherListLeavesTheUserWithTheEntry) {
+    TypeBirth();
+    dialogs_.answer = (directory_ / "FRIENDS.FIL").string();
+    Press(input(), "cmdSave");
+    Settle();
+    EXPECT_EQ(FileContent(dialogs_.answer), "Ann Smith,22 Sep 1949,9.05,P,4,073.59,40.45\r\n");
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&input()));
+    EXPECT_LE(Find<QListView>(*desk().names(), "NamesOnFile").currentIndex().row(), 0);
+}
+
+TEST_F(BirthDeskWindow, WhatCannotBeComputedIsNotSaved) {
+    const std::string before = NamesText();
+    TypeBirth();
+    Type(input(), "txtBirthMinute", "\b");
+    dialogs_.answer = (directory_ / "NAMES.FIL").string();
+    Press(input(), "cmdSave");
+    EXPECT_EQ(messages_.TakeTold(),
+              std::vector<std::string>{"Warning!: Error in natal input data section. Please correct."});
+    EXPECT_TRUE(Find<QLineEdit>(input(), "txtBirthMinute").hasFocus());
+    EXPECT_TRUE(dialogs_.choices.empty());
+    EXPECT_EQ(NamesText(), before);
 }
 
 TEST_F(BirthDeskWindow, ACityFillsThePlaceAndNothingElse) {

@@ -871,7 +871,7 @@ TEST_F(DesktopWindow, RestoredOptionsAreShownAndAFailedRestoreChangesNothing) {
 
 TEST(FileChooser, HasTwoEqualColumnsInWhichLongNamesAreRead) {
     const ScratchDirectory directory;
-    const std::string longName = "the long list of all the people whom we have ever met in our lives.FIL";
+    const std::string longName = "the long  list of <b>all the people & beasts whom we have ever met.FIL";
     for (const std::string& name : {std::string("A.FIL"), longName}) directory.Write(name, "");
     std::filesystem::create_directory(directory / "sub");
     SelectFIle chooser(directory.path(), "*.FIL", "");
@@ -884,7 +884,7 @@ TEST(FileChooser, HasTwoEqualColumnsInWhichLongNamesAreRead) {
     EXPECT_EQ(icon(0).toImage(), icon(directories.count() - 1).toImage());
     EXPECT_GT(files.visualItemRect(files.item(1)).height(), files.visualItemRect(files.item(0)).height());
     EXPECT_LE(files.visualItemRect(files.item(1)).right(), files.viewport()->width());
-    EXPECT_EQ(files.item(1)->toolTip().toStdString(), longName);
+    EXPECT_EQ(ShownTip(files.item(1)->toolTip()), longName);
     Find<QPushButton>(chooser, "cmdCancel").setFocus();
     QTest::keyClick(&Find<QPushButton>(chooser, "cmdCancel"), Qt::Key_Return);
     EXPECT_EQ(chooser.result(), "") << "Enter on Cancel cancels";
@@ -927,6 +927,55 @@ TEST(FileChooser, ChoosesByKeyboardAndByDirectory) {
     Press(chooser, "cmdSelect");
     Press(chooser, "cmdCancel");
     EXPECT_EQ(chooser.result(), "");
+}
+
+TEST(FileChooser, OffersNoOtherListToBeAddedTo) {
+    const ScratchDirectory directory, applicationDirectory;
+    for (const char* name : {"A.FIL", "z.fil", "X.TXT"}) directory.Write(name, "");
+    applicationDirectory.Write("NAMES.FIL", "");
+    std::filesystem::create_symlink("nowhere", directory / "LINK.FIL");
+    std::filesystem::create_directory(directory / "DIR.FIL");
+    const struct {
+        std::string current, chosen;
+        int files;
+    } cases[] = {{(directory / "Z.FIL").string(), (directory / "z.fil").string(), 2},
+                 {(directory / "New.FIL").string(), (directory / "New.FIL").string(), 3},
+                 {(directory / "LINK.FIL").string(), (directory / "LINK.FIL").string(), 3},
+                 {(directory / "DIR.FIL").string(), "", 2},
+                 {(directory / "X.TXT").string(), "", 2},
+                 {(directory / "gone/NAMES.FIL").string(), "", 1},
+                 {"", "", 1}};
+    for (const auto& test : cases) {
+        SelectFIle chooser(applicationDirectory.path(), "*.FIL", test.current, FileUse::AddTo);
+        chooser.show();
+        auto& files = Find<QListWidget>(chooser, "filList");
+        EXPECT_EQ(files.count(), test.files) << test.current;
+        EXPECT_EQ(Find<QPushButton>(chooser, "cmdSelect").isEnabled(), !test.chosen.empty()) << test.current;
+        files.setFocus();
+        QTest::keyClick(&files, Qt::Key_Return);
+        EXPECT_EQ(chooser.result(), test.chosen);
+        if (!test.chosen.empty()) continue;
+        files.setCurrentRow(0);
+        Press(chooser, "cmdSelect");
+        EXPECT_NE(chooser.result(), "") << "the user has chosen";
+    }
+    SelectFIle reader(directory.path(), "*.FIL", (directory / "NEW.FIL").string());
+    Press(reader, "cmdSelect");
+    EXPECT_EQ(reader.result(), (directory / "A.FIL").string()) << "to be read, a file must be there";
+}
+
+TEST(FileChooser, FindsDirectoriesByTheirFirstLetters) {
+    const ScratchDirectory directory;
+    for (const char* name : {"alpha", "beta", "zeta"}) std::filesystem::create_directory(directory / name);
+    SelectFIle chooser(directory.path(), "*.FIL", "");
+    chooser.show();
+    auto& directories = Find<QListWidget>(chooser, "dirList");
+    directories.setFocus();
+    QTest::keyClicks(&directories, QStringLiteral("ze"));
+    EXPECT_EQ(directories.currentItem()->text(), QStringLiteral("zeta"));
+    QTest::keyClick(&directories, Qt::Key_Return);
+    EXPECT_EQ(directories.currentItem()->text(), QStringLiteral("zeta")) << "the one that is shown";
+    EXPECT_EQ(directories.currentRow(), directories.count() - 1) << "inside it there is none";
 }
 
 }  // namespace

@@ -162,7 +162,7 @@ TEST_F(NamesWindowTest, ALongFileNameDoesNotWidenTheWindow) {
     QCoreApplication::processEvents();
     EXPECT_EQ(window->minimumSizeHint().width(), width);
     EXPECT_EQ(Find<QLabel>("lblNamesOnFile")->text().size(), 204);
-    EXPECT_TRUE(Find<QLabel>("lblNamesOnFile")->toolTip().endsWith("WW.fil"));
+    EXPECT_TRUE(ShownTip(Find<QLabel>("lblNamesOnFile")->toolTip()).ends_with("WW.fil"));
     window->ChangeFile("/gone/" + std::string(200, 'W') + ".fil");
     EXPECT_TRUE(Find<QLabel>("lblProblem")->isVisible());
     EXPECT_EQ(window->minimumSizeHint().width(), width);
