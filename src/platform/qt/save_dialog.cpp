@@ -6,6 +6,7 @@
 
 #include "platform/files.h"
 #include "platform/qt/message_boxes.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/text.h"
 
 namespace tolvanis {
@@ -21,6 +22,7 @@ Path AskForFile(const SaveRequest& request) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDirectory(ToQt(request.directory.string()));
     dialog.selectFile(ToQt(request.proposedName));
+    ResizeToFit(dialog, dialog.size());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     const Path typed(dialog.selectedFiles().constFirst().toStdString());
     return typed.parent_path() / NameWithExtension(typed.filename().string(), request);

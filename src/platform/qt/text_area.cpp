@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QTextDocument>
+#include <QTextOption>
 
 #include "platform/qt/listing_font.h"
 #include "platform/qt/text.h"
@@ -15,6 +16,10 @@ QPlainTextEdit* MakeTextArea(const char* objectName, const char* accessibleName)
     area->setFont(ListingFont(10.0));
     area->setLineWrapMode(QPlainTextEdit::NoWrap);
     area->setTabChangesFocus(true);
+    // The fields of a record and the columns of a table keep their order, whatever script a name is in.
+    QTextOption order = area->document()->defaultTextOption();
+    order.setTextDirection(Qt::LeftToRight);
+    area->document()->setDefaultTextOption(order);
     const QFontMetrics metrics(area->font());
     area->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('M')) * 40, metrics.lineSpacing() * 8);
     return area;

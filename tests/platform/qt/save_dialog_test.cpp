@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <deque>
 #include <functional>
@@ -28,6 +29,8 @@ class DialogUser {
         steps_.emplace_back([this, name](QWidget& dialog) {
             if (qobject_cast<QFileDialog*>(&dialog) == nullptr) return false;
             auto& box = Find<QLineEdit>(dialog, "fileNameEdit");
+            const QSize screen = dialog.screen()->availableSize();
+            EXPECT_TRUE(dialog.size().boundedTo(screen) == dialog.size()) << "every button can be reached";
             directories.push_back(static_cast<QFileDialog&>(dialog).directory().path().toStdString());
             proposed.push_back(box.text().toStdString());
             if (name == nullptr) return static_cast<QDialog&>(dialog).reject(), true;
@@ -117,6 +120,19 @@ TEST(SaveDialog, AsksAgainInTheDirectoryThatTheUserWentTo) {
     user.Say(QMessageBox::Yes);
     EXPECT_EQ(ShowSaveDialog({directory.path(), "Ann.DOC", "Data Files", "*.DOC", "doc"}), there);
     EXPECT_EQ(user.directories, (std::vector{directory.path().string(), (directory / "Reports").string()}));
+}
+
+TEST(SaveDialog, FitsTheScreenInLargeLetters) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(40);
+    QApplication::setFont(large);
+    DialogUser user;
+    user.Cancel();
+    const ScratchDirectory directory;
+    EXPECT_EQ(ShowSaveDialog({directory.path(), "Ann.DOC", "Data Files", "*.DOC", "doc"}), "");
+    EXPECT_TRUE(user.IsDone());
+    QApplication::setFont(usual);
 }
 
 }  // namespace
