@@ -15,8 +15,8 @@ TEST(TextArea, KeepsTheFieldsOfARecordInTheirOrder) {
     for (const char* name : {"Ann", "\u05D3\u05D5\u05D3", "\u0627\u062D\u0645\u062F"}) {
         SetAreaText(*area, std::string(name) + ",22 Sep 1949,9.05,A,5,073.59,40.45\r\n");
         QTextCursor cursor(area->document());
-        int left = 0;
-        for (const char* field : {"Sep", "9.05", "A,5", "073.59", "40.45"}) {
+        int left = -1;
+        for (const char* field : {name, "Sep", "9.05", "A,5", "073.59", "40.45"}) {
             cursor = area->document()->find(QString::fromUtf8(field), cursor);
             EXPECT_GT(area->cursorRect(cursor).x(), left) << name << field;
             left = area->cursorRect(cursor).x();
