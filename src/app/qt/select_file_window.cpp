@@ -205,7 +205,8 @@ void SelectFIle::FillFiles() {
         QListWidgetItem* item = AddItem(*filList_, QStyle::SP_FileIcon, directory_ / name, name);
         if (IsNew(name)) item->setToolTip(TipText(ToQt(name + " does not exist yet; saving makes it.")));
     }
-    filList_->setCurrentRow(RowToSelect(names));
+    // Told in so many words that none is current, the list waits for the first key and then selects.
+    filList_->setCurrentIndex(filList_->model()->index(RowToSelect(names), 0));
     EnableSelect();
 }
 
@@ -231,7 +232,6 @@ int SelectFIle::RowToSelect(const std::vector<std::string>& names) const {
     return found == names.end() ? -1 : static_cast<int>(found - names.begin());
 }
 
-// The selected one: the list makes one current as soon as it has the focus.
 QListWidgetItem* SelectFIle::ChosenFile() const {
     return filList_->selectedItems().value(0);
 }

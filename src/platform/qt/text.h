@@ -13,8 +13,11 @@ inline QString ToQt(std::string_view text) {
 // A tool tip that shows the text as it is, wrapped where it is long. (A tip without a tag would show the
 // escapes of an escaped text, and take "<b>" in another one for a tag.)
 inline QString TipText(const QString& text) {
+    constexpr int kWidestTip = 80;
     if (text.isEmpty()) return {};
-    return QStringLiteral("<div style=\"white-space:pre-wrap\">%1</div>").arg(text.toHtmlEscaped());
+    const auto* wrapping = text.size() > kWidestTip ? "pre-wrap" : "pre";
+    return QStringLiteral("<div style=\"white-space:%1\">%2</div>")
+        .arg(QLatin1String(wrapping), text.toHtmlEscaped());
 }
 
 }  // namespace tolvanis
