@@ -409,8 +409,10 @@ Result<FoundPlace> Atlas::FindOne(std::string_view text) const {
     const std::vector<Hit> hits = coordinates ? HitsOf(Wanted(name, false), true) : PlacesMeant(name);
     if (hits.empty()) return Fault{NoPlace(text) + Elsewhere(name)};
     if (coordinates) {
-        const auto there =
-            std::ranges::find_if(hits, [&](const Hit& hit) { return coordinates->AreOf(At(hit.place)); });
+        const auto isThere = [&, &wanted = *coordinates](const Hit& hit) {
+            return wanted.AreOf(At(hit.place));
+        };
+        const auto there = std::ranges::find_if(hits, isThere);
         if (there != hits.end()) return FoundPlace{there->place, false};
         return Fault{NoPlace(text) + "; elsewhere:" + ListOf(hits)};
     }
