@@ -260,7 +260,8 @@ TEST(ChartCommand, AFileIsReplacedByChartsOrNotAtAll) {
     EXPECT_EQ(errors, "/no/such/file: cannot be read: No such file or directory\n");
     EXPECT_EQ(FileContent(file), "of yesterday");
     const auto list = directory.Write("my.fil", "Zoe" + kRest);
-    const auto itself = ParseCommandLine(std::vector<std::string_view>{"--names", list.native()});
+    const auto itself = ParseCommandLine(
+        std::vector<std::string_view>{"--names", list.native(), "--app-dir", DELIVERED_DATA_DIR});
     std::ostringstream told;
     EXPECT_EQ(RunChartCommandIntoFile(*itself, directory / "my.fil", told, kHost), kSomethingRefused);
     EXPECT_THAT(told.str(), HasSubstr("my.fil, which is read"));
