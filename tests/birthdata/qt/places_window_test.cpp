@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -64,6 +65,25 @@ TEST(TimeZoneWindowTest, DeliveredZonesCanAllBePicked) {
 }
 
 // An atlas that does what its shell script says.
+// Our own atlas has no use without the program; another one is its user's.
+TEST(ExternalProgram, AtExitTheOwnOneEndsAndAnotherGoesOn) {
+    const std::pair<AtExit, const char*> cases[] = {{AtExit::EndIt, "ENDED"}, {AtExit::LeaveIt, "WENT_ON"}};
+    for (const auto& [atExit, mark] : cases) {
+        const ScratchDirectory directory;
+        const Path program = directory.Write("Atlas.exe",
+                                             "#!/bin/sh\ntrap 'touch ENDED; exit' TERM\nfor i in 1 2 3 4 5; "
+                                             "do sleep 0.1; done\ntouch WENT_ON\n");
+        ::chmod(program.c_str(), 0755);
+        ProgramRun run = ProgramRun::NotStarted;
+        QTimer::singleShot(0, [&, &end = atExit] { run = RunAndWait(program, end); });
+        QTimer::singleShot(200, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+        EXPECT_EQ(run, ProgramRun::Abandoned);
+        EXPECT_TRUE(QTest::qWaitFor([&, name = mark] { return std::filesystem::exists(directory / name); }))
+            << mark;
+    }
+}
+
 TEST(AtlasWindowTest, RunsARealProgram) {
     struct Case {
         const char* what;
