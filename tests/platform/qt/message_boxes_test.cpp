@@ -28,7 +28,7 @@ TEST(MessageBoxes, EnterGivesThePresetAnswerAndEscapeNo) {
     for (const auto& [preset, key, answer] :
          {std::tuple{Answer::Yes, Qt::Key_Return, true}, std::tuple{Answer::No, Qt::Key_Return, false},
           std::tuple{Answer::Yes, Qt::Key_Escape, false}}) {
-        WithNextBox([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+        WithNextBox([pressed = key](QMessageBox& box) { QTest::keyClick(&box, pressed); });
         EXPECT_EQ(messages.AskYesNo("Ann already exists", "Replace it?", preset), answer);
     }
 }
