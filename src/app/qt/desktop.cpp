@@ -82,7 +82,10 @@ void Desktop::StartSettings() {
 
 bool Desktop::StartOptions() {
     const Result<int> read = LoadOptions(state_.files, state_.options);
-    if (read) return TellShortOptions(*read), true;
+    if (read) {
+        TellShortOptions(*read);
+        return true;
+    }
     const std::string fault = read.message();
     const Path master = state_.files.Find(kOptionsMasterName);
     if (!IsReadableFile(master)) {
